@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+// Owners for the handles of libcups.
+
+namespace tavrin {
+
+struct PPDCloser {
+  void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
+};
+using PPDPtr = std::unique_ptr<ppd_file_t, PPDCloser>;
+
+struct HttpCloser {
+  void operator()(http_t* http) const { httpClose(http); }
+};
+using HttpPtr = std::unique_ptr<http_t, HttpCloser>;
+
+struct IppDeleter {
+  void operator()(ipp_t* message) const { ippDelete(message); }
+};
+using IppPtr = std::unique_ptr<ipp_t, IppDeleter>;
+
+struct CupsFileCloser {
+  void operator()(cups_file_t* file) const { cupsFileClose(file); }
+};
+using CupsFilePtr = std::unique_ptr<cups_file_t, CupsFileCloser>;
+
+}  // namespace tavrin
