@@ -128,12 +128,18 @@ class Window {
 // answers 0, false or absent.
 template <class T>
 T& nullObject();
-extern template View& nullObject<View>();
-extern template PopUpButton& nullObject<PopUpButton>();
-extern template Button& nullObject<Button>();
-extern template Slider& nullObject<Slider>();
-extern template Label& nullObject<Label>();
-extern template Window& nullObject<Window>();
+template <>
+View& nullObject<View>();
+template <>
+PopUpButton& nullObject<PopUpButton>();
+template <>
+Button& nullObject<Button>();
+template <>
+Slider& nullObject<Slider>();
+template <>
+Label& nullObject<Label>();
+template <>
+Window& nullObject<Window>();
 
 // Where a controller reaches one object of its interface file. Never null to its users: until the
 // file connects it, it stands on the null object.
