@@ -32,7 +32,7 @@ void show(Label& label, const OptString& text) {
 // --- The loop ---
 
 void TavConflictController::processConflict() {
-  loadWindows();
+  const bool haveWindows = loadWindows();
   selectFirstMsgOne();
   selectFirstMsgTwo();
   selectFirstMsgFive();
@@ -41,21 +41,26 @@ void TavConflictController::processConflict() {
   HAS_PRINTINBLACK_INSTRUCTION = false;
   HAS_CARTINSTALLED_INSTRUCTION = false;
   HAS_PAPERSIZE_INSTRUCTION = false;
+  if (!haveWindows) return;
 
   const std::weak_ptr<const bool> alive = life;
+  const auto keptWhileShown = windows;
   for (auto codes = validateConflict(); !codes.empty(); codes = validateConflict()) {
     const bool stopped = showConflict(codes.front());
     if (!stopped || alive.expired()) return;
   }
 }
 
-void TavConflictController::loadWindows() {
-  if (ibMsgOneWindow.isConnected() && ibMsgTwoWindow.isConnected() &&
-      ibMsgFiveWindow.isConnected() && ibInstructionWindow.isConnected()) {
-    return;
-  }
-  if (windows) windows->detach();
-  windows = Toolkit::current().loadInterface(plugInBundle(), "Conflicts", bindings());
+// Whether all four windows are there.
+bool TavConflictController::loadWindows() {
+  const auto complete = [this] {
+    return ibMsgOneWindow.isConnected() && ibMsgTwoWindow.isConnected() &&
+           ibMsgFiveWindow.isConnected() && ibInstructionWindow.isConnected();
+  };
+  if (complete()) return true;
+  auto loaded = Toolkit::current().loadInterface(plugInBundle(), "Conflicts", bindings());
+  if (loaded) windows.push_back(std::move(loaded));
+  return complete();
 }
 
 // False when no further window can be shown.
