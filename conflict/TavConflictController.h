@@ -102,14 +102,15 @@ class TavConflictController {
   void offerMsgOne(InterfaceBindings& bindings);
   void offerMsgTwo(InterfaceBindings& bindings);
   void offerMsgFive(InterfaceBindings& bindings);
-  bool showConflict(int code);
-  bool runWindow(Window& window);
-  bool showInstructions();
+  void showConflict(int code);
+  void runWindow(Window& window);
   void selectFirstMsgOne();
   void selectFirstMsgTwo();
   void selectFirstMsgFive();
-  bool showInstructionsOfMsgTwo();
-  bool showInstructionsOfMsgFive();
+  void resolveConflictsOfMsgTwo();
+  void resolveConflictsOfMsgFive();
+  void showInstructionsOfMsgTwo();
+  void showInstructionsOfMsgFive();
   void ignoreConflictsOfMsgTwo();
   std::string paperTypeLine() const;
   std::string paperSizeLine() const;
@@ -177,6 +178,8 @@ class TavConflictController {
   Outlet<Window> ibInstructionWindow;
   Outlet<Label> ibInstructionText;
 
+  // False once a window was not answered because the program is ending.
+  bool canShowWindows = true;
   // More than one only where the first ones lacked a window: outlets may stand on any of them.
   std::vector<std::shared_ptr<LoadedInterface>> windows;
   // Expires with this object, for operations that must notice that they outlived it.
