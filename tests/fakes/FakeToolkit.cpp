@@ -114,6 +114,7 @@ void FakeInterface::press(const std::string& control, const std::string& action)
 std::shared_ptr<LoadedInterface> FakeToolkit::loadInterface(const Bundle&, const std::string& name,
                                                             InterfaceBindings bindings) {
   if (std::find(missing.begin(), missing.end(), name) != missing.end()) return nullptr;
+  for (const std::string& outlet : unconnected) bindings.outlets.erase(outlet);
   auto made = std::make_shared<FakeInterface>(std::move(bindings));
   loaded[name] = made;
   std::erase_if(everyLoaded, [](const auto& each) { return each.expired(); });

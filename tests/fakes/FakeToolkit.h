@@ -160,6 +160,8 @@ class FakeToolkit final : public Toolkit {
   std::vector<std::string> shown;
   // Interface files that cannot be loaded.
   std::vector<std::string> missing;
+  // Outlets that no object of an interface file has.
+  std::vector<std::string> unconnected;
   // Called on each new interface before its owner goes on: the file's initial state.
   std::function<void(const std::string& name, FakeInterface&)> onLoad;
 
