@@ -1,5 +1,8 @@
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <system_error>
 #include <vector>
 
 #include "platform/PropertyListGuard.h"
@@ -36,6 +39,28 @@ std::size_t moveCount(string_view list) {
     list.remove_prefix(std::min(text.size() + 1, list.size()));
   }
   return moves;
+}
+
+// Whether a character reference, without its "&#" and ";", means a character.
+bool isCharacter(string_view reference) {
+  const bool isHex = reference.starts_with('x');
+  if (isHex) reference.remove_prefix(1);
+  std::uint32_t value = 0;
+  const char* end = reference.data() + reference.size();
+  const auto read = std::from_chars(reference.data(), end, value, isHex ? 16 : 10);
+  return read.ec == std::errc() && read.ptr == end && value > 0 && value <= 0x10FFFF;
+}
+
+// libplist ends the program over a key with a NUL inside, which only a reference can put there.
+bool hasSoundReferences(string_view list) {
+  constexpr std::size_t kLongest = 12;
+  for (std::size_t at = 0; (at = list.find("&#", at)) != string_view::npos;) {
+    at += 2;
+    const string_view near = list.substr(at, kLongest);
+    const std::size_t end = near.find(';');
+    if (end == string_view::npos || !isCharacter(near.substr(0, end))) return false;
+  }
+  return true;
 }
 
 // Follows the open elements from tag to tag.
@@ -119,7 +144,7 @@ bool Nesting::leave() {
 
 bool isHarmlessXmlList(std::string_view bytes) {
   return bytes.find('\0') == string_view::npos && elementCount(bytes) <= kElementLimit &&
-         moveCount(bytes) <= kMoveLimit && Nesting(bytes).isHarmless();
+         moveCount(bytes) <= kMoveLimit && hasSoundReferences(bytes) && Nesting(bytes).isHarmless();
 }
 
 }  // namespace tavrin
