@@ -54,6 +54,7 @@ void TavConflictController::loadWindows() {
       ibMsgFiveWindow.isConnected() && ibInstructionWindow.isConnected()) {
     return;
   }
+  if (windows) windows->detach();
   windows = Toolkit::current().loadInterface(plugInBundle(), "Conflicts", bindings());
 }
 
