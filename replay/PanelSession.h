@@ -23,10 +23,12 @@ class PanelSession {
   static Result<std::unique_ptr<PanelSession>> open(const std::string& id, PDEPlugIn& plugIn,
                                                     EventLog& log, const ReplayCommand& command);
   ~PanelSession();
+  PanelSession(const PanelSession&) = delete;
+  PanelSession& operator=(const PanelSession&) = delete;
 
   const std::string& id() const { return name; }
   PDEPanel& panel() { return *pdePanel; }
-  ReplayHost& host() { return *callback; }
+  ReplayHost& host() { return *dialog; }
 
   // Asks the panel for its view.
   void askForView();
@@ -42,11 +44,11 @@ class PanelSession {
   Json state() const;
 
  private:
-  PanelSession(std::string id, std::unique_ptr<ReplayHost> host);
+  PanelSession(std::string id, std::unique_ptr<ReplayHost> panelHost);
   void showOnceReady();
 
   std::string name;
-  std::unique_ptr<ReplayHost> callback;  // has the PPD, so it outlives the panel
+  std::unique_ptr<ReplayHost> dialog;  // has the PPD, so it outlives the panel
   std::unique_ptr<PDEPanel> pdePanel;
   std::shared_ptr<View> view;
   std::unique_ptr<QWidget> window;

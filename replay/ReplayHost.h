@@ -3,40 +3,40 @@
 #include <string>
 
 #include "host/HostJob.h"
-#include "platform/PrintDialogExtension.h"
+#include "host/PanelHost.h"
 #include "ppd/CupsHandles.h"
 #include "replay/EventLog.h"
 
 namespace tavrin {
 
-// The Print dialog as a panel sees it: a printer's PPD, a job's settings and paper, and somebody
-// who writes down what the panel tells it.
-class ReplayHost : public PDEPlugInCallback {
+// The Print dialog behind one panel: a printer's PPD with its marks, a job's settings and paper,
+// and somebody who writes down what the panel tells the dialog.
+class ReplayHost {
  public:
-  // Takes the PPD, which may be null.
-  ReplayHost(std::string id, EventLog& eventLog, PPDPtr printerPPD)
-      : panel(std::move(id)), log(eventLog), ppd(std::move(printerPPD)) {}
+  // The id is the panel's, for the log. Takes the PPD, which may be null.
+  ReplayHost(const std::string& id, EventLog& log, PPDPtr printerPPD);
+  ReplayHost(const ReplayHost&) = delete;
+  ReplayHost& operator=(const ReplayHost&) = delete;
 
-  ppd_file_s* ppdFile() override { return ppd.get(); }
-  const PMPrintSettings* printSettings() override { return &settings; }
-  const PMPageFormat* pageFormat() override { return &format; }
-  // Marks the choice in the PPD; an absent or unknown one marks nothing.
-  bool willChangePPDOptionKeyValue(const std::string& key, const OptString& ppdChoice) override;
-  void panelViewDidResize() override { log.viewDidResize(panel); }
+  // What the panel talks to.
+  PDEPlugInCallback& callback() { return panelHost; }
 
+  // Every option's default choice becomes the marked one.
+  void markDefaults() { ppdMarkDefaults(ppd.get()); }
   // Marks a choice, telling nobody. An option or choice that the PPD lacks marks nothing.
   void mark(const std::string& key, const std::string& choice);
   // Takes the option's mark away, telling nobody.
   void unmark(const std::string& key);
-  void setPaper(const OptString& ppdPaperName);
-  void setColumns(const OptString& columns);
+
+  // Null takes the paper, or the layout-columns setting, away.
+  void setPaper(const OptString& ppdPaperName) { format.setPaper(ppdPaperName); }
+  void setColumns(const OptString& columns) { settings.setValue(kPMLayoutColumns, columns); }
 
  private:
-  std::string panel;
-  EventLog& log;
   PPDPtr ppd;
   HostPrintSettings settings;
   HostPageFormat format;
+  PanelHost panelHost;
 };
 
 }  // namespace tavrin

@@ -67,7 +67,7 @@ Replayer::Answer Replayer::initWithBundle(const ReplayCommand& command) {
 Replayer::Answer Replayer::panelsForType(const ReplayCommand& command) {
   EventLog unread;
   ReplayHost host("", unread, nullptr);
-  const auto made = plugIn.PDEPanelsForType(command.type, &host);
+  const auto made = plugIn.PDEPanelsForType(command.type, &host.callback());
   return Json{{"panels", made ? Json(made->size()) : Json(nullptr)}};
 }
 

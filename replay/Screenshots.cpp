@@ -24,8 +24,8 @@ Result<Screenshots> Screenshots::inFolder(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error)
-    return Failure{"The folder \"" + folder.string() + "\" for the pictures cannot be made: " +
-                   error.message() + "."};
+    return Failure{"The folder \"" + folder.string() +
+                   "\" for the pictures cannot be made: " + error.message() + "."};
   Screenshots pictures;
   pictures.folder = folder;
   return pictures;

@@ -1,9 +1,7 @@
 #include "replay/WindowAnswers.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QPointer>
-#include <QTimer>
+#include <QCoreApplication>
 #include <QWidget>
 
 #include "replay/WidgetState.h"
@@ -34,13 +32,13 @@ void WindowAnswers::expect(const std::vector<WindowAnswer>& commandAnswers) {
 void WindowAnswers::windowCameUp(QWidget& window) {
   log.windowShown(windowName(window), windowContents(window));
   pictures.window(windowName(window), window);
-  QTimer::singleShot(0, &window, [this, &window] { workNext(window); });
+  workNext(window);
 }
 
 void WindowAnswers::workNext(QWidget& window) {
   if (answers.empty()) {
     unanswered = windowName(window);
-    QCoreApplication::quit();
+    QCoreApplication::exit();
     return;
   }
   const WindowAnswer answer = answers.front();

@@ -23,7 +23,7 @@ class WindowAnswers {
   // The answers of the command that is about to run.
   void expect(const std::vector<WindowAnswer>& commandAnswers);
 
-  // A window has come up and its events are about to be handled.
+  // A window has come up; called from inside its modal run.
   void windowCameUp(QWidget& window);
 
   // What went wrong with the answers of the command, in sentences; empty when nothing did. An
