@@ -106,10 +106,11 @@ std::shared_ptr<LoadedInterface> FakeToolkit::loadInterface(const Bundle&, const
 
 bool FakeToolkit::runModalForWindow(Window& window) {
   const auto windows = interface("Conflicts");
-  for (const auto& [name, fake] : windows ? windows->windows : decltype(windows->windows){}) {
+  if (!windows) return false;
+  for (const auto& [name, fake] : windows->windows) {
     if (fake.get() == &window) shown.push_back(name);
   }
-  if (!windows || answers.empty()) return false;
+  if (answers.empty()) return false;
   const Answer answer = std::move(answers.front());
   answers.pop_front();
   stopped.push_back(false);
