@@ -1,0 +1,105 @@
+#include "host/CommandLine.h"
+
+#include <cups/cups.h>
+#include <QCommandLineParser>
+
+namespace tavrin {
+
+namespace {
+
+const QCommandLineOption kPrinter({"d"}, "Print on this printer.", "printer[/instance]");
+const QCommandLineOption kPPD({"ppd"}, "Use this printer description, with no queue.", "file");
+const QCommandLineOption kSample({"sample"}, "Use the sample printer, with no queue.");
+const QCommandLineOption kOutput({"output"}, "Where jobs go that have no queue.", "folder");
+const QCommandLineOption kCopies({"n"}, "Print this many copies.", "copies");
+const QCommandLineOption kTitle({"t"}, "Name the job.", "title");
+const QCommandLineOption kOption({"o"}, "Set an option of the job.", "name=value");
+const QCommandLineOption kHelp({"h", "help"}, "Show this help.");
+const QCommandLineOption kVersion({"version"}, "Show the version.");
+
+constexpr int kMostCopies = 9999;
+
+Failure failure(const QString& sentence) {
+  return {(sentence + " See tavrin-print --help.").toStdString()};
+}
+
+void addOptions(const std::string& text, CommandLine& line) {
+  cups_option_t* options = nullptr;
+  const int count = cupsParseOptions(text.c_str(), 0, &options);
+  for (int i = 0; i < count; ++i) line.options.emplace_back(options[i].name, options[i].value);
+  cupsFreeOptions(count, options);
+}
+
+// The number of copies; 0 for what is none.
+int copiesFrom(const QString& text) {
+  const int copies = text.toInt();
+  return copies <= kMostCopies ? std::max(copies, 0) : 0;
+}
+
+Result<CommandLine> filledIn(const QCommandLineParser& parser) {
+  CommandLine line;
+  line.destination = parser.value(kPrinter).toStdString();
+  line.ppd = parser.value(kPPD).toStdString();
+  line.sample = parser.isSet(kSample);
+  if (parser.isSet(kOutput)) line.output = parser.value(kOutput).toStdString();
+  if (parser.isSet(kCopies)) line.copies = copiesFrom(parser.value(kCopies));
+  line.title = parser.value(kTitle).toStdString();
+  for (const QString& text : parser.values(kOption)) addOptions(text.toStdString(), line);
+  const QStringList documents = parser.positionalArguments();
+  if (!documents.isEmpty()) line.document = documents.front().toStdString();
+  return line;
+}
+
+// What is wrong with arguments that can each be read; empty when nothing is.
+QString disagreement(const QCommandLineParser& parser) {
+  if (parser.positionalArguments().size() > 1)
+    return "Only one document can be printed at a time.";
+  if (parser.isSet(kCopies) && copiesFrom(parser.value(kCopies)) == 0)
+    return QString("“%1” is not a number of copies; it goes from 1 to %2.")
+        .arg(parser.value(kCopies))
+        .arg(kMostCopies);
+  if (parser.isSet(kPPD) + parser.isSet(kSample) + parser.isSet(kPrinter) > 1)
+    return "Only one of -d, --ppd and --sample can be given.";
+  if (parser.isSet(kOutput) && !parser.isSet(kPPD) && !parser.isSet(kSample))
+    return "--output needs --ppd or --sample: other jobs go to a print queue.";
+  return {};
+}
+
+void addAll(QCommandLineParser& parser) {
+  parser.addOptions({kPrinter, kPPD, kSample, kOutput, kCopies, kTitle, kOption, kHelp, kVersion});
+  parser.addPositionalArgument("file", "The document; - or none for standard input.", "[file | -]");
+}
+
+}  // namespace
+
+Result<CommandLine> parseCommandLine(const QStringList& arguments) {
+  QCommandLineParser parser;
+  addAll(parser);
+  // The parser expects the program's name in front.
+  if (!parser.parse(QStringList{"tavrin-print"} + arguments))
+    return failure(parser.errorText() + ".");
+  if (const QString problem = disagreement(parser); !problem.isEmpty()) return failure(problem);
+  Result<CommandLine> line = filledIn(parser);
+  if (parser.isSet(kVersion)) line->wish = CommandLine::Wish::version;
+  if (parser.isSet(kHelp)) line->wish = CommandLine::Wish::help;
+  return line;
+}
+
+std::string usage() {
+  return "Usage: tavrin-print [-d PRINTER[/INSTANCE]] [--ppd FILE] [--sample] [--output DIR]\n"
+         "                    [-n COPIES] [-t TITLE] [-o NAME=VALUE]... [FILE | -]\n"
+         "Shows the Print dialog for a document and prints it.\n\n"
+         "  -d PRINTER[/INSTANCE]  the printer to begin with; else the default printer\n"
+         "  --ppd FILE             a printer that has this description and no queue\n"
+         "  --sample               the sample printer and, with no FILE, the sample document\n"
+         "  --output DIR           where the jobs of a printer without a queue are put,\n"
+         "                         each in a folder of its own; else the current folder\n"
+         "  -n COPIES              how many copies, from 1 to 9999\n"
+         "  -t TITLE               the job's name; else the document's\n"
+         "  -o NAME=VALUE          an option of the job, as for lp; may be repeated\n"
+         "  FILE                   the document; - or none is standard input\n"
+         "  --help, --version      show this text or the version, and print nothing\n\n"
+         "Exit status: 0 printed, 1 cancelled, 2 wrong usage, 3 could not print.\n";
+}
+
+}  // namespace tavrin
