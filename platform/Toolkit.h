@@ -191,7 +191,7 @@ class LoadedInterface {
   virtual ~LoadedInterface() = default;
 
   // The owner goes away: from now on no action runs and no delegate is told. Its windows close
-  // unseen by it.
+  // unseen by it; a modal run of one of them ends.
   virtual void detach() = 0;
 
   // Every name in which file and owner disagree, one sentence each: an outlet that no object of
@@ -222,7 +222,8 @@ class Toolkit {
   // shown: the caller then shows nothing more and returns.
   virtual bool runModalForWindow(Window& window) = 0;
 
-  // Ends the innermost run that has not been stopped yet; nothing when there is none.
+  // Ends the innermost run, the one that was started last and has not returned; nothing when there
+  // is none. Stopping a run twice is stopping it once: the runs around it go on.
   virtual void stopModal() = 0;
 };
 

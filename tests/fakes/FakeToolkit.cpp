@@ -1,0 +1,127 @@
+#include "tests/fakes/FakeToolkit.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tavrin {
+
+void FakePopUpButton::removeAllItems() {
+  items.clear();
+  selected = -1;
+}
+
+void FakePopUpButton::addItem(const std::string& title, const std::string& value) {
+  items.push_back({title, value});
+  if (items.size() == 1) selected = 0;
+}
+
+OptString FakePopUpButton::itemTitle(int index) const {
+  if (index < 0 || index >= numberOfItems()) return std::nullopt;
+  return items[static_cast<std::size_t>(index)].title;
+}
+
+OptString FakePopUpButton::itemValue(int index) const {
+  if (index < 0 || index >= numberOfItems()) return std::nullopt;
+  return items[static_cast<std::size_t>(index)].value;
+}
+
+void FakePopUpButton::selectItemWithTitle(const OptString& title) {
+  ++selections;
+  const auto found = std::find_if(items.begin(), items.end(),
+                                  [&](const Item& item) { return sameText(item.title, title); });
+  selected = found != items.end() ? static_cast<int>(found - items.begin()) : -1;
+}
+
+void FakeWindow::close() {
+  if (!open) return;
+  open = false;
+  if (willClose) willClose();
+}
+
+FakeInterface::FakeInterface(InterfaceBindings offered) : bindings(std::move(offered)) {
+  for (const auto& [name, outlet] : bindings.outlets) make(name, outlet);
+  for (const auto& [name, window] : windows) {
+    window->willClose = [this] {
+      if (!detached && bindings.windowWillClose) bindings.windowWillClose();
+    };
+  }
+}
+
+void FakeInterface::make(const std::string& name, InterfaceBindings::AnyOutlet outlet) {
+  const auto put = [&name](auto& shelf, auto object, auto* place) {
+    place->connect(*object);
+    shelf[name] = std::move(object);
+  };
+  if (auto** view = std::get_if<Outlet<View>*>(&outlet)) {
+    put(views, std::make_unique<FakeViewOf<View>>(), *view);
+  } else if (auto** popUp = std::get_if<Outlet<PopUpButton>*>(&outlet)) {
+    put(popUps, std::make_unique<FakePopUpButton>(), *popUp);
+  } else if (auto** button = std::get_if<Outlet<Button>*>(&outlet)) {
+    put(buttons, std::make_unique<FakeButton>(), *button);
+  } else if (auto** slider = std::get_if<Outlet<Slider>*>(&outlet)) {
+    put(sliders, std::make_unique<FakeSlider>(), *slider);
+  } else if (auto** label = std::get_if<Outlet<Label>*>(&outlet)) {
+    put(labels, std::make_unique<FakeLabel>(), *label);
+  } else if (auto** window = std::get_if<Outlet<Window>*>(&outlet)) {
+    put(windows, std::make_unique<FakeWindow>(), *window);
+  }
+}
+
+template <class Sender>
+void FakeInterface::run(const std::string& action, Sender& sender) {
+  if (detached) return;
+  // By value: the owner may go away while the action runs.
+  const auto body = std::get<std::function<void(Sender&)>>(bindings.actions.at(action));
+  body(sender);
+}
+
+void FakeInterface::choose(const std::string& control, int index, const std::string& action) {
+  popUp(control).selected = index;
+  run<PopUpButton>(action, popUp(control));
+}
+
+void FakeInterface::click(const std::string& control, const std::string& action) {
+  button(control).state = 1 - button(control).state;
+  run<Button>(action, button(control));
+}
+
+void FakeInterface::pick(const std::string& control, const std::string& action) {
+  button(control).state = 1;
+  run<Button>(action, button(control));
+}
+
+void FakeInterface::slide(const std::string& control, int value, const std::string& action) {
+  slider(control).value = value;
+  run<Slider>(action, slider(control));
+}
+
+std::shared_ptr<LoadedInterface> FakeToolkit::loadInterface(const Bundle&, const std::string& name,
+                                                            InterfaceBindings bindings) {
+  if (std::find(missing.begin(), missing.end(), name) != missing.end()) return nullptr;
+  auto made = std::make_shared<FakeInterface>(std::move(bindings));
+  loaded[name] = made;
+  if (onLoad) onLoad(name, *made);
+  return made;
+}
+
+bool FakeToolkit::runModalForWindow(Window& window) {
+  const auto windows = interface("Conflicts");
+  if (!windows) return false;
+  for (const auto& [name, fake] : windows->windows) {
+    if (fake.get() == &window) shown.push_back(name);
+  }
+  if (answers.empty()) return false;
+  const Answer answer = std::move(answers.front());
+  answers.pop_front();
+  stopped.push_back(false);
+  answer(*windows);
+  const bool wasStopped = stopped.back();
+  stopped.pop_back();
+  return wasStopped;
+}
+
+void FakeToolkit::stopModal() {
+  if (!stopped.empty()) stopped.back() = true;
+}
+
+}  // namespace tavrin
