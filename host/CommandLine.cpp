@@ -1,5 +1,7 @@
 #include "host/CommandLine.h"
 
+#include <algorithm>
+
 #include <cups/cups.h>
 #include <QCommandLineParser>
 
@@ -7,15 +9,15 @@ namespace tavrin {
 
 namespace {
 
-const QCommandLineOption kPrinter({"d"}, "Print on this printer.", "printer[/instance]");
-const QCommandLineOption kPPD({"ppd"}, "Use this printer description, with no queue.", "file");
-const QCommandLineOption kSample({"sample"}, "Use the sample printer, with no queue.");
-const QCommandLineOption kOutput({"output"}, "Where jobs go that have no queue.", "folder");
-const QCommandLineOption kCopies({"n"}, "Print this many copies.", "copies");
-const QCommandLineOption kTitle({"t"}, "Name the job.", "title");
-const QCommandLineOption kOption({"o"}, "Set an option of the job.", "name=value");
-const QCommandLineOption kHelp({"h", "help"}, "Show this help.");
-const QCommandLineOption kVersion({"version"}, "Show the version.");
+constexpr const char* kPrinter = "d";
+constexpr const char* kPPD = "ppd";
+constexpr const char* kSample = "sample";
+constexpr const char* kOutput = "output";
+constexpr const char* kCopies = "n";
+constexpr const char* kTitle = "t";
+constexpr const char* kOption = "o";
+constexpr const char* kHelp = "help";
+constexpr const char* kVersion = "version";
 
 constexpr int kMostCopies = 9999;
 
@@ -65,9 +67,11 @@ QString disagreement(const QCommandLineParser& parser) {
   return {};
 }
 
+// usage() is the program's help; the parser only needs to know what takes a value.
 void addAll(QCommandLineParser& parser) {
-  parser.addOptions({kPrinter, kPPD, kSample, kOutput, kCopies, kTitle, kOption, kHelp, kVersion});
-  parser.addPositionalArgument("file", "The document; - or none for standard input.", "[file | -]");
+  for (const char* name : {kPrinter, kPPD, kOutput, kCopies, kTitle, kOption})
+    parser.addOption(QCommandLineOption(QString(name), QString(), "value"));
+  for (const char* name : {kSample, kHelp, kVersion}) parser.addOption(QCommandLineOption(QString(name)));
 }
 
 }  // namespace

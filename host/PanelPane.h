@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <set>
+#include <string>
+
+#include "host/Pane.h"
+#include "platform/PrintDialogExtension.h"
+
+namespace tavrin {
+
+// The pane of a plug-in's panel.
+class PanelPane : public Pane {
+  Q_OBJECT
+
+ public:
+  // The panel outlives the pane.
+  PanelPane(PDEPanel& panel, QWidget* parent);
+  ~PanelPane() override;
+
+  Lines summary() const override;
+  void willShow() override;
+  // Takes the panel's choices along, so that the rest of the dialog shows them.
+  bool shouldHide() override;
+  bool shouldShowHelp() override { return panel.shouldShowHelp(); }
+
+  // The panel's view has another size.
+  void followView();
+
+ signals:
+  // The panel could not hand over its choices, and why.
+  void saveFailed(const QString& reason);
+
+ private:
+  void addView();
+
+  PDEPanel& panel;
+  std::shared_ptr<View> view;
+  QWidget* widget = nullptr;  // the view's, owned by it
+};
+
+// The keywords of the options that the panel shows.
+std::set<std::string> claimedKeywords(PDEPanel& panel);
+
+}  // namespace tavrin
