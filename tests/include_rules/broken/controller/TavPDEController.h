@@ -1,0 +1,2 @@
+#include "platform/qt/QtToolkit.h"
+#  include <nlohmann/json.hpp>

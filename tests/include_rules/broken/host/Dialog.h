@@ -1,0 +1,2 @@
+#include "plugin/MainPDE.h"
+#include <QWidget>

@@ -1,0 +1,2 @@
+#include <cups/ppd.h>
+#include "ppd/PDETools.h"

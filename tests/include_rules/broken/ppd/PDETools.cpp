@@ -1,0 +1,3 @@
+#include <QWidget>
+#include <plist/plist.h>
+#include <gtest/gtest.h>

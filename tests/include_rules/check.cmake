@@ -1,0 +1,82 @@
+# Checks which folder includes what:
+#   cmake -DSOURCE_DIR=<folder> -P check.cmake
+# The arrows of docs/architecture.md point down only, and toolkits and C libraries stay where they
+# are wrapped. A folder that is not there is not checked.
+cmake_minimum_required(VERSION 3.25)
+
+# The project's folders, and whose headers each may include.
+set(FOLDERS platform ppd conflict controller plugin resources host replay tests)
+set(MAY_platform platform)
+set(MAY_ppd ppd platform)
+set(MAY_conflict conflict ppd platform)
+set(MAY_controller controller conflict ppd platform)
+set(MAY_plugin plugin controller conflict ppd platform)
+set(MAY_resources ppd platform)
+set(MAY_host host ppd platform)
+set(MAY_replay replay host ppd platform)
+set(MAY_tests tests ${FOLDERS})
+
+# The libraries: how an include of one looks, and the files that may have it.
+set(LIBRARIES Qt cups plist nlohmann gtest)
+set(LOOK_Qt "<(Q[A-Z]|Qt|q[a-z]+\\.h)")
+set(MAY_HAVE_Qt "^(platform/qt|host|replay|tests)/")
+set(LOOK_cups "<cups/")
+set(MAY_HAVE_cups "^(ppd|conflict|controller|plugin|host|replay|tests)/|_test\\.cpp$")
+set(LOOK_plist "<plist/")
+set(MAY_HAVE_plist "^platform/PropertyList\\.cpp$")
+set(LOOK_nlohmann "<nlohmann/")
+set(MAY_HAVE_nlohmann "^(host|replay|tests)/")
+set(LOOK_gtest "<(gtest|gmock)/")
+set(MAY_HAVE_gtest "^tests/|_test\\.(cpp|h)$")
+
+function(complain file line)
+  message(NOTICE "${file}: must not have ${line}")
+  set_property(GLOBAL APPEND PROPERTY complaints "${file}")
+endfunction()
+
+function(check_library_include file line)
+  foreach(library IN LISTS LIBRARIES)
+    if(line MATCHES "${LOOK_${library}}" AND NOT file MATCHES "${MAY_HAVE_${library}}")
+      complain(${file} "${line}")
+    endif()
+  endforeach()
+endfunction()
+
+function(check_project_include file folder line)
+  if(NOT line MATCHES "\"([a-z]+)/")
+    return()
+  endif()
+  set(target ${CMAKE_MATCH_1})
+  if(target STREQUAL "tests" AND file MATCHES "_test\\.(cpp|h)$")
+    return()  # tests use the fakes
+  endif()
+  if(NOT target IN_LIST MAY_${folder})
+    complain(${file} "${line}")
+  elseif(line MATCHES "\"platform/qt/" AND NOT file MATCHES "${MAY_HAVE_Qt}")
+    complain(${file} "${line}")
+  endif()
+endfunction()
+
+set(count 0)
+foreach(folder IN LISTS FOLDERS)
+  file(GLOB_RECURSE files RELATIVE ${SOURCE_DIR}
+       ${SOURCE_DIR}/${folder}/*.h ${SOURCE_DIR}/${folder}/*.cpp)
+  list(FILTER files EXCLUDE REGEX "^tests/include_rules/broken/")
+  foreach(file IN LISTS files)
+    math(EXPR count "${count} + 1")
+    file(STRINGS ${SOURCE_DIR}/${file} lines REGEX "^ *# *include")
+    foreach(line IN LISTS lines)
+      check_library_include(${file} "${line}")
+      check_project_include(${file} ${folder} "${line}")
+    endforeach()
+  endforeach()
+endforeach()
+
+get_property(complaints GLOBAL PROPERTY complaints)
+list(LENGTH complaints broken)
+if(count EQUAL 0)
+  message(FATAL_ERROR "${SOURCE_DIR} has no source files to check")
+elseif(broken GREATER 0)
+  message(FATAL_ERROR "${broken} includes break the rules")
+endif()
+message(NOTICE "${count} files keep the include rules")
