@@ -1,0 +1,68 @@
+#include "platform/qt/ModalRuns.h"
+
+#include <algorithm>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+
+#include "platform/qt/QtWindow.h"
+
+namespace tavrin {
+
+ModalRuns::ModalRuns() {
+  if (QCoreApplication::instance()) QCoreApplication::instance()->installEventFilter(this);
+}
+
+// A program that quits closes its windows one by one, and a closing window stops its run: that
+// must not look as if the user had answered.
+bool ModalRuns::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Quit || watched != QCoreApplication::instance()) return false;
+  quitting = true;
+  // When a window refuses to close, the program goes on after all.
+  QMetaObject::invokeMethod(
+      this, [this] { quitting = false; }, Qt::QueuedConnection);
+  return false;
+}
+
+void ModalRuns::end(Run& run) {
+  run.over = true;
+  run.loop.quit();
+}
+
+void ModalRuns::stop() {
+  const auto run = std::find_if(runs.rbegin(), runs.rend(), [](Run* r) { return !r->over; });
+  if (run == runs.rend()) return;
+  (*run)->stopped = !quitting;
+  end(**run);
+}
+
+// The observer is called by the run's own loop, so that it can work the window as a user does.
+void ModalRuns::handleEvents(Run& run, QtWindow& window) {
+  QPointer<QWidget> shown = window.dialog();
+  if (observer)
+    QMetaObject::invokeMethod(
+        &run.loop,
+        [this, shown] {
+          if (shown && shown->isVisible() && observer) observer(*shown);
+        },
+        Qt::QueuedConnection);
+  if (!run.over) run.loop.exec();
+}
+
+bool ModalRuns::run(QtWindow& window) {
+  if (quitting || !window.dialog() || !QCoreApplication::instance()) return false;
+  const auto alive = window.keepAlive();
+  Run run;
+  runs.push_back(&run);
+  window.onClosed([this, &run] { end(run); });
+  if (!window.isUp()) window.display();
+  handleEvents(run, window);
+  window.onClosed({});
+  run.over = true;
+  std::erase(runs, &run);
+  if (!run.stopped) window.close();
+  return run.stopped;
+}
+
+}  // namespace tavrin

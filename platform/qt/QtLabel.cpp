@@ -1,0 +1,84 @@
+#include "platform/qt/QtLabel.h"
+
+#include <QAbstractButton>
+#include <QMouseEvent>
+#include <QStringList>
+
+#include "platform/qt/ShownText.h"
+
+namespace tavrin {
+
+namespace {
+
+// Gives a button the clicks on its label.
+class ClickForwarder : public QObject {
+ public:
+  explicit ClickForwarder(QLabel& owner) : QObject(&owner), label(owner) {
+    owner.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
+      return false;
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    auto* button = qobject_cast<QAbstractButton*>(label.buddy());
+    if (!button || mouse->button() != Qt::LeftButton) return false;
+    const bool released = event->type() == QEvent::MouseButtonRelease;
+    if (released && label.rect().contains(mouse->position().toPoint())) click(*button);
+    return true;
+  }
+
+ private:
+  static void click(QAbstractButton& button) {
+    if (!button.isEnabled()) return;
+    button.setFocus(Qt::MouseFocusReason);
+    button.click();
+  }
+
+  QLabel& label;
+};
+
+QString asName(QString text) {
+  text = text.trimmed();
+  if (text.endsWith(u':')) text.chop(1);
+  return text.trimmed();
+}
+
+}  // namespace
+
+QtLabel::QtLabel(QLabel& label) : QtViewOf(label) {
+  label.setTextFormat(Qt::PlainText);
+  std::make_unique<ClickForwarder>(label).release();  // the label's from now on
+}
+
+void QtLabel::setStringValue(const std::string& text) {
+  if (!widget) return;
+  widget->setProperty(kRawText, QByteArray::fromStdString(text));
+  const QString shown = widget->wordWrap() ? shownLines(text) : shownLine(text);
+  // Only a label with a buddy takes "&" for a mnemonic.
+  widget->setText(widget->buddy() ? withoutMnemonics(shown) : shown);
+  nameBuddy();
+  layoutChanged(*widget);
+}
+
+// Several labels may name one control: the lines of a choice's caption.
+void QtLabel::nameBuddy() {
+  QWidget* buddy = widget->buddy();
+  if (!buddy) return;
+  QStringList names;
+  for (const QLabel* label : widget->parentWidget()->findChildren<QLabel*>()) {
+    const QByteArray text = label->property(kRawText).toByteArray();
+    if (label->buddy() == buddy && !text.isEmpty()) names << asName(shownLine(text.toStdString()));
+  }
+  buddy->setAccessibleName(names.join(QStringLiteral(", ")));
+}
+
+// A disabled label is drawn in the palette's disabled text colour, whatever the palette.
+void QtLabel::setTextColor(TextColor color) {
+  if (!widget) return;
+  const bool grey = color == TextColor::grey;
+  widget->setProperty(kTextColor, grey ? QStringLiteral("grey") : QStringLiteral("black"));
+  widget->setEnabled(!grey);
+}
+
+}  // namespace tavrin

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/Toolkit.h"
+
+class QLabel;
+class QWidget;
+
+namespace tavrin {
+
+class QtWindow;
+
+// The widgets of one interface file, the objects on them, and their owner's bindings. Stays alive
+// while one of its actions runs, one of its windows is up in a modal run or is closing, whoever
+// lets go of it meanwhile.
+class QtLoadedInterface : public LoadedInterface,
+                          public std::enable_shared_from_this<QtLoadedInterface> {
+ public:
+  // Connects the outlets that the file has objects for. The widgets are detached from the owner
+  // when the caller drops the answer.
+  static std::shared_ptr<LoadedInterface> make(std::unique_ptr<QWidget> root,
+                                               InterfaceBindings bindings);
+  ~QtLoadedInterface() override;
+
+  void detach() override;
+  std::vector<std::string> problems() const override { return found; }
+
+ private:
+  using Object = std::variant<View*, PopUpButton*, Button*, Slider*, Label*, Window*>;
+
+  QtLoadedInterface(std::unique_ptr<QWidget> root, InterfaceBindings bindings);
+
+  void makeObjects();
+  Object makeObject(QWidget& widget);
+  template <class Wrapper, class Widget>
+  Wrapper* makeControl(Widget& widget);
+  Window* makeWindow(QWidget& widget);
+  void bindActions(QWidget& widget, const Object& object);
+  void connectOutlets();
+  void reportUnusedActions();
+  void windowCloses();
+
+  std::unique_ptr<QWidget> root;
+  InterfaceBindings bindings;
+  bool detached = false;
+  std::vector<std::unique_ptr<View>> views;
+  std::vector<std::unique_ptr<QtWindow>> windows;
+  std::map<std::string, Object> objects;  // by object name
+  std::vector<std::string> usedActions;
+  std::vector<std::string> found;  // problems
+};
+
+}  // namespace tavrin

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include <QString>
+
+namespace tavrin {
+
+// Texts come from PPDs and strings tables. These make any bytes fit to stand on a widget: a
+// control character or a line break becomes a blank, a monstrous text ends in an ellipsis.
+
+// For a control of one line.
+QString shownLine(const std::string& text);
+// For a text of several lines: line breaks stay.
+QString shownLines(const std::string& text);
+// The same text where the toolkit would take "&" for a mnemonic.
+QString withoutMnemonics(QString text);
+
+}  // namespace tavrin
