@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <cups/cups.h>
 #include <QCommandLineParser>
 
 namespace tavrin {
@@ -25,30 +24,34 @@ Failure failure(const QString& sentence) {
   return {(sentence + " See tavrin-print --help.").toStdString()};
 }
 
-void addOptions(const std::string& text, CommandLine& line) {
-  cups_option_t* options = nullptr;
-  const int count = cupsParseOptions(text.c_str(), 0, &options);
-  for (int i = 0; i < count; ++i) line.options.emplace_back(options[i].name, options[i].value);
-  cupsFreeOptions(count, options);
-}
-
 // The number of copies; 0 for what is none.
 int copiesFrom(const QString& text) {
   const int copies = text.toInt();
   return copies <= kMostCopies ? std::max(copies, 0) : 0;
 }
 
-Result<CommandLine> filledIn(const QCommandLineParser& parser) {
+JobRequest jobFrom(const QCommandLineParser& parser) {
+  JobRequest job;
+  const QString destination = parser.value(kPrinter);
+  job.printer = destination.section('/', 0, 0).toStdString();
+  job.instance = destination.section('/', 1).toStdString();
+  if (parser.isSet(kCopies)) job.copies = copiesFrom(parser.value(kCopies));
+  job.title = parser.value(kTitle).toStdString();
+  for (const QString& text : parser.values(kOption))
+    for (const auto& [name, value] : parseOptions(text.toStdString()))
+      setOption(job.options, name, value);
+  if (const QStringList documents = parser.positionalArguments(); !documents.isEmpty())
+    job.document = documents.front().toStdString();
+  return job;
+}
+
+CommandLine filledIn(const QCommandLineParser& parser) {
   CommandLine line;
-  line.destination = parser.value(kPrinter).toStdString();
+  line.job = jobFrom(parser);
+  line.namesDocument = !parser.positionalArguments().isEmpty();
   line.ppd = parser.value(kPPD).toStdString();
   line.sample = parser.isSet(kSample);
   if (parser.isSet(kOutput)) line.output = parser.value(kOutput).toStdString();
-  if (parser.isSet(kCopies)) line.copies = copiesFrom(parser.value(kCopies));
-  line.title = parser.value(kTitle).toStdString();
-  for (const QString& text : parser.values(kOption)) addOptions(text.toStdString(), line);
-  const QStringList documents = parser.positionalArguments();
-  if (!documents.isEmpty()) line.document = documents.front().toStdString();
   return line;
 }
 
@@ -83,9 +86,9 @@ Result<CommandLine> parseCommandLine(const QStringList& arguments) {
   if (!parser.parse(QStringList{"tavrin-print"} + arguments))
     return failure(parser.errorText() + ".");
   if (const QString problem = disagreement(parser); !problem.isEmpty()) return failure(problem);
-  Result<CommandLine> line = filledIn(parser);
-  if (parser.isSet(kVersion)) line->wish = CommandLine::Wish::version;
-  if (parser.isSet(kHelp)) line->wish = CommandLine::Wish::help;
+  CommandLine line = filledIn(parser);
+  if (parser.isSet(kVersion)) line.wish = CommandLine::Wish::version;
+  if (parser.isSet(kHelp)) line.wish = CommandLine::Wish::help;
   return line;
 }
 

@@ -11,6 +11,7 @@
 
 #include "host/OptionControl.h"
 #include "host/PageRanges.h"
+#include "host/PrinterPopUp.h"
 #include "host/Widgets.h"
 
 namespace tavrin {
@@ -18,7 +19,6 @@ namespace tavrin {
 namespace {
 
 constexpr int kMostCopies = 9999;
-constexpr int kPaperRow = 3;
 constexpr char kPaperSizeKeyword[] = "PageSize";
 
 }  // namespace
@@ -26,12 +26,14 @@ constexpr char kPaperSizeKeyword[] = "PageSize";
 GeneralArea::GeneralArea(QWidget* parent)
     : QWidget(parent),
       form(makeForm(this)),
+      printerPopUp(makeChild<PrinterPopUp>(this)),
       copiesBox(makeChild<QSpinBox>(this)),
       allPages(makeChild<QRadioButton>(tr("&All"), this)),
       somePages(makeChild<QRadioButton>(tr("&Range:"), this)),
       rangeEdit(makeChild<QLineEdit>(this)),
       rangeProblem(makeTextLabel(this)) {
   form->setContentsMargins(0, 0, 0, 0);
+  addRow(*form, tr("Prin&ter:"), *printerPopUp);
   addCopiesRow();
   addPagesRow();
 }
@@ -96,14 +98,18 @@ void GeneralArea::showRangeProblem() {
 }
 
 void GeneralArea::setMarks(PPDMarks* theMarks) {
-  if (form->rowCount() > kPaperRow) form->removeRow(kPaperRow);
+  if (papers) form->removeRow(papers);
+  papers = nullptr;
   marks = theMarks;
-  const ppd_option_t* papers = marks ? marks->option(kPaperSizeKeyword) : nullptr;
-  if (papers) addRow(*form, tr("Paper si&ze:"), *makeChild<PickOneControl>(*marks, *papers, this));
+  const ppd_option_t* option = marks ? marks->option(kPaperSizeKeyword) : nullptr;
+  if (!option) return;
+  papers = makeChild<PickOneControl>(*marks, *option, this);
+  addRow(*form, tr("Paper si&ze:"), *papers);
 }
 
 Pane::Lines GeneralArea::summary() const {
-  Pane::Lines lines{{tr("Copies"), locale().toString(copies())}};
+  Pane::Lines lines{{tr("Printer"), printerPopUp->currentText()}};
+  lines.push_back({tr("Copies"), locale().toString(copies())});
   const Result<std::string> ranges = pageRanges();
   const bool all = ranges && ranges->empty();
   lines.emplace_back(tr("Pages"), all ? tr("All") : rangeEdit->text());

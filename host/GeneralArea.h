@@ -6,7 +6,6 @@
 #include "host/Pane.h"
 #include "platform/Result.h"
 
-class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -15,13 +14,17 @@ class QSpinBox;
 
 namespace tavrin {
 
-// The settings that every job has, above the panes: copies, page range and paper size. Copies and
+class PrinterPopUp;
+
+// What every job has, above the panes: the printer, copies, page range and paper size. Copies and
 // range stay when another printer is chosen.
 class GeneralArea : public QWidget {
   Q_OBJECT
 
  public:
   explicit GeneralArea(QWidget* parent);
+
+  PrinterPopUp& printers() { return *printerPopUp; }
 
   // Between 1 and 9999; another number becomes the nearest of them.
   void setCopies(int copies);
@@ -46,12 +49,14 @@ class GeneralArea : public QWidget {
   void showRangeProblem();
 
   QFormLayout* form;
+  PrinterPopUp* printerPopUp;
   QSpinBox* copiesBox;
   QRadioButton* allPages;
   QRadioButton* somePages;
   QLineEdit* rangeEdit;
   QLabel* rangeProblem;
   PPDMarks* marks = nullptr;
+  QWidget* papers = nullptr;
 };
 
 }  // namespace tavrin

@@ -57,16 +57,22 @@ void JobButtons::addButtons() {
 
 void JobButtons::setState(State state) {
   now = state;
+  cancelling = false;
   progressText->setVisible(state == State::printing);
   progressBar->setVisible(state == State::printing);
   cancel->setVisible(state != State::done);
-  cancel->setEnabled(true);
   print->setText(state == State::done ? tr("&Done") : tr("&Print"));
   print->setEnabled(state == State::ready || state == State::done);
   if (state == State::done) print->setFocus();
 }
 
+void JobButtons::showCancelling() {
+  showProgress(tr("Taking the job back…"), -1);
+  cancelling = true;
+}
+
 void JobButtons::showProgress(const QString& text, double done) {
+  if (cancelling) return;
   progressText->setText(text);
   progressBar->setAccessibleName(text);
   progressBar->setRange(0, done < 0 ? 0 : kSteps);

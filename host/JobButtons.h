@@ -24,6 +24,9 @@ class JobButtons : public QWidget {
 
   void setState(State state);
   State state() const { return now; }
+  // The person has asked for the job back, and that is on its way.
+  void showCancelling();
+  bool isCancelling() const { return cancelling; }
 
   // What is happening to the job, with how much of it is done: from 0 to 1, negative when nobody
   // knows.
@@ -40,6 +43,7 @@ class JobButtons : public QWidget {
   void addButtons();
 
   State now = State::cannotPrint;
+  bool cancelling = false;
   QLabel* progressText;
   QProgressBar* progressBar;
   QPushButton* help;

@@ -38,12 +38,14 @@ LayoutPane::LayoutPane(QWidget* parent)
   addRow(*form, tr("Pages per &sheet:"), *pagesPopUp);
   connect(pagesPopUp, &QComboBox::currentIndexChanged, this,
           [this] { emit pagesPerSheetChanged(pagesPerSheet()); });
+  connect(pagesPopUp, &QComboBox::activated, this, [this] { pickedByHand = true; });
 }
 
 int LayoutPane::pagesPerSheet() const { return pagesPopUp->currentData().toInt(); }
 
-void LayoutPane::setPagesPerSheet(int pages) {
-  if (const int index = pagesPopUp->findData(pages); index >= 0) pagesPopUp->setCurrentIndex(index);
+void LayoutPane::suggestPagesPerSheet(int pages) {
+  const int index = pagesPopUp->findData(pages);
+  if (index >= 0 && !pickedByHand) pagesPopUp->setCurrentIndex(index);
 }
 
 void LayoutPane::setMarks(PPDMarks* theMarks) {

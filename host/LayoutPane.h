@@ -20,8 +20,7 @@ int layoutColumns(int pagesPerSheet);
 // The PPD's option for printing on both sides; null where it has none.
 const ppd_option_t* twoSidedOption(ppd_file_t& ppd);
 
-// Pages per sheet, and two-sided printing where the printer can. The pages per sheet stay when
-// another printer is chosen.
+// Pages per sheet, and two-sided printing where the printer can.
 class LayoutPane : public Pane {
   Q_OBJECT
 
@@ -29,8 +28,9 @@ class LayoutPane : public Pane {
   explicit LayoutPane(QWidget* parent);
 
   int pagesPerSheet() const;
-  // A number that the print system cannot lay out changes nothing.
-  void setPagesPerSheet(int pages);
+  // What the program or the printer would have. Stays without effect once the person has picked a
+  // number, and for one that the print system cannot lay out.
+  void suggestPagesPerSheet(int pages);
 
   // Takes the printer's two-sided option; null for no printer. The marks outlive their use here.
   void setMarks(PPDMarks* marks);
@@ -43,6 +43,7 @@ class LayoutPane : public Pane {
  private:
   QFormLayout* form;
   QComboBox* pagesPopUp;
+  bool pickedByHand = false;
   PPDMarks* marks = nullptr;
   std::string twoSided;  // the option's keyword; empty where there is none
 };

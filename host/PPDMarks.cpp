@@ -38,6 +38,16 @@ OptString joinedMarks(const ppd_option_t& option, const char* (*text)(const ppd_
   return joined;
 }
 
+// libcups keeps the marks a second time, in an array; only its own call may set one.
+void unmark(ppd_file_t& ppd, ppd_option_t& option) {
+  ppd_choice_t key{};
+  key.option = &option;
+  while (auto* choice = static_cast<ppd_choice_t*>(cupsArrayFind(ppd.marked, &key))) {
+    choice->marked = 0;
+    cupsArrayRemove(ppd.marked, choice);
+  }
+}
+
 // A choice that two options' file entries share is one choice to the person.
 struct IgnoringCase {
   bool operator()(const char* a, const char* b) const { return strcasecmp(a, b) < 0; }
@@ -97,13 +107,15 @@ void PPDMarks::choose(const std::string& keyword, const std::string& choice) {
 
 void PPDMarks::setPicked(const std::string& keyword, const std::string& choice, bool picked) {
   ppd_option_t* found = ppdFindOption(file, keyword.c_str());
-  ppd_choice_t* candidate = found ? ppdFindChoice(found, choice.c_str()) : nullptr;
-  if (!candidate) return;
+  if (!found) return;
   const auto before = snapshot();
-  if (picked)
-    ppdMarkOption(file, keyword.c_str(), choice.c_str());
-  else
-    candidate->marked = 0;
+  std::vector<std::string> marks;
+  for (const ppd_choice_t& candidate : choicesOf(*found))
+    if (candidate.choice == choice ? picked : candidate.marked != 0)
+      marks.emplace_back(candidate.choice);
+  unmark(*file, *found);
+  for (const std::string& mark : marks)
+    ppdMarkOption(file, keyword.c_str(), mark.c_str());
   tellDifferences(before);
 }
 

@@ -1,5 +1,6 @@
 #include "host/PanelPane.h"
 
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "host/Widgets.h"
@@ -49,11 +50,6 @@ bool PanelPane::shouldHide() {
 void PanelPane::followView() {
   if (widget) widget->updateGeometry();
   layout()->invalidate();
-}
-
-std::set<std::string> claimedKeywords(PDEPanel& panel) {
-  const std::vector<std::string> keys = panel.supportedPPDOptionKeys();
-  return {keys.begin(), keys.end()};
 }
 
 }  // namespace tavrin

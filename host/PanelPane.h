@@ -1,8 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <set>
-#include <string>
 
 #include "host/Pane.h"
 #include "platform/PrintDialogExtension.h"
@@ -20,7 +18,7 @@ class PanelPane : public Pane {
 
   Lines summary() const override;
   void willShow() override;
-  // Takes the panel's choices along, so that the rest of the dialog shows them.
+  // Asks the panel, and has it hand over its choices, so that the rest of the dialog shows them.
   bool shouldHide() override;
   bool shouldShowHelp() override { return panel.shouldShowHelp(); }
 
@@ -38,8 +36,5 @@ class PanelPane : public Pane {
   std::shared_ptr<View> view;
   QWidget* widget = nullptr;  // the view's, owned by it
 };
-
-// The keywords of the options that the panel shows.
-std::set<std::string> claimedKeywords(PDEPanel& panel);
 
 }  // namespace tavrin
