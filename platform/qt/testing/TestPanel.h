@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/QtToolkit.h"
+#include <QWidget>
 
-class QWidget;
+#include "platform/qt/QtToolkit.h"
 
 namespace tavrin {
 

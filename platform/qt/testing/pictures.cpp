@@ -1,6 +1,7 @@
 // Draws the panel and the windows into PNG files, to be looked at: pictures FOLDER
 #include <QApplication>
 #include <QDir>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QVBoxLayout>
 #include <QWidget>

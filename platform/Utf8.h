@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string_view>
+
+namespace tavrin {
+
+// Whether the bytes are UTF-8 throughout: no stray or missing continuation bytes, no overlong
+// forms, no surrogates, nothing above U+10FFFF. The empty text is. Texts from files go through
+// here before anything shows or compares them.
+bool isUtf8(std::string_view bytes);
+
+}  // namespace tavrin
