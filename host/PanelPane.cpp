@@ -21,7 +21,7 @@ PanelPane::~PanelPane() {
 
 void PanelPane::addView() {
   view = panel.panelView();
-  widget = view ? widgetOf(*view) : nullptr;
+  widget = view ? QtToolkit::widgetOf(*view) : nullptr;
   if (widget) return layout()->addWidget(widget);
   QLabel* apology = makeTextLabel(this);
   apology->setText(tr("These settings cannot be shown. The printer's usual settings are used."));

@@ -75,7 +75,9 @@ void PrintDialog::usePrinterWithoutQueue(SharedPPD ppd, std::filesystem::path fo
 void PrintDialog::showPrinters(const std::vector<Printer>& printers) {
   if (printers.empty())
     return noPrinters(tr("No printer is set up on this computer. Set one up, then look again."));
-  Printer named{.name = request.printer, .instance = request.instance};
+  Printer named;
+  named.name = request.printer;
+  named.instance = request.instance;
   const std::string destination = named.name.empty() ? "" : destinationName(named);
   if (general->printers().setPrinters(printers, destination)) return choosePrinter();
   note->say(tr("There is no printer “%1”. Choose another one.").arg(shownText(destination)));
