@@ -11,7 +11,7 @@
 
 // What the print server tells about printers. Every call makes a connection of its own and may be
 // made on any thread. One comes back within about 5 seconds from a server that says nothing (the
-// reason then says so) and within half a second once it is cancelled.
+// reason then says so) and, while it waits for an answer, within a second once it is cancelled.
 
 namespace tavrin {
 

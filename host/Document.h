@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "host/Cancellation.h"
+#include "host/FileDescriptor.h"
 #include "platform/Result.h"
 
 namespace tavrin {
@@ -25,10 +26,6 @@ class Document {
   // read, is no file, or is empty. Waits for the first bytes of standard input.
   static Result<Document> open(const std::filesystem::path& file,
                                const CancelFlag& cancel = neverCancelled());
-  Document(Document&& other) noexcept;
-  Document& operator=(Document&& other) noexcept;
-  ~Document();
-
   // The file's name without its folder; "(stdin)" for standard input, as lp has it.
   const std::string& name() const { return documentName; }
   // The MIME type that the first bytes show; "application/octet-stream" where they show none, so
@@ -42,15 +39,17 @@ class Document {
   Result<std::size_t> read(std::span<char> buffer, const CancelFlag& cancel);
 
  private:
-  Document(int descriptor, bool owned, std::string name);
-  Result<bool> look(const CancelFlag& cancel);
+  Document(int descriptor, FileDescriptor owner, std::string name);
+  // Reads the first bytes and looks what they are; false when there are none.
+  Result<bool> lookAhead(const CancelFlag& cancel);
+  Result<std::size_t> readFile(std::span<char> buffer, const CancelFlag& cancel);
 
-  int file = -1;
-  bool ownsFile = false;
+  int file;
+  FileDescriptor owned;  // of the file, unless it is standard input
   std::string documentName;
   std::string mimeType;
   std::uint64_t bytesInAll = 0;
-  std::string start;  // read already, not yet handed out
+  std::string ahead;  // read already, not yet handed out
 };
 
 // The MIME type of a document that starts with these bytes; "application/octet-stream" for what

@@ -105,6 +105,11 @@ void PrintDialog::showHelp() {
   help->activateWindow();
 }
 
+void PrintDialog::say(const std::string& sentence) {
+  note->say(shownText(sentence), Note::Kind::information);
+  fit();
+}
+
 void PrintDialog::showConflicts() {
   QStringList texts;
   for (const std::string& text : current->marks().conflictingOptions()) texts << shownText(text);

@@ -52,6 +52,9 @@ class PrintDialog : public QDialog {
   // What became of the job, in sentences: the job's name, or why there is none. Empty before.
   const QString& report() const { return reportText; }
 
+  // A sentence of the program's for the person; it interrupts nothing.
+  void say(const std::string& sentence);
+
   // The printer that the dialog stands on; null while there is none that has settings.
   PrinterSession* session() const { return current.get(); }
 

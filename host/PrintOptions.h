@@ -51,8 +51,8 @@ OptionList jobOptions(const JobRequest& request, ppd_file_s* ppd);
 // The name that the job gets: its title, else the document's.
 std::string jobTitle(const JobRequest& request);
 
-// The command that prints the same without a dialog, quoted for a shell. A request without a
-// printer names none.
-std::string lpCommand(const JobRequest& request);
+// The command that prints the request with these options (see jobOptions) without a dialog, quoted
+// for a shell. A request without a printer names none.
+std::string lpCommand(const JobRequest& request, const OptionList& options);
 
 }  // namespace tavrin
