@@ -56,14 +56,8 @@ OptString dialogExtension(ppd_file_s* ppd) {
 }
 
 std::vector<fs::path> trustedPlugInFolders() {
-  std::vector<fs::path> folders;
-  const fs::path program = programFolder();
-  const fs::path tree = program.parent_path();
-  std::error_code error;
-  if (fs::exists(tree / "CMakeCache.txt", error))
-    folders.push_back(tree);
-  else
-    folders.push_back((program / TAVRIN_PLUGIN_FOLDER).lexically_normal());
+  // The build tree has the same layout as an installation.
+  std::vector<fs::path> folders{programFolder().parent_path() / "lib" / "tavrin"};
   if (fs::path own = userFolder(); !own.empty()) folders.push_back(std::move(own));
   return folders;
 }

@@ -21,7 +21,7 @@ inline constexpr char kOwnPlugInName[] = "TavrinPrintSettings.plugin";
 OptString dialogExtension(ppd_file_s* ppd);
 
 // The folders with plug-ins that this program may load, first things first: beside the program
-// (its install folder, or the build tree that it was built in), then the user's own,
+// ("../lib/tavrin" from the folder that it is in), then the user's own,
 // $XDG_DATA_HOME/tavrin/plugins. They need not exist.
 std::vector<std::filesystem::path> trustedPlugInFolders();
 
