@@ -180,12 +180,17 @@ TEST_F(ModalRunsTest, QuittingEndsEveryRunUnanswered) {
   EXPECT_FALSE(outer);
 }
 
-TEST_F(ModalRunsTest, LeavingEndsTheRunUnanswered) {
-  bool answered = true;
-  whenUp([](QWidget&) { QCoreApplication::exit(3); });
-  QTimer::singleShot(0, [&] { answered = show(window("ibMsgOneWindow")); });
+TEST_F(ModalRunsTest, LeavingEndsEveryRunUnanswered) {
+  bool inner = true;
+  bool outer = true;
+  whenUp([&](QWidget& shown) {
+    if (shown.objectName() == "ibMsgTwoWindow") return QCoreApplication::exit(3);
+    inner = show(window("ibMsgTwoWindow"));
+  });
+  QTimer::singleShot(0, [&] { outer = show(window("ibMsgOneWindow")); });
   EXPECT_EQ(QCoreApplication::exec(), 3);
-  EXPECT_FALSE(answered);
+  EXPECT_FALSE(inner);
+  EXPECT_FALSE(outer);
 }
 
 TEST_F(ModalRunsTest, AWindowComesUpInTheMiddleOfTheWindowThatItCovers) {
