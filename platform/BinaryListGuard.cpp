@@ -9,11 +9,12 @@ namespace {
 
 constexpr std::size_t kHeaderSize = 8;
 constexpr std::size_t kTrailerSize = 32;
-// Real lists nest a handful of times. A limit on depth also ends every cycle.
-constexpr int kDepthLimit = 64;
+// Real lists nest a handful of times. A limit on depth also ends every cycle, and libplist
+// compares each object with all that it lies in.
+constexpr int kDepthLimit = 32;
 // What a list may grow to in memory, and about what an object takes of that besides its bytes.
-constexpr std::size_t kGrowthLimit = 8 * 1024 * 1024;
-constexpr std::size_t kObjectSize = 100;
+constexpr std::size_t kGrowthLimit = 4 * 1024 * 1024;
+constexpr std::size_t kObjectSize = 128;
 
 enum Kind : unsigned {
   kNumber = 1,

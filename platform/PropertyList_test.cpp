@@ -112,8 +112,8 @@ TEST(XmlList, NestsDeepEnough) {
   const auto nested = [](std::size_t levels) {
     return xmlList(repeated("<array>", levels) + repeated("</array>", levels));
   };
-  EXPECT_TRUE(parsePropertyList(nested(60)));
-  EXPECT_FALSE(parsePropertyList(nested(64)));
+  EXPECT_TRUE(parsePropertyList(nested(30)));
+  EXPECT_FALSE(parsePropertyList(nested(32)));
 }
 
 TEST(XmlList, CutAnywhereIsNoList) {

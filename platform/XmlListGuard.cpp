@@ -11,14 +11,14 @@ namespace tavrin {
 namespace {
 
 // Real lists nest a handful of times.
-constexpr std::size_t kDepthLimit = 64;
+constexpr std::size_t kDepthLimit = 32;
 // About 100 bytes each in libplist, and as many in ours.
-constexpr std::size_t kElementLimit = 80'000;
+constexpr std::size_t kElementLimit = 65'000;
 // libplist compares a new key with the ones before it, with all of them where the keys are made
-// so: a dictionary of n keys costs n * n. This many take some 15 ms: one dictionary of 2,000 keys.
-constexpr std::size_t kComparisonLimit = 4'000'000;
-// libplist moves the rest of a text at each character reference in it. Some 5 ms.
-constexpr std::size_t kMoveLimit = 500'000'000;
+// so: a dictionary of n keys costs n * n. This many take some 12 ms: one dictionary of 1,700 keys.
+constexpr std::size_t kComparisonLimit = 3'000'000;
+// libplist moves the rest of a text at each character reference in it. Some 3 ms.
+constexpr std::size_t kMoveLimit = 300'000'000;
 
 using std::string_view;
 

@@ -24,6 +24,12 @@ int giveUp(const std::string& reason) {
   return cannotStart;
 }
 
+// The off-screen platform keeps saying what it has no screen for.
+void showMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+  if (!message.startsWith("This plugin does not support"))
+    std::cerr << message.toStdString() << '\n';
+}
+
 bool isBlank(const std::string& line) {
   return line.find_first_not_of(" \t\r\n\v\f") == std::string::npos;
 }
@@ -93,6 +99,7 @@ int run(const Options& options) {
 int main(int argc, char** argv) {
   // The panel's window is nobody's to see, and the arguments are ours alone: Qt would take some.
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(showMessage);
   int programNameOnly = 1;
   QApplication application(programNameOnly, argv);
   QApplication::setQuitOnLastWindowClosed(false);
