@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 
 #include <QApplication>
 
@@ -58,7 +59,8 @@ Replayer::Answer Replayer::carryOut(const ReplayCommand& command) {
 
 Replayer::Answer Replayer::initWithBundle(const ReplayCommand& command) {
   if (!command.bundle) return Json{{"result", plugIn.initWithBundle(nullptr)}};
-  if (!std::filesystem::is_directory(*command.bundle))
+  std::error_code unreadable;
+  if (!std::filesystem::is_directory(*command.bundle, unreadable))
     return Failure{"There is no bundle folder " + quoted(*command.bundle) + "."};
   const Bundle bundle = Bundle::atPath(*command.bundle);
   return Json{{"result", plugIn.initWithBundle(&bundle)}};
