@@ -138,7 +138,6 @@ void QtWindow::display() {
   describe();
   up = true;
   widget->show();
-  widget->raise();
   widget->activateWindow();
   focusFirstChoice();
 }

@@ -1,0 +1,130 @@
+#include "host/Document.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace tavrin {
+
+namespace {
+
+constexpr char kUnknownFormat[] = "application/octet-stream";
+constexpr std::size_t kLookAhead = 512;
+constexpr int kPollMilliseconds = 200;
+
+Failure about(const std::string& document, const std::string& problem) {
+  return {"The document \"" + document + "\" " + problem + "."};
+}
+
+struct Signature {
+  std::string_view start;
+  const char* format;
+};
+
+constexpr std::array<Signature, 13> kSignatures{{
+    {"%PDF-", "application/pdf"},
+    {"%!", "application/postscript"},
+    {"\xFF\xD8\xFF", "image/jpeg"},
+    {"\x89PNG\r\n\x1A\n", "image/png"},
+    {"GIF87a", "image/gif"},
+    {"GIF89a", "image/gif"},
+    {std::string_view("II*\0", 4), "image/tiff"},
+    {std::string_view("MM\0*", 4), "image/tiff"},
+    // Texts that the print system reads in a way of its own.
+    {"#CUPS", kUnknownFormat},
+    {"#PDF-", kUnknownFormat},
+    {"<", kUnknownFormat},
+    {"#define", kUnknownFormat},
+    {"/* XPM", kUnknownFormat},
+}};
+
+bool isTextByte(unsigned char byte) {
+  return byte >= 0x80 || (byte >= ' ' && byte != 0x7F) ||
+         (byte >= '\b' && byte <= '\r');  // backspace, tab, line ends, form feed
+}
+
+bool isBitmap(std::string_view start) {
+  return start.size() > 2 && start[0] == 'P' && start[1] >= '1' && start[1] <= '6' &&
+         (start[2] == ' ' || start[2] == '\n' || start[2] == '\t' || start[2] == '\r');
+}
+
+}  // namespace
+
+std::string formatOf(std::string_view start) {
+  for (const Signature& signature : kSignatures)
+    if (start.starts_with(signature.start)) return signature.format;
+  if (isBitmap(start)) return "image/x-portable-anymap";
+  const bool text = !start.empty() && std::all_of(start.begin(), start.end(), [](char byte) {
+    return isTextByte(static_cast<unsigned char>(byte));
+  });
+  return text ? "text/plain" : kUnknownFormat;
+}
+
+Result<Document> Document::open(const std::filesystem::path& path, const CancelFlag& cancel) {
+  const bool isInput = path == "-";
+  const std::string name = isInput ? "(stdin)" : path.filename().string();
+  FileDescriptor opened;
+  // Without waiting: the wait for somebody who fills a FIFO must end when it is cancelled.
+  if (!isInput) opened = FileDescriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  if (!isInput && !opened)
+    return about(path.string(), std::string("cannot be read: ") + std::strerror(errno));
+  const int descriptor = isInput ? STDIN_FILENO : opened.get();
+  Document document(descriptor, std::move(opened), name);
+  struct stat status {};
+  if (fstat(document.file, &status) != 0 || S_ISDIR(status.st_mode))
+    return about(path.string(), "is a folder, not a file");
+  if (!isInput && !S_ISREG(status.st_mode) && !S_ISFIFO(status.st_mode))
+    return about(path.string(), "is a device, not a file");
+  if (!isInput && S_ISREG(status.st_mode))
+    document.bytesInAll = static_cast<std::uint64_t>(status.st_size);
+  const auto found = document.lookAhead(cancel);
+  if (!found) return Failure{found.reason()};
+  if (!*found && !cancel) return about(isInput ? name : path.string(), "is empty");
+  return document;
+}
+
+Document::Document(int descriptor, FileDescriptor owner, std::string name)
+    : file(descriptor), owned(std::move(owner)), documentName(std::move(name)) {}
+
+Result<bool> Document::lookAhead(const CancelFlag& cancel) {
+  std::string bytes(kLookAhead, '\0');
+  std::size_t length = 0;
+  while (length < bytes.size()) {
+    const auto more = readFile(std::span(bytes).subspan(length), cancel);
+    if (!more) return Failure{more.reason()};
+    if (*more == 0) break;
+    length += *more;
+  }
+  bytes.resize(length);
+  ahead = std::move(bytes);
+  mimeType = formatOf(ahead);
+  return !ahead.empty();
+}
+
+Result<std::size_t> Document::read(std::span<char> buffer, const CancelFlag& cancel) {
+  if (ahead.empty()) return readFile(buffer, cancel);
+  const std::size_t length = std::min(ahead.size(), buffer.size());
+  std::copy_n(ahead.begin(), length, buffer.begin());
+  ahead.erase(0, length);
+  return length;
+}
+
+Result<std::size_t> Document::readFile(std::span<char> buffer, const CancelFlag& cancel) {
+  while (!cancel) {
+    pollfd waiting{file, POLLIN, 0};
+    if (poll(&waiting, 1, kPollMilliseconds) == 0) continue;
+    const ssize_t bytes = ::read(file, buffer.data(), buffer.size());
+    if (bytes >= 0) return static_cast<std::size_t>(bytes);
+    if (errno != EAGAIN && errno != EINTR)
+      return about(documentName, std::string("cannot be read: ") + std::strerror(errno));
+  }
+  return std::size_t{0};
+}
+
+}  // namespace tavrin

@@ -1,0 +1,17 @@
+#include "host/HostJob.h"
+
+namespace tavrin {
+
+OptString HostPrintSettings::value(const std::string& key) const {
+  const auto found = values.find(key);
+  return found == values.end() ? std::nullopt : OptString(found->second);
+}
+
+void HostPrintSettings::setValue(const std::string& key, const OptString& text) {
+  if (text)
+    values[key] = *text;
+  else
+    values.erase(key);
+}
+
+}  // namespace tavrin

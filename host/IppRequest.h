@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "ppd/CupsHandles.h"
+
+// Requests to the print server, and looking into its answers.
+
+namespace tavrin {
+
+// A request about a queue, in the name of the current user.
+IppPtr printerRequest(ipp_op_t operation, const std::string& queue);
+// A request about a job.
+IppPtr jobRequest(ipp_op_t operation, int jobId);
+
+// The server's answer; null when there is none or it says that the request failed. libcups' last
+// error then tells why.
+IppPtr ask(http_t* http, IppPtr request);
+
+// What an answer says under a name; the fallback when it says nothing of that kind. Several values
+// are separated by commas.
+int integerIn(ipp_t& answer, const char* name, int fallback = 0);
+bool booleanIn(ipp_t& answer, const char* name, bool fallback);
+std::string textIn(ipp_t& answer, const char* name);
+
+// All values of an attribute as text.
+std::string valuesOf(ipp_attribute_t& attribute);
+
+}  // namespace tavrin

@@ -1,0 +1,66 @@
+#include "host/LayoutPane.h"
+
+#include <algorithm>
+
+#include <QComboBox>
+#include <QFormLayout>
+
+#include "host/OptionControl.h"
+#include "host/Widgets.h"
+
+namespace tavrin {
+
+namespace {
+
+// Makers of printer software agree on the meaning but not on the name.
+constexpr std::array kTwoSidedKeywords{"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
+
+constexpr int kTwoSidedRow = 1;
+
+}  // namespace
+
+int layoutColumns(int pagesPerSheet) {
+  int columns = 1;
+  while (columns * columns < pagesPerSheet) ++columns;
+  return columns;
+}
+
+const ppd_option_t* twoSidedOption(ppd_file_t& ppd) {
+  for (const char* keyword : kTwoSidedKeywords)
+    if (const ppd_option_t* option = ppdFindOption(&ppd, keyword)) return option;
+  return nullptr;
+}
+
+LayoutPane::LayoutPane(QWidget* parent)
+    : Pane(tr("Layout"), parent), form(makeForm(this)), pagesPopUp(makeChild<QComboBox>(this)) {
+  for (const int pages : kPagesPerSheet) pagesPopUp->addItem(locale().toString(pages), pages);
+  pagesPopUp->setObjectName("pagesPerSheet");
+  addRow(*form, tr("Pages per &sheet:"), *pagesPopUp);
+  connect(pagesPopUp, &QComboBox::currentIndexChanged, this,
+          [this] { emit pagesPerSheetChanged(pagesPerSheet()); });
+  connect(pagesPopUp, &QComboBox::activated, this, [this] { pickedByHand = true; });
+}
+
+int LayoutPane::pagesPerSheet() const { return pagesPopUp->currentData().toInt(); }
+
+void LayoutPane::suggestPagesPerSheet(int pages) {
+  const int index = pagesPopUp->findData(pages);
+  if (index >= 0 && !pickedByHand) pagesPopUp->setCurrentIndex(index);
+}
+
+void LayoutPane::setMarks(PPDMarks* theMarks) {
+  if (form->rowCount() > kTwoSidedRow) form->removeRow(kTwoSidedRow);
+  marks = theMarks;
+  const ppd_option_t* option = marks ? twoSidedOption(marks->ppd()) : nullptr;
+  twoSided = option ? option->keyword : "";
+  if (option) addRow(*form, tr("&Two-sided:"), *makeChild<PickOneControl>(*marks, *option, this));
+}
+
+Pane::Lines LayoutPane::summary() const {
+  Lines lines{{tr("Pages per sheet"), pagesPopUp->currentText()}};
+  if (twoSided.empty()) return lines;
+  lines.emplace_back(tr("Two-sided"), shownText(marks->choiceText(twoSided).value_or("")));
+  return lines;
+}
+
+}  // namespace tavrin

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "host/PPDMarks.h"
+#include "host/Pane.h"
+
+class QComboBox;
+class QFormLayout;
+
+namespace tavrin {
+
+// The numbers of pages on a sheet that the print system can lay out.
+inline constexpr std::array kPagesPerSheet{1, 2, 4, 6, 9, 16};
+
+// How many columns of pages such a sheet has, at its widest.
+int layoutColumns(int pagesPerSheet);
+
+// The PPD's option for printing on both sides; null where it has none.
+const ppd_option_t* twoSidedOption(ppd_file_t& ppd);
+
+// Pages per sheet, and two-sided printing where the printer can.
+class LayoutPane : public Pane {
+  Q_OBJECT
+
+ public:
+  explicit LayoutPane(QWidget* parent);
+
+  int pagesPerSheet() const;
+  // What the program or the printer would have. Stays without effect once the person has picked a
+  // number, and for one that the print system cannot lay out.
+  void suggestPagesPerSheet(int pages);
+
+  // Takes the printer's two-sided option; null for no printer. The marks outlive their use here.
+  void setMarks(PPDMarks* marks);
+
+  Lines summary() const override;
+
+ signals:
+  void pagesPerSheetChanged(int pages);
+
+ private:
+  QFormLayout* form;
+  QComboBox* pagesPopUp;
+  bool pickedByHand = false;
+  PPDMarks* marks = nullptr;
+  std::string twoSided;  // the option's keyword; empty where there is none
+};
+
+}  // namespace tavrin

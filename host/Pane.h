@@ -1,0 +1,36 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include <QString>
+#include <QWidget>
+
+namespace tavrin {
+
+// One page of the dialog that the pop-up of panes leads to.
+class Pane : public QWidget {
+  Q_OBJECT
+
+ public:
+  // What the summary lists: a setting's label and its value for the screen.
+  using Lines = std::vector<std::pair<QString, QString>>;
+
+  explicit Pane(const QString& name, QWidget* parent) : QWidget(parent), title(name) {}
+
+  // Its name in the pop-up.
+  const QString& name() const { return title; }
+  virtual Lines summary() const = 0;
+
+  // The pane is about to be shown.
+  virtual void willShow() {}
+  // Whether the person may leave the pane now.
+  virtual bool shouldHide() { return true; }
+  // False when the pane has shown help of its own, true when the dialog should show its help.
+  virtual bool shouldShowHelp() { return true; }
+
+ private:
+  QString title;
+};
+
+}  // namespace tavrin

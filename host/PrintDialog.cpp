@@ -1,0 +1,141 @@
+#include "host/PrintDialog.h"
+
+#include <algorithm>
+
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "host/FeaturesPane.h"
+#include "host/FittingScrollArea.h"
+#include "host/GeneralArea.h"
+#include "host/HelpWindow.h"
+#include "host/JobButtons.h"
+#include "host/LayoutPane.h"
+#include "host/Note.h"
+#include "host/PaneSwitcher.h"
+#include "host/PanelPane.h"
+#include "host/PrinterPopUp.h"
+#include "host/SummaryPane.h"
+#include "host/Widgets.h"
+
+namespace tavrin {
+
+namespace {
+
+// What a window manager puts around a window, at most.
+constexpr QSize kWindowFrame(16, 48);
+
+}  // namespace
+
+PrintDialog::PrintDialog(JobRequest theRequest, QWidget* parent)
+    : QDialog(parent),
+      request(std::move(theRequest)),
+      scroll(makeChild<FittingScrollArea>(this)),
+      content(makeChild<QWidget>(scroll)),
+      general(makeChild<GeneralArea>(content)),
+      switcher(makeChild<PaneSwitcher>(content)),
+      conflictNote(makeChild<Note>(content)),
+      note(makeChild<Note>(this)),
+      buttons(makeChild<JobButtons>(this)),
+      layoutPane(makeChild<LayoutPane>(switcher)),
+      summaryPane(makeChild<SummaryPane>([this] { return allLines(); }, switcher)),
+      stateTimer(makeChild<QTimer>(this)) {
+  setWindowTitle(tr("Print"));
+  build();
+  connectParts();
+  connectBrowser();
+  connectRunner();
+}
+
+PrintDialog::~PrintDialog() { endSession(); }
+
+void PrintDialog::build() {
+  auto* inside = makeChild<QVBoxLayout>(content);
+  inside->setContentsMargins(0, 0, 0, 0);
+  inside->addWidget(general);
+  inside->addWidget(switcher);
+  inside->addWidget(conflictNote);
+  inside->addStretch();
+  scroll->setWidget(content);
+  auto* column = makeChild<QVBoxLayout>(this);
+  column->addWidget(scroll, 1);
+  column->addWidget(note);
+  column->addWidget(buttons);
+  switcher->setPanes({layoutPane, summaryPane}, layoutPane->name());
+  note->setObjectName("note");
+  conflictNote->setObjectName("conflictNote");
+}
+
+void PrintDialog::connectParts() {
+  connect(buttons, &JobButtons::helpWanted, this, &PrintDialog::showHelp);
+  connect(buttons, &JobButtons::cancelled, this, &PrintDialog::reject);
+  connect(buttons, &JobButtons::closed, this, &PrintDialog::accept);
+  connect(buttons, &JobButtons::printWanted, this, &PrintDialog::print);
+  connect(switcher, &PaneSwitcher::resized, this, &PrintDialog::fit);
+  connect(layoutPane, &LayoutPane::pagesPerSheetChanged, this, [this](int pages) {
+    if (current) current->setPagesPerSheet(pages);
+  });
+  auto* helpKey = makeChild<QShortcut>(QKeySequence(QKeySequence::HelpContents), this);
+  connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
+}
+
+void PrintDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  fit();
+}
+
+// Follows the contents, and leaves it to the person to make the window larger than that.
+void PrintDialog::fit() {
+  layout()->activate();
+  const QSize now = layout()->totalSizeHint();
+  const QSize more = wanted.isValid() && isVisible() ? size() - wanted : QSize(0, 0);
+  wanted = now;
+  const QSize room = screen()->availableSize() - kWindowFrame;
+  const QSize size(std::max(now.width(), width()), now.height() + std::max(more.height(), 0));
+  resize(size.boundedTo(room));
+}
+
+void PrintDialog::showHelp() {
+  if (Pane* pane = switcher->current(); pane && !pane->shouldShowHelp()) return;
+  if (!help) help = makeChild<HelpWindow>(this);
+  help->show();
+  help->raise();
+  help->activateWindow();
+}
+
+void PrintDialog::say(const std::string& sentence) {
+  note->say(shownText(sentence), Note::Kind::information);
+  fit();
+}
+
+void PrintDialog::showConflicts() {
+  QStringList texts;
+  for (const std::string& text : current->marks().conflictingOptions()) texts << shownText(text);
+  conflictNote->say(texts.isEmpty() ? QString()
+                                    : tr("The printer cannot do these together as they are set: "
+                                         "%1. Changing one of them puts it right.")
+                                          .arg(texts.join(", ")),
+                    Note::Kind::information);
+  fit();
+}
+
+SummaryPane::Sections PrintDialog::allLines() const {
+  SummaryPane::Sections sections{{tr("General"), general->summary()}};
+  std::vector<const Pane*> panes{layoutPane};
+  panes.insert(panes.end(), panelPanes.begin(), panelPanes.end());
+  if (featuresPane) panes.push_back(featuresPane);
+  for (const Pane* pane : panes) sections.emplace_back(pane->name(), pane->summary());
+  return sections;
+}
+
+void PrintDialog::reject() {
+  if (buttons->state() == JobButtons::State::done) return accept();
+  if (buttons->state() != JobButtons::State::printing || buttons->isCancelling())
+    return QDialog::reject();
+  buttons->showCancelling();
+  runner.cancel();
+}
+
+}  // namespace tavrin

@@ -1,0 +1,111 @@
+#include <strings.h>
+
+#include "host/GeneralArea.h"
+#include "host/JobButtons.h"
+#include "host/LayoutPane.h"
+#include "host/Note.h"
+#include "host/PrintDialog.h"
+#include "host/PrinterPopUp.h"
+#include "host/Widgets.h"
+
+namespace tavrin {
+
+namespace {
+
+void removeOption(OptionList& options, const char* name) {
+  std::erase_if(options, [&](const auto& option) { return strcasecmp(option.first.c_str(), name) == 0; });
+}
+
+}  // namespace
+
+void PrintDialog::connectRunner() {
+  connect(&runner, &JobRunner::progressed, this, [this](const Progress& progress) {
+    const double done = static_cast<double>(progress.done);
+    buttons->showProgress(tr("Sending the document…"),
+                          progress.total ? done / static_cast<double>(progress.total) : -1);
+  });
+  connect(&runner, &JobRunner::submitted, this, &PrintDialog::finishSubmission);
+  connect(&runner, &JobRunner::folderWritten, this, [this](const QString& folder) {
+    finish(tr("The job is in the folder %1.").arg(folder), false);
+  });
+  connect(&runner, &JobRunner::cancelled, this,
+          [this] { giveBack(tr("Printing was cancelled. The settings are as they were.")); });
+  connect(&runner, &JobRunner::failed, this, &PrintDialog::fail);
+}
+
+void PrintDialog::print() {
+  const Result<std::string> ranges = general->pageRanges();
+  if (!ranges) return general->focusPageRanges();
+  if (const std::string problem = current ? current->takePanelChoices() : ""; !problem.empty())
+    return note->say(shownText(problem));
+  note->clear();
+  start(finishedRequest(*ranges));
+}
+
+JobRequest PrintDialog::finishedRequest(const std::string& ranges) const {
+  JobRequest finished = request;
+  const Printer& printer = *general->printers().selected();
+  finished.printer = output.empty() ? printer.name : "";
+  finished.instance = output.empty() ? printer.instance : "";
+  finished.copies = general->copies();
+  finished.pageRanges = ranges;
+  finished.options = startOptions();
+  // The dialog's own fields hold these.
+  for (const char* name : {"copies", "page-ranges"}) removeOption(finished.options, name);
+  const int pages = layoutPane->pagesPerSheet();
+  if (pages > 1 || optionValue(finished.options, "number-up"))
+    setOption(finished.options, "number-up", std::to_string(pages));
+  return finished;
+}
+
+void PrintDialog::start(const JobRequest& finished) {
+  const OptionList options = jobOptions(finished, current ? &current->ppd() : nullptr);
+  content->setEnabled(false);
+  buttons->setState(JobButtons::State::printing);
+  buttons->showProgress(tr("Sending the document…"), -1);
+  fit();
+  if (output.empty())
+    runner.submit(finished, options);
+  else
+    runner.writeFolder(output, finished, options);
+}
+
+void PrintDialog::finishSubmission(const Submission& submission) {
+  if (submission.cancelled) return giveBack(tr("Printing was cancelled. The settings are as they were."));
+  const QString job = QString("%1-%2")
+                          .arg(shownText(general->printers().selected()->name))
+                          .arg(submission.jobId);
+  QStringList report{tr("Job %1 was sent.").arg(job)};
+  QStringList missing;
+  for (const std::string& option : submission.missingOptions) missing << shownText(option);
+  if (!missing.isEmpty())
+    report << tr("The printer did not get: %1. Look at the print before printing more.").arg(missing.join(", "));
+  if (!submission.notReadBack.empty()) report << shownText(submission.notReadBack);
+  finish(report.join(' '), report.size() > 1);
+}
+
+void PrintDialog::finish(const QString& text, bool withWarning) {
+  end = Outcome::printed;
+  reportText = text;
+  buttons->setState(JobButtons::State::done);
+  note->say(text, withWarning ? Note::Kind::warning : Note::Kind::information);
+  fit();
+}
+
+void PrintDialog::giveBack(const QString& text) {
+  content->setEnabled(true);
+  buttons->setState(JobButtons::State::ready);
+  note->say(text, Note::Kind::information);
+  fit();
+}
+
+void PrintDialog::fail(const QString& reason) {
+  end = Outcome::failed;
+  reportText = reason;
+  content->setEnabled(true);
+  buttons->setState(JobButtons::State::ready);
+  note->say(reason);
+  fit();
+}
+
+}  // namespace tavrin

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include <QString>
+
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QWidget;
+
+// What every pane of the dialog builds its widgets with.
+
+namespace tavrin {
+
+// Makes an object that its parent owns; the parent is the last argument of the constructor.
+template <class T, class... Args>
+T* makeChild(Args&&... args) {
+  return std::make_unique<T>(std::forward<Args>(args)...).release();
+}
+
+// A text from a PPD, a print server or a panel as a widget may show it: UTF-8, with control
+// characters and line breaks as blanks, so that no text can break a layout.
+QString shownText(const std::string& text);
+
+// The same text for a widget that takes "&" for a mnemonic (check boxes, labels with a buddy).
+QString withoutMnemonic(QString text);
+
+// A label that shows a text as it is, over several lines where there is no room.
+QLabel* makeTextLabel(QWidget* parent);
+
+// Adds a row "label:" with a control that is reached and announced by that label. The text may
+// hold a mnemonic.
+QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control);
+
+// A form whose labels line up on the colon and which puts a control below its label where the
+// window is too narrow for both.
+QFormLayout* makeForm(QWidget* parent);
+
+// Lets a pop-up be narrower than its longest item, and its list be as wide as that item.
+void letPopUpShrink(QComboBox& popUp);
+
+}  // namespace tavrin

@@ -1,0 +1,115 @@
+// tavrin-print: the Print dialog as a command.
+
+#include <cstdlib>
+#include <iostream>
+
+#include <unistd.h>
+
+#include <QApplication>
+
+#include "host/CommandLine.h"
+#include "host/DesktopHelpViewer.h"
+#include "host/Document.h"
+#include "host/PPDLoader.h"
+#include "host/PrintDialog.h"
+#include "host/Samples.h"
+#include "platform/RootFolder.h"
+#include "platform/qt/QtToolkit.h"
+
+namespace {
+
+using namespace tavrin;
+
+enum ExitStatus { kPrinted = 0, kCancelled = 1, kUsage = 2, kNotPrinted = 3 };
+
+int complain(ExitStatus status, const std::string& sentence) {
+  std::cerr << "tavrin-print: " << sentence << "\n";
+  return status;
+}
+
+bool hasDisplay() {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    if (const char* value = std::getenv(name); value && *value) return true;
+  return false;
+}
+
+// Why the document cannot be printed whatever the printer; empty when it can. Standard input is
+// not looked at before it is printed.
+std::string documentProblem(const std::filesystem::path& document) {
+  if (document == "-") return {};
+  const Result<Document> opened = Document::open(document);
+  return opened ? "" : opened.reason();
+}
+
+int report(const PrintDialog& dialog) {
+  const std::string text = dialog.report().toStdString();
+  switch (dialog.outcome()) {
+    case PrintDialog::Outcome::failed: return complain(kNotPrinted, text);
+    case PrintDialog::Outcome::cancelled: return kCancelled;
+    case PrintDialog::Outcome::printed: break;
+  }
+  std::cout << text << "\n";
+  return kPrinted;
+}
+
+int show(const CommandLine& line, SharedPPD ppd, int& argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("tavrin-print");
+  QApplication::setApplicationDisplayName(QObject::tr("Print"));
+  QtToolkit toolkit;
+  Toolkit::install(&toolkit);
+  DesktopHelpViewer helpViewer;
+  HelpViewer::install(&helpViewer);
+  int status = kCancelled;
+  {
+    PrintDialog dialog(line.job);
+    helpViewer.setComplaint([&](const std::string& sentence) { dialog.say(sentence); });
+    dialog.show();
+    if (ppd)
+      dialog.usePrinterWithoutQueue(std::move(ppd), line.output);
+    else
+      dialog.usePrintServer();
+    dialog.exec();
+    status = report(dialog);
+  }
+  HelpViewer::install(nullptr);
+  Toolkit::install(nullptr);
+  return status;
+}
+
+int print(CommandLine line, int& argc, char** argv) {
+  if (line.sample) {
+    line.ppd = samples().ppd;
+    if (!line.namesDocument) line.job.document = samples().document;
+    setRootFolder(samples().root);
+  }
+  if (line.job.document == "-" && !line.namesDocument && isatty(STDIN_FILENO))
+    return complain(kUsage, "No document was named. Name a file, or - to type the document.");
+  if (const std::string problem = documentProblem(line.job.document); !problem.empty())
+    return complain(kNotPrinted, problem);
+  SharedPPD ppd;
+  if (!line.ppd.empty()) {
+    Result<PPDPtr> loaded = loadPPD(line.ppd);
+    if (!loaded) return complain(kNotPrinted, loaded.reason());
+    ppd = std::move(*loaded);
+  }
+  if (!hasDisplay())
+    return complain(kNotPrinted, "There is no display to show the dialog on. Set DISPLAY, or print "
+                                 "with lp.");
+  return show(line, std::move(ppd), argc, argv);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  const Result<CommandLine> line = parseCommandLine(arguments);
+  if (!line) return complain(kUsage, line.reason());
+  switch (line->wish) {
+    case CommandLine::Wish::help: std::cout << usage(); return kPrinted;
+    case CommandLine::Wish::version: std::cout << "tavrin-print " TAVRIN_VERSION "\n"; return kPrinted;
+    case CommandLine::Wish::print: break;
+  }
+  return print(*line, argc, argv);
+}
