@@ -95,7 +95,7 @@ void noteFrame(QWidget& widget, const Rect& frame) {
 
 void layoutChanged(QWidget& widget) {
   QWidget* root = outermostView(widget);
-  if (root->layout()) root->layout()->update();
+  if (root->layout()) root->layout()->invalidate();
   root->updateGeometry();
 }
 
