@@ -47,8 +47,8 @@ TEST(PrintOptions, MarksWhatTheOptionsName) {
 
 TEST(PrintOptions, UnderstandsThePrintSystemsGeneralOptions) {
   const PPDPtr ppd = familyPPD();
-  EXPECT_EQ(markOptions(*ppd, {{"media", "Letter"}}), Problems{});
-  EXPECT_EQ(optionValue(markedOptions(*ppd), "PageSize"), "Letter");
+  EXPECT_EQ(markOptions(*ppd, {{"sides", "two-sided-short-edge"}}), Problems{});
+  EXPECT_EQ(optionValue(markedOptions(*ppd), "Duplex"), "DuplexTumble");
 }
 
 TEST(PrintOptions, NamesAChoiceThatThePrinterLacks) {
