@@ -5,7 +5,7 @@
 #include <QSlider>
 #include <QWidget>
 
-#include "replay/FieldReader.h"
+#include "replay/Quoted.h"
 
 namespace tavrin {
 namespace {
