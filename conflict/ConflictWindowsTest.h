@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "conflict/ConflictTestPanel.h"
+#include "conflict/ConflictTest.h"
 #include "platform/NotificationCenter.h"
 
 namespace tavrin {

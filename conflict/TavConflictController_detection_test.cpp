@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "conflict/ConflictTestPanel.h"
+#include "conflict/ConflictTest.h"
 
 namespace tavrin {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "conflict/ConflictTestPanel.h"
+#include "conflict/ConflictTest.h"
 
 // Every combination of settings, paper, layout, cartridges and flags against the rules written
 // down a second time, as tables.

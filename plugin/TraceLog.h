@@ -108,7 +108,7 @@ constexpr Directive directiveAt(std::string_view format, std::size_t begin) {
   return {begin, at + 1, format[at]};
 }
 
-[[noreturn]] inline void formatDoesNotFitItsArguments();  // never defined: stops the compiler
+[[noreturn]] void formatDoesNotFitItsArguments();  // never defined: stops the compiler
 
 // A message's format that was checked, when compiled, against the arguments it came with.
 template <class... Args>
