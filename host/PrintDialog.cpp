@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include <QEvent>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -73,7 +75,6 @@ void PrintDialog::connectParts() {
   connect(buttons, &JobButtons::cancelled, this, &PrintDialog::reject);
   connect(buttons, &JobButtons::closed, this, &PrintDialog::accept);
   connect(buttons, &JobButtons::printWanted, this, &PrintDialog::print);
-  connect(switcher, &PaneSwitcher::resized, this, &PrintDialog::fit);
   connect(layoutPane, &LayoutPane::pagesPerSheetChanged, this, [this](int pages) {
     if (current) current->setPagesPerSheet(pages);
   });
@@ -81,20 +82,23 @@ void PrintDialog::connectParts() {
   connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
 }
 
-void PrintDialog::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  fit();
+bool PrintDialog::event(QEvent* event) {
+  const bool handled = QDialog::event(event);
+  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) fit();
+  return handled;
 }
 
-// Follows the contents, and leaves it to the person to make the window larger than that.
+// Follows the contents as far as the screen goes; what the person has added to the window's height
+// stays.
 void PrintDialog::fit() {
-  layout()->activate();
-  const QSize now = layout()->totalSizeHint();
-  const QSize more = wanted.isValid() && isVisible() ? size() - wanted : QSize(0, 0);
-  wanted = now;
+  if (!isVisible()) return;
   const QSize room = screen()->availableSize() - kWindowFrame;
-  const QSize size(std::max(now.width(), width()), now.height() + std::max(more.height(), 0));
-  resize(size.boundedTo(room));
+  const int width = std::max(layout()->totalSizeHint().width(), this->width());
+  const int height = layout()->totalHeightForWidth(width);
+  const int extra = wantedHeight ? std::max(this->height() - wantedHeight, 0) : 0;
+  const int bar = height > room.height() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+  wantedHeight = std::min(height, room.height());
+  resize(QSize(width + bar, height + extra).boundedTo(room));
 }
 
 void PrintDialog::showHelp() {
@@ -107,7 +111,6 @@ void PrintDialog::showHelp() {
 
 void PrintDialog::say(const std::string& sentence) {
   note->say(shownText(sentence), Note::Kind::information);
-  fit();
 }
 
 void PrintDialog::showConflicts() {
@@ -118,7 +121,6 @@ void PrintDialog::showConflicts() {
                                          "%1. Changing one of them puts it right.")
                                           .arg(texts.join(", ")),
                     Note::Kind::information);
-  fit();
 }
 
 SummaryPane::Sections PrintDialog::allLines() const {

@@ -63,7 +63,6 @@ void PrintDialog::start(const JobRequest& finished) {
   content->setEnabled(false);
   buttons->setState(JobButtons::State::printing);
   buttons->showProgress(tr("Sending the document…"), -1);
-  fit();
   if (output.empty())
     runner.submit(finished, options);
   else
@@ -89,14 +88,12 @@ void PrintDialog::finish(const QString& text, bool withWarning) {
   reportText = text;
   buttons->setState(JobButtons::State::done);
   note->say(text, withWarning ? Note::Kind::warning : Note::Kind::information);
-  fit();
 }
 
 void PrintDialog::giveBack(const QString& text) {
   content->setEnabled(true);
   buttons->setState(JobButtons::State::ready);
   note->say(text, Note::Kind::information);
-  fit();
 }
 
 void PrintDialog::fail(const QString& reason) {
@@ -105,7 +102,6 @@ void PrintDialog::fail(const QString& reason) {
   content->setEnabled(true);
   buttons->setState(JobButtons::State::ready);
   note->say(reason);
-  fit();
 }
 
 }  // namespace tavrin

@@ -81,13 +81,11 @@ void PrintDialog::showPrinters(const std::vector<Printer>& printers) {
   const std::string destination = named.name.empty() ? "" : destinationName(named);
   if (general->printers().setPrinters(printers, destination)) return choosePrinter();
   note->say(tr("There is no printer “%1”. Choose another one.").arg(shownText(destination)));
-  fit();
 }
 
 void PrintDialog::noPrinters(const QString& reason) {
   general->printers().setEmpty(tr("No printers"));
   note->say(reason, Note::Kind::warning, tr("&Look Again"));
-  fit();
 }
 
 void PrintDialog::choosePrinter() {
@@ -121,7 +119,6 @@ void PrintDialog::goWithoutPPD(const QString& reason) {
   note->say(tr("%1 The document can be printed all the same, with the printer's usual settings.")
                 .arg(reason));
   buttons->setState(JobButtons::State::ready);
-  fit();
 }
 
 void PrintDialog::beginSession(const SharedPPD& ppd) {
@@ -136,8 +133,7 @@ void PrintDialog::beginSession(const SharedPPD& ppd) {
   connect(&current->marks(), &PPDMarks::refreshed, this, &PrintDialog::showConflicts);
   connect(current.get(), &PrinterSession::panelResized, this, [this] {
     for (PanelPane* pane : panelPanes) pane->followView();
-    fit();
-  });
+    });
   buttons->setState(JobButtons::State::ready);
   showConflicts();
   emit sessionChanged();
