@@ -53,7 +53,7 @@ class TavConflictController {
   // --- Windows (TavConflictController_windows.cpp) ---
 
   // Shows one window after the other until no conflict is left; returns at once when there is
-  // none, when the windows cannot be shown, and when the program ends meanwhile.
+  // none, when a window is missing, and when the program ends meanwhile.
   //
   // The host may release the panel, and with it this object, while a window is up. The caller
   // therefore touches nothing of the panel after this call.
@@ -91,21 +91,26 @@ class TavConflictController {
   TavConflictController(const PMPrintSettings* settings, const PMPageFormat* pageFormat,
                         ppd_file_t* ppd, PDEModel* pdeModel);
 
-  OptString cartridgeName(const std::string& slot) const;
+  // The names of the cartridges in the printer's two slots; absent where the file names none.
+  struct Cartridges {
+    OptString first, second;
+  };
+  Cartridges installedCartridges() const;
 
-  void loadWindows();
+  bool loadWindows();
   InterfaceBindings bindings();
   void offerMsgOne(InterfaceBindings& bindings);
   void offerMsgTwo(InterfaceBindings& bindings);
   void offerMsgFive(InterfaceBindings& bindings);
-  bool showConflict(int code);
-  bool runWindow(Window& window);
-  bool showInstructions();
+  void showConflict(int code);
+  void runWindow(Window& window);
   void selectFirstMsgOne();
   void selectFirstMsgTwo();
   void selectFirstMsgFive();
-  bool showInstructionsOfMsgTwo();
-  bool showInstructionsOfMsgFive();
+  void resolveConflictsOfMsgTwo();
+  void resolveConflictsOfMsgFive();
+  void showInstructionsOfMsgTwo();
+  void showInstructionsOfMsgFive();
   void ignoreConflictsOfMsgTwo();
   std::string paperTypeLine() const;
   std::string paperSizeLine() const;
@@ -173,7 +178,10 @@ class TavConflictController {
   Outlet<Window> ibInstructionWindow;
   Outlet<Label> ibInstructionText;
 
-  std::shared_ptr<LoadedInterface> windows;
+  // False once a window was not answered because the program is ending.
+  bool canShowWindows = true;
+  // More than one only where the first ones lacked a window: outlets may stand on any of them.
+  std::vector<std::shared_ptr<LoadedInterface>> windows;
   // Expires with this object, for operations that must notice that they outlived it.
   std::shared_ptr<const bool> life = std::make_shared<const bool>(true);
 };

@@ -35,7 +35,7 @@ TavConflictController::TavConflictController(const PMPrintSettings* settings,
 
 TavConflictController::~TavConflictController() {
   NotificationCenter::defaultCenter().removeObserver(this);
-  if (windows) windows->detach();
+  for (const auto& loaded : windows) loaded->detach();
 }
 
 std::vector<int> TavConflictController::validateConflict() const {
@@ -112,21 +112,26 @@ bool TavConflictController::isPaperSizeBanner(const OptString& paperSize) const 
 }
 
 bool TavConflictController::isPhotoCartInstalled() const {
-  return cartridgeName("Cart2") == "Photo Standard";
+  return installedCartridges().second == "Photo Standard";
 }
 
 bool TavConflictController::isColorCartOnly() const {
-  return cartridgeName("Cart1") == "Color Standard" && cartridgeName("Cart2") == "Not installed";
+  const Cartridges installed = installedCartridges();
+  return installed.first == "Color Standard" && installed.second == "Not installed";
 }
 
-OptString TavConflictController::cartridgeName(const std::string& slot) const {
+// Both slots from one reading, so that they belong together while the file is being replaced.
+TavConflictController::Cartridges TavConflictController::installedCartridges() const {
   const PDETools tools;
   const OptString modelName = tools.getModelName(mLocalPPD);
   const OptString year = tools.getModelYear(mLocalPPD);
-  if (!modelName || !year) return std::nullopt;
+  if (!modelName || !year) return {};
   const auto preferences = readPropertyList(pathBelowRoot(kPreferencesPrefix + *year + ".plist"));
-  if (!preferences) return std::nullopt;
-  return preferences->stringAt({*modelName, "Current", slot, "CartName"});
+  if (!preferences) return {};
+  const auto nameIn = [&](const char* slot) {
+    return preferences->stringAt({*modelName, "Current", slot, "CartName"});
+  };
+  return {nameIn("Cart1"), nameIn("Cart2")};
 }
 
 }  // namespace tavrin

@@ -32,7 +32,7 @@ void show(Label& label, const OptString& text) {
 // --- The loop ---
 
 void TavConflictController::processConflict() {
-  loadWindows();
+  const bool haveWindows = loadWindows();
   selectFirstMsgOne();
   selectFirstMsgTwo();
   selectFirstMsgFive();
@@ -41,29 +41,35 @@ void TavConflictController::processConflict() {
   HAS_PRINTINBLACK_INSTRUCTION = false;
   HAS_CARTINSTALLED_INSTRUCTION = false;
   HAS_PAPERSIZE_INSTRUCTION = false;
+  if (!haveWindows) return;
 
   const std::weak_ptr<const bool> alive = life;
+  const auto keptWhileShown = windows;
+  canShowWindows = true;
   for (auto codes = validateConflict(); !codes.empty(); codes = validateConflict()) {
-    const bool stopped = showConflict(codes.front());
-    if (!stopped || alive.expired()) return;
+    showConflict(codes.front());
+    if (alive.expired() || !canShowWindows) return;
   }
 }
 
-void TavConflictController::loadWindows() {
-  if (ibMsgOneWindow.isConnected() && ibMsgTwoWindow.isConnected() &&
-      ibMsgFiveWindow.isConnected() && ibInstructionWindow.isConnected()) {
-    return;
-  }
-  if (windows) windows->detach();
-  windows = Toolkit::current().loadInterface(plugInBundle(), "Conflicts", bindings());
+// Whether all four windows are there.
+bool TavConflictController::loadWindows() {
+  const auto complete = [this] {
+    return ibMsgOneWindow.isConnected() && ibMsgTwoWindow.isConnected() &&
+           ibMsgFiveWindow.isConnected() && ibInstructionWindow.isConnected();
+  };
+  if (complete()) return true;
+  auto loaded = Toolkit::current().loadInterface(plugInBundle(), "Conflicts", bindings());
+  if (loaded) windows.push_back(std::move(loaded));
+  return complete();
 }
 
-// False when no further window can be shown.
-bool TavConflictController::showConflict(int code) {
+void TavConflictController::showConflict(int code) {
   switch (code) {
     case 0:
       composeMsgOne();
-      return runWindow(*ibMsgOneWindow);
+      runWindow(*ibMsgOneWindow);
+      break;
     case 1:
     case 2:
     case 4:
@@ -72,40 +78,41 @@ bool TavConflictController::showConflict(int code) {
     case 9:
       HAS_PAPERSIZE_CONFLICT = true;
       composeMsgFive(paperSizeKind);
-      return runWindow(*ibMsgFiveWindow);
+      runWindow(*ibMsgFiveWindow);
+      break;
     case 3:
     case 6:
       HAS_PAGESPERSHEET_CONFLICT = true;
       composeMsgTwo(pagesPerSheetKind);
-      return runWindow(*ibMsgTwoWindow);
+      runWindow(*ibMsgTwoWindow);
+      break;
     case 8:
       HAS_PRINTINBLACK_CONFLICT = true;
       composeMsgFive(printInBlackKind);
-      return runWindow(*ibMsgFiveWindow);
+      runWindow(*ibMsgFiveWindow);
+      break;
     case 10:
       HAS_MIRROR_CONFLICT = true;
       composeMsgTwo(mirrorKind);
-      return runWindow(*ibMsgTwoWindow);
+      runWindow(*ibMsgTwoWindow);
+      break;
     case 11:
     case 12:
       HAS_CARTINSTALLED_CONFLICT = true;
       composeMsgFive(cartridgeKind);
-      return runWindow(*ibMsgFiveWindow);
+      runWindow(*ibMsgFiveWindow);
+      break;
     default:
-      return true;
+      break;
   }
 }
 
-bool TavConflictController::runWindow(Window& window) {
+void TavConflictController::runWindow(Window& window) {
+  const std::weak_ptr<const bool> alive = life;
   window.center();
   window.display();
-  return Toolkit::current().runModalForWindow(window);
-}
-
-// False when this object is gone or the program ends: nothing of it may be touched any more.
-bool TavConflictController::showInstructions() {
-  const std::weak_ptr<const bool> alive = life;
-  return runWindow(*ibInstructionWindow) && !alive.expired();
+  const bool stopped = Toolkit::current().runModalForWindow(window);
+  if (!alive.expired() && !stopped) canShowWindows = false;
 }
 
 // --- Composing ---
@@ -287,28 +294,33 @@ void TavConflictController::clickOkButton_MsgOne(Button&) {
 void TavConflictController::clickOkButton_MsgTwo(Button&) {
   Toolkit::current().stopModal();
   ibMsgTwoWindow->close();
+  const std::weak_ptr<const bool> alive = life;
   if (isFirstButton_MsgTwoClicked) {
-    if (HAS_PAGESPERSHEET_CONFLICT) {
-      setPaperTypeToChoice("Plain");
-      HAS_PAGESPERSHEET_CONFLICT = false;
-    }
-    if (HAS_MIRROR_CONFLICT) {
-      model->setMirror("Off");
-      model->setMIrrorTicket("False");
-      HAS_MIRROR_CONFLICT = false;
-    }
-    NotificationCenter::defaultCenter().post(ConflictControllerChangeNotification,
-                                             &*ibOkButton_MsgTwo);
+    resolveConflictsOfMsgTwo();
   } else if (isSecondButton_MsgTwoClicked) {
-    if (!showInstructionsOfMsgTwo()) return;
+    showInstructionsOfMsgTwo();
   } else if (isThirdButton_MsgTwoClicked) {
     ignoreConflictsOfMsgTwo();
   }
-  selectFirstMsgTwo();
+  if (!alive.expired()) selectFirstMsgTwo();
+}
+
+void TavConflictController::resolveConflictsOfMsgTwo() {
+  if (HAS_PAGESPERSHEET_CONFLICT) {
+    setPaperTypeToChoice("Plain");
+    HAS_PAGESPERSHEET_CONFLICT = false;
+  }
+  if (HAS_MIRROR_CONFLICT) {
+    model->setMirror("Off");
+    model->setMIrrorTicket("False");
+    HAS_MIRROR_CONFLICT = false;
+  }
+  NotificationCenter::defaultCenter().post(ConflictControllerChangeNotification,
+                                           &*ibOkButton_MsgTwo);
 }
 
 // The mirror conflict is led out of by another paper, so it gets the page set-up's steps.
-bool TavConflictController::showInstructionsOfMsgTwo() {
+void TavConflictController::showInstructionsOfMsgTwo() {
   if (HAS_MIRROR_CONFLICT) {
     composeInstructionMsg(pageSetUpSteps);
     HAS_MIRROR_INSTRUCTION = true;
@@ -319,7 +331,7 @@ bool TavConflictController::showInstructionsOfMsgTwo() {
     HAS_PAGESPERSHEET_INSTRUCTION = true;
     HAS_PAGESPERSHEET_CONFLICT = false;
   }
-  return showInstructions();
+  runWindow(*ibInstructionWindow);
 }
 
 void TavConflictController::ignoreConflictsOfMsgTwo() {
@@ -340,26 +352,31 @@ void TavConflictController::ignoreConflictsOfMsgTwo() {
 void TavConflictController::clickOkButton_MsgFive(Button&) {
   Toolkit::current().stopModal();
   ibMsgFiveWindow->close();
+  const std::weak_ptr<const bool> alive = life;
   if (isFirstButton_MsgFiveClicked) {
-    if (HAS_PAPERSIZE_CONFLICT) {
-      setPaperTypeToChoice("Plain");
-      HAS_PAPERSIZE_CONFLICT = false;
-    }
-    if (HAS_PRINTINBLACK_CONFLICT || HAS_CARTINSTALLED_CONFLICT) {
-      setBlackAndWhiteToChoice("Color");
-      HAS_PRINTINBLACK_CONFLICT = false;
-      HAS_CARTINSTALLED_CONFLICT = false;
-    }
-    NotificationCenter::defaultCenter().post(ConflictControllerChangeNotification,
-                                             &*ibOkButton_MsgFive);
+    resolveConflictsOfMsgFive();
   } else if (isSecondButton_MsgFiveClicked) {
-    if (!showInstructionsOfMsgFive()) return;
+    showInstructionsOfMsgFive();
   }
-  selectFirstMsgFive();
+  if (!alive.expired()) selectFirstMsgFive();
+}
+
+void TavConflictController::resolveConflictsOfMsgFive() {
+  if (HAS_PAPERSIZE_CONFLICT) {
+    setPaperTypeToChoice("Plain");
+    HAS_PAPERSIZE_CONFLICT = false;
+  }
+  if (HAS_PRINTINBLACK_CONFLICT || HAS_CARTINSTALLED_CONFLICT) {
+    setBlackAndWhiteToChoice("Color");
+    HAS_PRINTINBLACK_CONFLICT = false;
+    HAS_CARTINSTALLED_CONFLICT = false;
+  }
+  NotificationCenter::defaultCenter().post(ConflictControllerChangeNotification,
+                                           &*ibOkButton_MsgFive);
 }
 
 // Each fill replaces the one before: with several conflicts the last one's steps are shown.
-bool TavConflictController::showInstructionsOfMsgFive() {
+void TavConflictController::showInstructionsOfMsgFive() {
   if (HAS_PRINTINBLACK_CONFLICT) {
     composeInstructionMsg(colorSteps);
     HAS_PRINTINBLACK_INSTRUCTION = true;
@@ -375,7 +392,7 @@ bool TavConflictController::showInstructionsOfMsgFive() {
     HAS_PAPERSIZE_INSTRUCTION = true;
     HAS_PAPERSIZE_CONFLICT = false;
   }
-  return showInstructions();
+  runWindow(*ibInstructionWindow);
 }
 
 void TavConflictController::windowWillClose() {

@@ -3,6 +3,7 @@
 
 #include "controller/ControllerTest.h"
 #include "platform/RootFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {
@@ -53,14 +54,8 @@ TEST_F(Summary, LetsALaterLineReplaceOneOfTheSameLabel) {
 // Help books below a root of the test's own.
 class Help : public ControllerTest {
  protected:
-  Help() : root(std::filesystem::path(testing::TempDir()) / "tavrin-help-test") {
-    std::filesystem::remove_all(root);
-    setRootFolder(root);
-  }
-  ~Help() override {
-    setRootFolder({});
-    std::filesystem::remove_all(root);
-  }
+  Help() { setRootFolder(root); }
+  ~Help() override { setRootFolder({}); }
 
   void makeFolder(const std::string& path) { std::filesystem::create_directories(root / path); }
 
@@ -77,7 +72,8 @@ class Help : public ControllerTest {
     return controller->shouldShowDefaultHelp();
   }
 
-  const std::filesystem::path root;
+  const testing::TemporaryFolder folder;
+  const std::filesystem::path root = folder.path();
   FakeHelpViewer viewer;
 };
 

@@ -44,7 +44,9 @@ void moveToHeight(View& view, double y) {
 
 std::shared_ptr<View> TavPDEController::mainView() {
   if (!ibPDEView.isConnected()) {
-    panel = Toolkit::current().loadInterface(plugInBundle(), "TavrinPDENIB", bindings());
+    // A file without the root view is not loaded again: outlets may stand on its other objects.
+    if (!panel)
+      panel = Toolkit::current().loadInterface(plugInBundle(), "TavrinPDENIB", bindings());
     headerViewRect = ibHeaderView->frame();
     advancedViewRect = ibAdvancedView->frame();
     if (!hasTray2Support) hidePaperSourceRow();

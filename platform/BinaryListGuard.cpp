@@ -9,11 +9,12 @@ namespace {
 
 constexpr std::size_t kHeaderSize = 8;
 constexpr std::size_t kTrailerSize = 32;
-// Real lists nest a handful of times. A limit on depth also ends every cycle.
-constexpr int kDepthLimit = 64;
+// Real lists nest a handful of times. A limit on depth also ends every cycle, and libplist
+// compares each object with all that it lies in.
+constexpr int kDepthLimit = 32;
 // What a list may grow to in memory, and about what an object takes of that besides its bytes.
-constexpr std::size_t kGrowthLimit = 8 * 1024 * 1024;
-constexpr std::size_t kObjectSize = 100;
+constexpr std::size_t kGrowthLimit = 4 * 1024 * 1024;
+constexpr std::size_t kObjectSize = 128;
 
 enum Kind : unsigned {
   kNumber = 1,
@@ -48,6 +49,7 @@ class BinaryList {
   bool readObject(std::uint64_t index, Object& object) const;
   bool readCount(Object& object) const;
   bool charge(std::size_t size);
+  bool hasNul(const Object& object, std::size_t characterSize) const;
 
   // Whether so many bytes lie before the offset table.
   bool holds(std::size_t at, std::uint64_t size) const {
@@ -90,6 +92,14 @@ bool BinaryList::charge(std::size_t size) {
   return growth <= kGrowthLimit;
 }
 
+// libplist ends the program over a key with a NUL inside, and cuts other texts there.
+bool BinaryList::hasNul(const Object& text, std::size_t characterSize) const {
+  for (std::uint64_t i = 0; i < text.count; ++i) {
+    if (number(text.body + i * characterSize, characterSize) == 0) return true;
+  }
+  return false;
+}
+
 bool BinaryList::readCount(Object& object) const {
   if (!holds(object.body, 1)) return false;
   const std::uint64_t marker = number(object.body, 1);
@@ -123,12 +133,13 @@ bool BinaryList::visit(std::uint64_t index, int depth) {
     case kUid:
       return holds(object.body, object.count + 1) && charge(0);
     case kData:
-    case kAscii:
       return holds(object.body, object.count) && charge(object.count);
+    case kAscii:
+      return holds(object.body, object.count) && charge(object.count) && !hasNul(object, 1);
     case kUtf16:
       // Two bytes a character become at most three, in a buffer of four.
       return object.count <= bytes.size() && holds(object.body, object.count * 2) &&
-             charge(object.count * 4);
+             charge(object.count * 4) && !hasNul(object, 2);
     case kArray:
     case kSet:
     case kDictionary:

@@ -1,0 +1,172 @@
+#include "platform/HelpViewer.h"
+
+#include <fstream>
+#include <memory>
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+#include "platform/testing/Environment.h"
+#include "platform/testing/Lists.h"
+#include "platform/testing/TemporaryFolder.h"
+
+namespace tavrin {
+namespace {
+
+using testing::LocaleEnvironment;
+using testing::xmlEntry;
+
+class RecordingViewer final : public HelpViewer {
+ public:
+  void registerHelpBook(const std::string& path) override { registered = path; }
+  void gotoPage(const std::string&, const OptString&, const OptString&) override {}
+
+  std::string registered;
+};
+
+TEST(HelpViewer, BeforeOneIsInstalledNothingIsShown) {
+  HelpViewer::current().registerHelpBook("/Library/Printers/Help");
+  HelpViewer::current().gotoPage("Book", "page.html", std::nullopt);
+}
+
+TEST(HelpViewer, IsTheOneThatTheProgramInstalled) {
+  RecordingViewer viewer;
+  HelpViewer::install(&viewer);
+  HelpViewer::current().registerHelpBook("/Library/Printers/Help");
+  EXPECT_EQ(viewer.registered, "/Library/Printers/Help");
+  HelpViewer::install(nullptr);
+  EXPECT_NE(&HelpViewer::current(), &viewer);
+}
+
+class HelpBookTest : public ::testing::Test {
+ protected:
+  std::filesystem::path write(const std::string& name, const std::string& title = "Page") {
+    return folder.write("book/" + name, "<title>" + title + "</title>");
+  }
+  void writeInfo(const std::string& entries) {
+    folder.write("book/Contents/Info.plist", testing::xmlList("<dict>" + entries + "</dict>"));
+  }
+  HelpBook book() const { return helpBookAt(folder.path() / "book"); }
+
+  testing::TemporaryFolder folder;
+  LocaleEnvironment locale{{"LC_ALL", "de_DE.UTF-8"}};
+};
+
+TEST_F(HelpBookTest, IsAFolderWithPages) {
+  const auto start = write("index.html", "Tavrin 420 Help");
+  write("PrintDialog.html");
+  EXPECT_EQ(book().name, "Tavrin 420 Help");
+  EXPECT_EQ(book().folder, folder.path() / "book");
+  EXPECT_EQ(book().startPage, start);
+}
+
+TEST_F(HelpBookTest, StartsWithItsIndexElseWithItsOnlyPage) {
+  const auto only = write("welcome.html", "Welcome");
+  folder.write("book/style.css", "");
+  EXPECT_EQ(book().startPage, only);
+  write("second.html");
+  EXPECT_EQ(book().startPage, "");
+  EXPECT_EQ(book().name, "");
+  const auto index = write("index.htm", "Index");
+  EXPECT_EQ(book().startPage, index);
+}
+
+TEST_F(HelpBookTest, NameInTheInformationGoesBeforeTheTitle) {
+  writeInfo(xmlEntry("CFBundleHelpBookName", "Tavrin R420 Help"));
+  EXPECT_EQ(book().name, "Tavrin R420 Help");
+  EXPECT_EQ(book().startPage, "");
+  const auto start = write("Contents/Resources/index.html", "Title");
+  EXPECT_EQ(book().name, "Tavrin R420 Help");
+  EXPECT_EQ(book().startPage, start);
+}
+
+TEST_F(HelpBookTest, IsReadInTheUsersLanguage) {
+  writeInfo(xmlEntry("CFBundleHelpBookFolder", "Help"));
+  const auto english = write("Contents/Resources/en.lproj/Help/index.html");
+  EXPECT_EQ(book().startPage, english);
+  const auto neutral = write("Contents/Resources/Help/index.html");
+  EXPECT_EQ(book().startPage, neutral);
+  const auto german = write("Contents/Resources/de.lproj/Help/index.html", "Hilfe");
+  EXPECT_EQ(book().startPage, german);
+  EXPECT_EQ(book().folder, german.parent_path());
+  EXPECT_EQ(book().name, "Hilfe");
+}
+
+TEST_F(HelpBookTest, MayBeABundleInsideTheDriversBundle) {
+  writeInfo(xmlEntry("CFBundleHelpBookFolder", "Tavrin.help") +
+            xmlEntry("CFBundleHelpBookName", "Driver Help"));
+  const auto start = write("Contents/Resources/Tavrin.help/Contents/Resources/de.lproj/index.html");
+  EXPECT_EQ(book().startPage, start);
+  EXPECT_EQ(book().name, "Driver Help");
+}
+
+TEST_F(HelpBookTest, FolderOfTheInformationIsAPlainName) {
+  folder.write("elsewhere/index.html", "<title>Elsewhere</title>");
+  for (const char* name : {"../../../elsewhere", "..", "/", "."}) {
+    writeInfo(xmlEntry("CFBundleHelpBookFolder", name));
+    EXPECT_EQ(book().startPage, "") << name;
+  }
+}
+
+TEST_F(HelpBookTest, ThatContainsItselfEnds) {
+  writeInfo(xmlEntry("CFBundleHelpBookFolder", "Self"));
+  std::filesystem::create_directories(folder.path() / "book/Contents/Resources");
+  std::filesystem::create_directory_symlink("../..",
+                                            folder.path() / "book/Contents/Resources/Self");
+  EXPECT_EQ(book().startPage, "");
+}
+
+TEST_F(HelpBookTest, WithoutAFolderIsNoBook) {
+  for (const char* name : {"missing", "", "file"}) {
+    folder.write("file", "<title>x</title>");
+    const HelpBook none = helpBookAt(folder.path() / name);
+    EXPECT_EQ(none.name, "") << name;
+    EXPECT_EQ(none.startPage, "") << name;
+    EXPECT_EQ(none.folder, "") << name;
+  }
+}
+
+TEST_F(HelpBookTest, WithAnOversizeStartPageHasNoTitle) {
+  const auto start = write("index.html", "Title");
+  std::ofstream(start, std::ios::app) << testing::repeated(" ", 1024 * 1024);
+  EXPECT_EQ(book().startPage, start);
+  EXPECT_EQ(book().name, "");
+}
+
+TEST_F(HelpBookTest, StartPageIsAFileOfItsOwn) {
+  std::filesystem::create_directories(folder.path() / "book");
+  ASSERT_EQ(mkfifo((folder.path() / "book/index.html").c_str(), 0600), 0);
+  EXPECT_EQ(book().startPage, "");
+  std::filesystem::remove(folder.path() / "book/index.html");
+  std::filesystem::create_symlink("/etc/passwd", folder.path() / "book/index.html");
+  EXPECT_EQ(book().startPage, "");
+}
+
+TEST_F(HelpBookTest, PagesAreFoundByName) {
+  const auto start = write("index.html");
+  const auto page = write("PrintDialog.html");
+  const auto deeper = write("pages/ink.html");
+  EXPECT_EQ(helpPage(book(), "PrintDialog.html"), page);
+  EXPECT_EQ(helpPage(book(), "pages/ink.html"), deeper);
+  EXPECT_EQ(helpPage(book(), std::nullopt), start);
+  EXPECT_EQ(helpPage(book(), "missing.html"), "");
+  EXPECT_EQ(helpPage(book(), "pages"), "");
+  EXPECT_EQ(helpPage(book(), ""), "");
+  EXPECT_EQ(helpPage(HelpBook(), "PrintDialog.html"), "");
+}
+
+TEST_F(HelpBookTest, PagesDoNotLeadOut) {
+  write("index.html");
+  const auto secret = folder.write("secret.html", "secret");
+  std::filesystem::create_symlink("../secret.html", folder.path() / "book/link.html");
+  std::filesystem::create_directory_symlink("..", folder.path() / "book/up");
+  EXPECT_EQ(helpPage(book(), "../secret.html"), "");
+  EXPECT_EQ(helpPage(book(), "link.html"), "");
+  EXPECT_EQ(helpPage(book(), "up/secret.html"), "");
+  EXPECT_EQ(helpPage(book(), secret.string()), "");
+  EXPECT_EQ(helpPage(book(), std::string("index.html\0", 11)), "");
+  EXPECT_EQ(helpPage(book(), "../book/index.html"), folder.path() / "book/../book/index.html");
+}
+
+}  // namespace
+}  // namespace tavrin

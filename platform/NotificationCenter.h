@@ -17,7 +17,7 @@ class NotificationCenter {
   static NotificationCenter& defaultCenter();
 
   // Calls the handler for every later notification of that name, from any poster. The owner is
-  // only a mark to remove the observer by.
+  // only a mark to remove the observer by, and not null.
   void addObserver(const void* owner, std::string name, Handler handler);
 
   // Forgets every observer of that owner. Allowed while a notification is being delivered, also
@@ -35,8 +35,12 @@ class NotificationCenter {
     Handler handler;
   };
 
+  class Delivery;  // a post that is on the stack
+
+  void sweep();
+
   std::list<Observer> observers;
-  int deliveries = 0;  // posts that are on the stack
+  int deliveries = 0;
 };
 
 }  // namespace tavrin

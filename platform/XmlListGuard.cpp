@@ -1,5 +1,8 @@
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <system_error>
 #include <vector>
 
 #include "platform/PropertyListGuard.h"
@@ -8,14 +11,14 @@ namespace tavrin {
 namespace {
 
 // Real lists nest a handful of times.
-constexpr std::size_t kDepthLimit = 64;
+constexpr std::size_t kDepthLimit = 32;
 // About 100 bytes each in libplist, and as many in ours.
-constexpr std::size_t kElementLimit = 80'000;
+constexpr std::size_t kElementLimit = 65'000;
 // libplist compares a new key with the ones before it, with all of them where the keys are made
-// so: a dictionary of n keys costs n * n. This many take some 15 ms: one dictionary of 2,000 keys.
-constexpr std::size_t kComparisonLimit = 4'000'000;
-// libplist moves the rest of a text at each character reference in it. Some 5 ms.
-constexpr std::size_t kMoveLimit = 500'000'000;
+// so: a dictionary of n keys costs n * n. This many take some 12 ms: one dictionary of 1,700 keys.
+constexpr std::size_t kComparisonLimit = 3'000'000;
+// libplist moves the rest of a text at each character reference in it. Some 3 ms.
+constexpr std::size_t kMoveLimit = 300'000'000;
 
 using std::string_view;
 
@@ -36,6 +39,28 @@ std::size_t moveCount(string_view list) {
     list.remove_prefix(std::min(text.size() + 1, list.size()));
   }
   return moves;
+}
+
+// Whether a character reference, without its "&#" and ";", means a character.
+bool isCharacter(string_view reference) {
+  const bool isHex = reference.starts_with('x');
+  if (isHex) reference.remove_prefix(1);
+  std::uint32_t value = 0;
+  const char* end = reference.data() + reference.size();
+  const auto read = std::from_chars(reference.data(), end, value, isHex ? 16 : 10);
+  return read.ec == std::errc() && read.ptr == end && value > 0 && value <= 0x10FFFF;
+}
+
+// libplist ends the program over a key with a NUL inside, which only a reference can put there.
+bool hasSoundReferences(string_view list) {
+  constexpr std::size_t kLongest = 12;
+  for (std::size_t at = 0; (at = list.find("&#", at)) != string_view::npos;) {
+    at += 2;
+    const string_view near = list.substr(at, kLongest);
+    const std::size_t end = near.find(';');
+    if (end == string_view::npos || !isCharacter(near.substr(0, end))) return false;
+  }
+  return true;
 }
 
 // Follows the open elements from tag to tag.
@@ -119,7 +144,7 @@ bool Nesting::leave() {
 
 bool isHarmlessXmlList(std::string_view bytes) {
   return bytes.find('\0') == string_view::npos && elementCount(bytes) <= kElementLimit &&
-         moveCount(bytes) <= kMoveLimit && Nesting(bytes).isHarmless();
+         moveCount(bytes) <= kMoveLimit && hasSoundReferences(bytes) && Nesting(bytes).isHarmless();
 }
 
 }  // namespace tavrin

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/RootFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 #include "tests/fakes/FakeJob.h"
 #include "tests/fakes/FakePPD.h"
 #include "tests/fakes/FakeToolkit.h"
@@ -14,16 +15,10 @@ namespace {
 
 using Pairs = std::vector<std::pair<std::string, OptString>>;
 
-class MainPDETest : public testing::Test {
+class MainPDETest : public ::testing::Test {
  protected:
-  MainPDETest() : root(std::filesystem::path(testing::TempDir()) / "tavrin-panel-test") {
-    std::filesystem::remove_all(root);
-    setRootFolder(root);
-  }
-  ~MainPDETest() override {
-    setRootFolder({});
-    std::filesystem::remove_all(root);
-  }
+  MainPDETest() { setRootFolder(root); }
+  ~MainPDETest() override { setRootFolder({}); }
 
   void start(PPDPtr printer) {
     panel.reset();
@@ -49,7 +44,8 @@ class MainPDETest : public testing::Test {
   // The value that the panel shows for a setting, by its label in the summary.
   OptString value(const std::string& label) { return panel->summaryInfo().at(label); }
 
-  const std::filesystem::path root;
+  const testing::TemporaryFolder folder;
+  const std::filesystem::path root = folder.path();
   FakeToolkit toolkit;
   FakeHelpViewer viewer;
   FakeHost host;

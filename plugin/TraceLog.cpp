@@ -64,7 +64,9 @@ std::string show(std::string_view written, const Argument& argument) {
       return print(directiveFor(written, "c"), static_cast<int>(argument.number));
     case Kind::signedNumber:
     case Kind::unsignedNumber:
-      return print(directiveFor(written, "ll" + conversion), argument.number);
+      return isOneOf(conversion[0], "di")
+                 ? print(directiveFor(written, "ll" + conversion), argument.number)
+                 : print(directiveFor(written, "ll" + conversion), argument.bits);
   }
   return {};
 }

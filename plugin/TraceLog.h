@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -27,11 +28,18 @@ namespace trace {
 // What an argument of a message may be.
 enum class Kind { signedNumber, unsignedNumber, real, character, text, pointer, object };
 
+// An array knows its length, so it need not end with a NUL.
+template <class T>
+constexpr bool isCharArray =
+    std::is_array_v<T>&& std::is_same_v<std::remove_cv_t<std::remove_extent_t<T>>, char>;
+
 template <class T>
 constexpr Kind kindOf() {
   using D = std::decay_t<T>;
-  if constexpr (std::is_same_v<D, OptString> || std::is_same_v<D, std::string> ||
-                std::is_same_v<D, std::string_view>) {
+  if constexpr (isCharArray<T>) {
+    return Kind::object;
+  } else if constexpr (std::is_same_v<D, OptString> || std::is_same_v<D, std::string> ||
+                       std::is_same_v<D, std::string_view>) {
     return Kind::object;
   } else if constexpr (std::is_same_v<D, const char*> || std::is_same_v<D, char*>) {
     return Kind::text;
@@ -100,7 +108,7 @@ constexpr Directive directiveAt(std::string_view format, std::size_t begin) {
   return {begin, at + 1, format[at]};
 }
 
-[[noreturn]] inline void formatDoesNotFitItsArguments();  // never defined: stops the compiler
+[[noreturn]] void formatDoesNotFitItsArguments();  // never defined: stops the compiler
 
 // A message's format that was checked, when compiled, against the arguments it came with.
 template <class... Args>
@@ -133,16 +141,28 @@ class Format {
 // An argument of a message, ready to be shown by any directive that fits its kind.
 struct Argument {
   Kind kind;
-  long long number = 0;  // also a character; the bits of an unsigned number
+  long long number = 0;         // also a character
+  unsigned long long bits = 0;  // the number without its sign, in the argument's own width
   double real = 0;
   const void* pointer = nullptr;  // also a C string; may be null
   std::string_view object = {};   // "(null)" for an absent one
 };
 
 template <class T>
+unsigned long long bitsOf(T value) {
+  if constexpr (std::is_enum_v<T>) {
+    return bitsOf(static_cast<std::underlying_type_t<T>>(value));
+  } else {
+    return static_cast<std::make_unsigned_t<decltype(+value)>>(+value);
+  }
+}
+
+template <class T>
 Argument argument(const T& value) {
   Argument made{kindOf<T>()};
-  if constexpr (std::is_same_v<T, OptString>) {
+  if constexpr (isCharArray<T>) {
+    made.object = std::string_view(value, strnlen(value, std::extent_v<T>));
+  } else if constexpr (std::is_same_v<T, OptString>) {
     made.object = value ? std::string_view(*value) : "(null)";
   } else if constexpr (kindOf<T>() == Kind::object) {
     made.object = value;
@@ -152,6 +172,7 @@ Argument argument(const T& value) {
     made.real = static_cast<double>(value);
   } else {
     made.number = static_cast<long long>(value);
+    made.bits = bitsOf(value);
   }
   return made;
 }

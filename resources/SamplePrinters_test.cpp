@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <filesystem>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -23,10 +24,13 @@ struct Sample {
   const char* year;
   const char* helpAttribute;  // the attribute that leads to the help book
   bool helpInstalled;
-  int dryTime;         // 0 check box, 1 pop-up, -1 none
-  const char* tray2;   // the marked choice of "Tray2Option"; null without the option
+  int dryTime;        // 0 check box, 1 pop-up, -1 none
+  const char* tray2;  // the marked choice of "Tray2Option"; null without the option
   StringEncoding encoding;
 };
+
+// So that a test is listed with the printer's name.
+void PrintTo(const Sample& sample, std::ostream* out) { *out << sample.file; }
 
 constexpr Sample kSamples[] = {
     {"tavrin-r420.ppd", "2006", "TavHelpPath", true, 1, "True", kUTF8Encoding},
@@ -39,8 +43,7 @@ constexpr Sample kSamples[] = {
 
 class SamplePrinter : public testing::TestWithParam<Sample> {
  protected:
-  SamplePrinter()
-      : ppd(ppdOpenFile((kResources / "printers" / GetParam().file).c_str())) {
+  SamplePrinter() : ppd(ppdOpenFile((kResources / "printers" / GetParam().file).c_str())) {
     if (ppd) ppdMarkDefaults(ppd.get());
   }
 
@@ -74,8 +77,7 @@ TEST_P(SamplePrinter, ShowsWhatItIsThereToShow) {
 
 TEST_P(SamplePrinter, LeadsToItsHelp) {
   ASSERT_TRUE(ppd);
-  const OptString path =
-      tools.getComponentPath(GetParam().helpAttribute, ppd.get(), kUTF8Encoding);
+  const OptString path = tools.getComponentPath(GetParam().helpAttribute, ppd.get(), kUTF8Encoding);
   ASSERT_TRUE(path);
   const fs::path folder = kResources / "root" / fs::path(*path).relative_path();
   EXPECT_EQ(fs::is_directory(folder), GetParam().helpInstalled) << folder;
@@ -92,9 +94,8 @@ TEST_P(SamplePrinter, NamesThePanel) {
 TEST_P(SamplePrinter, HasTheChoicesWhereThePanelLooksForThem) {
   ASSERT_TRUE(ppd);
   EXPECT_EQ(keywords("ColorModel"), (std::vector<std::string>{"Color", "Black"}));
-  EXPECT_EQ(keywords("Sharpening"),
-            (std::vector<std::string>{"Automatic", "0", "1", "2", "3", "4", "5", "6", "7", "8",
-                                      "9", "10"}));
+  EXPECT_EQ(keywords("Sharpening"), (std::vector<std::string>{"Automatic", "0", "1", "2", "3", "4",
+                                                              "5", "6", "7", "8", "9", "10"}));
   EXPECT_EQ(keywords("Mirror"), (std::vector<std::string>{"False", "True"}));
   for (const char* quality : {"Automatic", "Draft", "Normal"}) {
     EXPECT_TRUE(hasChoice("PrintQuality", quality)) << quality;

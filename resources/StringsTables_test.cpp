@@ -18,8 +18,7 @@ using Table = PropertyList::Dictionary;
 constexpr char kUtilityStep[] = "2) Launch the Tavrin Utility";
 
 Table tableOf(const std::string& language) {
-  const fs::path file =
-      fs::path(TAVRIN_RESOURCES) / (language + ".lproj") / "Localizable.strings";
+  const fs::path file = fs::path(TAVRIN_RESOURCES) / (language + ".lproj") / "Localizable.strings";
   const auto list = readPropertyList(file);
   EXPECT_TRUE(list && list->dictionary()) << file;
   return list && list->dictionary() ? *list->dictionary() : Table();
@@ -70,8 +69,8 @@ TEST(StringsTables, EveryLanguageHasTheSameKeysAndNoEmptyText) {
 }
 
 TEST(StringsTables, NoKeyIsLeftOver) {
-  const std::string sources = sourcesOf("conflict") + sourcesOf("controller") +
-                              sourcesOf("plugin") + sourcesOf("ppd");
+  const std::string sources =
+      sourcesOf("conflict") + sourcesOf("controller") + sourcesOf("plugin") + sourcesOf("ppd");
   for (const std::string& key : keysOf(tableOf("en"))) {
     EXPECT_NE(sources.find('"' + key + '"'), std::string::npos) << key;
   }

@@ -53,7 +53,7 @@ bool isOfTheFile(const QWidget& widget) {
 }  // namespace
 
 QtLoadedInterface::QtLoadedInterface(std::unique_ptr<QWidget> widgets, InterfaceBindings offered)
-    : root(std::move(widgets)), bindings(std::move(offered)) {}
+    : root(widgets.release()), bindings(std::move(offered)) {}
 
 std::shared_ptr<LoadedInterface> QtLoadedInterface::make(std::unique_ptr<QWidget> root,
                                                          InterfaceBindings bindings) {
@@ -68,9 +68,10 @@ std::shared_ptr<LoadedInterface> QtLoadedInterface::make(std::unique_ptr<QWidget
 
 // The widgets may be in the middle of telling us something: they go when that is over.
 QtLoadedInterface::~QtLoadedInterface() {
+  if (!root) return;
   root->hide();
   root->setParent(nullptr);
-  root.release()->deleteLater();
+  root->deleteLater();
 }
 
 void QtLoadedInterface::detach() {
@@ -82,7 +83,7 @@ void QtLoadedInterface::detach() {
 void QtLoadedInterface::makeObjects() {
   if (!root->layout() && root->findChild<QDialog*>() == nullptr) PanelLayout::takeOver(*root);
   QList<QWidget*> widgets = root->findChildren<QWidget*>();
-  widgets.prepend(root.get());
+  widgets.prepend(root);
   for (QWidget* widget : widgets) {
     if (!isOfTheFile(*widget)) continue;
     const std::string name = widget->objectName().toStdString();

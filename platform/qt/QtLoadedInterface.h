@@ -6,10 +6,10 @@
 #include <variant>
 #include <vector>
 
-#include "platform/Toolkit.h"
+#include <QPointer>
+#include <QWidget>
 
-class QLabel;
-class QWidget;
+#include "platform/Toolkit.h"
 
 namespace tavrin {
 
@@ -45,7 +45,7 @@ class QtLoadedInterface : public LoadedInterface,
   void reportUnusedActions();
   void windowCloses();
 
-  std::unique_ptr<QWidget> root;
+  QPointer<QWidget> root;  // ours, unless the program gave it a parent and deleted that
   InterfaceBindings bindings;
   bool detached = false;
   std::vector<std::unique_ptr<View>> views;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdlib>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace tavrin::testing {
 
@@ -11,13 +13,13 @@ namespace tavrin::testing {
 // before when it ends.
 class LocaleEnvironment {
  public:
-  explicit LocaleEnvironment(const std::map<std::string, std::string>& wanted = {}) {
+  LocaleEnvironment(std::initializer_list<std::pair<const char*, const char*>> wanted) {
     for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"}) {
       const char* value = std::getenv(name);
       before[name] = value != nullptr ? std::optional<std::string>(value) : std::nullopt;
       unsetenv(name);
     }
-    for (const auto& [name, value] : wanted) setenv(name.c_str(), value.c_str(), 1);
+    for (const auto& [name, value] : wanted) setenv(name, value, 1);
   }
   ~LocaleEnvironment() {
     for (const auto& [name, value] : before) {

@@ -32,9 +32,11 @@ std::string sharedReferences(int levels) {
   return binaryList(objects);
 }
 
-std::string deepBinary(int levels) {
+std::string deepBinary(int levels, int sharing = 0) {
   std::vector<std::string> objects;
-  for (int i = 1; i < levels; ++i) objects.push_back(binaryArray({i}));
+  for (int i = 1; i < levels; ++i) {
+    objects.push_back(binaryArray(i < levels - sharing ? std::vector{i} : std::vector{i, i}));
+  }
   objects.push_back(binaryText("x"));
   return binaryList(objects);
 }
@@ -47,15 +49,15 @@ std::string sharedText() {
       {binaryArray(std::vector<int>(14, 1)), binaryArray(std::vector<int>(14, 2)), text}, 4);
 }
 
-// Keys that share a value in the 33-times hash, so that a hash table becomes a list.
-std::string collidingKeys(int bits) {
+// Entries with keys that share a value in the 33-times hash: a hash table becomes a list.
+std::string collidingKeys(int count) {
   std::string entries;
-  for (int i = 0; i < 1 << bits; ++i) {
+  for (int i = 0; i < count; ++i) {
     std::string key;
-    for (int bit = 0; bit < bits; ++bit) key += (i >> bit & 1) != 0 ? "bA" : "ab";
+    for (int bit = 0; bit < 14; ++bit) key += (i >> bit & 1) != 0 ? "bA" : "ab";
     entries += "<key>" + key + "</key><true/>";
   }
-  return xmlList("<dict>" + entries + "</dict>");
+  return "<dict>" + entries + "</dict>";
 }
 
 // So many units that the list is as large as a list may be.
@@ -134,8 +136,8 @@ std::vector<HostileList> hostileLists() {
       {"XML references in a comment's disguise",
        largest("<string x=\"><!--\">", "&lt;", "<!-- --></string>")},
       {"XML elements", largest("<array>", "<true/>", "</array>")},
-      {"XML colliding keys", collidingKeys(14)},
-      {"XML colliding keys, fewer", collidingKeys(12)},
+      {"XML colliding keys", xmlList(collidingKeys(16'000))},
+      {"XML colliding keys, fewer", xmlList(collidingKeys(2'000))},
       {"XML keys", largest("<dict>", "<key>a</key><true/>", "</dict>")},
       {"too large", largest("<string>", "x", "</string>") + "  "},
       {"binary shared references", sharedReferences(24)},
@@ -144,6 +146,9 @@ std::vector<HostileList> hostileLists() {
       {"binary cycle of one", binaryList({binaryArray({0})})},
       {"binary cycle of two", binaryList({binaryArray({1, 1, 1}), binaryArray({0, 0})})},
       {"binary dictionary in itself", binaryList({binaryDictionary({1, 0}), binaryText("k")})},
+      {"binary NUL in a key",
+       binaryList({binaryDictionary({1, 1}), std::string("\x63\0a\0\0\0b", 7)})},
+      {"binary NUL in a text", binaryList({binaryText(std::string("a\0b", 3))})},
       {"binary key that is no text", binaryList({binaryDictionary({1, 1}), binaryArray({})})},
       {"binary reference to nothing", binaryList({binaryArray({7})})},
       {"binary text past its end", binaryList({marker(5, 14) + "short"})},
@@ -165,13 +170,17 @@ std::vector<HostileList> largeLists() {
                             xmlEntry("CartName", "Photo Standard") + "</dict></dict></dict>";
   return {
       {"XML text", largest("<string>", "x", "</string>")},
-      {"XML comments", xmlList("<string>x" + repeated("<!--x-->", 70'000) + "</string>")},
+      {"XML comments", xmlList("<string>x" + repeated("<!--x-->", 60'000) + "</string>")},
       {"XML models", largest("<array>", model, "</array>")},
-      {"XML colliding keys", collidingKeys(10)},
-      {"XML elements", xmlList("<array>" + repeated("<dict/>", 79'000) + "</array>")},
-      {"XML dictionaries", manyKeys(16, 499)},
-      {"XML references", xmlList("<string>" + repeated("&#65;", 9'000) + "</string>")},
-      {"binary shared references", sharedReferences(15)},
+      {"XML colliding keys", xmlList(collidingKeys(1'700))},
+      {"XML elements", xmlList("<array>" + repeated("<dict/>", 59'000) + "</array>")},
+      {"XML dictionaries", manyKeys(12, 499)},
+      {"XML references", xmlList("<string>" + repeated("&#65;", 7'000) + "</string>")},
+      {"XML everything at once",
+       xmlList("<array><string>" + repeated("&#65;", 7'000) + "</string>" + collidingKeys(1'700) +
+               repeated("<array/>", 56'000) + "</array>")},
+      {"binary shared references", sharedReferences(14)},
+      {"binary shared references far below", deepBinary(31, 13)},
   };
 }
 

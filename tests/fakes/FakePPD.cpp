@@ -1,9 +1,10 @@
 #include "tests/fakes/FakePPD.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace tavrin {
 namespace {
@@ -53,11 +54,10 @@ std::string ppdText(const std::vector<PPDOptionText>& options,
 }
 
 PPDPtr parsePPD(const std::string& text, bool markDefaults) {
-  std::FILE* file = std::tmpfile();
-  std::fwrite(text.data(), 1, text.size(), file);
-  std::rewind(file);
-  PPDPtr ppd(ppdOpen(file));
-  std::fclose(file);
+  const int file = memfd_create("test.ppd", MFD_CLOEXEC);
+  (void)!write(file, text.data(), text.size());
+  lseek(file, 0, SEEK_SET);
+  PPDPtr ppd(ppdOpenFd(file));  // closes the file
   if (!ppd) {
     int line = 0;
     const ppd_status_t status = ppdLastError(&line);

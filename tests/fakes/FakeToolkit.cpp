@@ -67,6 +67,18 @@ void FakeInterface::make(const std::string& name, InterfaceBindings::AnyOutlet o
   }
 }
 
+void FakeInterface::detach() {
+  detached = true;
+  for (const auto& [name, window] : windows) window->close();
+}
+
+OptString FakeInterface::nameOf(const Window& window) const {
+  for (const auto& [name, fake] : windows) {
+    if (fake.get() == &window) return name;
+  }
+  return std::nullopt;
+}
+
 template <class Sender>
 void FakeInterface::run(const std::string& action, Sender& sender) {
   if (detached) return;
@@ -95,29 +107,43 @@ void FakeInterface::slide(const std::string& control, int value, const std::stri
   run<Slider>(action, slider(control));
 }
 
+void FakeInterface::press(const std::string& control, const std::string& action) {
+  run<Button>(action, button(control));
+}
+
 std::shared_ptr<LoadedInterface> FakeToolkit::loadInterface(const Bundle&, const std::string& name,
                                                             InterfaceBindings bindings) {
   if (std::find(missing.begin(), missing.end(), name) != missing.end()) return nullptr;
+  for (const std::string& outlet : unconnected) bindings.outlets.erase(outlet);
   auto made = std::make_shared<FakeInterface>(std::move(bindings));
   loaded[name] = made;
+  std::erase_if(everyLoaded, [](const auto& each) { return each.expired(); });
+  everyLoaded.push_back(made);
   if (onLoad) onLoad(name, *made);
   return made;
 }
 
 bool FakeToolkit::runModalForWindow(Window& window) {
-  const auto windows = interface("Conflicts");
+  const auto windows = interfaceOf(window);
   if (!windows) return false;
-  for (const auto& [name, fake] : windows->windows) {
-    if (fake.get() == &window) shown.push_back(name);
-  }
+  shown.push_back(*windows->nameOf(window));
   if (answers.empty()) return false;
   const Answer answer = std::move(answers.front());
   answers.pop_front();
   stopped.push_back(false);
+  mostRuns = std::max(mostRuns, runs());
   answer(*windows);
   const bool wasStopped = stopped.back();
   stopped.pop_back();
   return wasStopped;
+}
+
+std::shared_ptr<FakeInterface> FakeToolkit::interfaceOf(const Window& window) const {
+  for (const auto& each : everyLoaded) {
+    const auto made = each.lock();
+    if (made && made->nameOf(window)) return made;
+  }
+  return nullptr;
 }
 
 void FakeToolkit::stopModal() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -69,9 +70,11 @@ class FakeButton final : public FakeControlOf<Button> {
 class FakeSlider final : public FakeControlOf<Slider> {
  public:
   int intValue() const override { return value; }
-  void setIntValue(int number) override { value = number; }
+  void setIntValue(int number) override { value = std::clamp(number, min, max); }
 
   int value = 0;
+  int min = 0;  // the range of the panel's slider
+  int max = 10;
 };
 
 class FakeLabel final : public FakeViewOf<Label> {
@@ -99,7 +102,7 @@ class FakeWindow final : public Window {
 class FakeInterface final : public LoadedInterface {
  public:
   explicit FakeInterface(InterfaceBindings offered);
-  void detach() override { detached = true; }
+  void detach() override;
   std::vector<std::string> problems() const override { return {}; }
 
   FakePopUpButton& popUp(const std::string& name) { return *popUps.at(name); }
@@ -114,6 +117,10 @@ class FakeInterface final : public LoadedInterface {
   void click(const std::string& control, const std::string& action);  // the state flips
   void pick(const std::string& control, const std::string& action);   // a radio button: goes on
   void slide(const std::string& control, int value, const std::string& action);
+  void press(const std::string& control, const std::string& action);  // a push button: stays off
+
+  // The name of a window of this interface; absent for any other window.
+  OptString nameOf(const Window& window) const;
 
   InterfaceBindings bindings;
   bool detached = false;
@@ -138,7 +145,8 @@ class FakeToolkit final : public Toolkit {
 
   std::shared_ptr<LoadedInterface> loadInterface(const Bundle& bundle, const std::string& name,
                                                  InterfaceBindings bindings) override;
-  // Runs the next answer; a window that comes up with no answer left ends the program.
+  // Runs the next answer. A window that comes up with no answer left, or whose answer stops
+  // nothing, stands for a program that ends; a window of no interface cannot be shown.
   bool runModalForWindow(Window& window) override;
   void stopModal() override;
 
@@ -152,11 +160,20 @@ class FakeToolkit final : public Toolkit {
   std::vector<std::string> shown;
   // Interface files that cannot be loaded.
   std::vector<std::string> missing;
+  // Outlets that no object of an interface file has.
+  std::vector<std::string> unconnected;
   // Called on each new interface before its owner goes on: the file's initial state.
   std::function<void(const std::string& name, FakeInterface&)> onLoad;
 
+  // The runs on the stack, and the most that ever were.
+  int runs() const { return static_cast<int>(stopped.size()); }
+  int mostRuns = 0;
+
  private:
+  std::shared_ptr<FakeInterface> interfaceOf(const Window& window) const;
+
   std::map<std::string, std::weak_ptr<FakeInterface>> loaded;
+  std::vector<std::weak_ptr<FakeInterface>> everyLoaded;
   std::vector<bool> stopped;  // one entry a run on the stack
 };
 

@@ -21,8 +21,8 @@ void note(InterfaceBindings& bindings, Owner& owner, const std::string& selector
 
 }  // namespace
 
-TestPanel::TestPanel(Toolkit& toolkit, const std::string& file)
-    : interface(static_cast<QtToolkit&>(toolkit).loadInterfaceFrom(resource(file), bindings())) {}
+TestPanel::TestPanel(QtToolkit& toolkit)
+    : interface(toolkit.loadInterfaceFrom(resource("TavrinPDENIB.ui"), bindings())) {}
 
 InterfaceBindings TestPanel::bindings() {
   InterfaceBindings b;
@@ -48,8 +48,8 @@ InterfaceBindings TestPanel::bindings() {
   b.outlet("ibDryTimePopUp", ibDryTimePopUp);
   b.outlet("ibDryTimeCheckBox", ibDryTimeCheckBox);
   b.outlet("ibDryTimeLabel", ibDryTimeLabel);
-  for (const char* selector : {"printQualityAction:", "paperTypeAction:", "paperSourceAction:",
-                               "dryTimePopUpAction:"})
+  for (const char* selector :
+       {"printQualityAction:", "paperTypeAction:", "paperSourceAction:", "dryTimePopUpAction:"})
     note<PopUpButton>(b, *this, selector);
   for (const char* selector :
        {"blackAndWhiteAction:", "mirrorAction:", "manualImageSharpeningAction:",
@@ -125,9 +125,8 @@ void TestPanel::fill(bool secondTray, bool dryTimePopUp, const std::string& suff
   }
 }
 
-TestWindows::TestWindows(Toolkit& toolkit)
-    : interface(static_cast<QtToolkit&>(toolkit).loadInterfaceFrom(resource("Conflicts.ui"),
-                                                                   bindings())) {}
+TestWindows::TestWindows(QtToolkit& toolkit)
+    : interface(toolkit.loadInterfaceFrom(resource("Conflicts.ui"), bindings())) {}
 
 InterfaceBindings TestWindows::bindings() {
   const std::map<std::string, std::vector<std::string>> captions{
@@ -135,7 +134,9 @@ InterfaceBindings TestWindows::bindings() {
       {"MsgTwo", {"A_First", "B_First", "A_Second", "A_Third"}},
       {"MsgFive", {"A_First", "B_First", "A_Second"}}};
   InterfaceBindings b;
-  const auto offer = [&b](auto& outlets, const std::string& name) { b.outlet(name, outlets[name]); };
+  const auto offer = [&b](auto& outlets, const std::string& name) {
+    b.outlet(name, outlets[name]);
+  };
   for (const auto& [msg, lines] : captions) {
     offer(windows, "ib" + msg + "Window");
     for (const char* line : {"A", "B", "C", "D"}) offer(labels, "ibLabel" + (line + ("_" + msg)));
@@ -158,8 +159,10 @@ InterfaceBindings TestWindows::bindings() {
 void TestWindows::fill(const std::string& suffix) {
   for (auto& [name, window] : windows) window->setTitle("Conflicting settings");
   for (auto& [name, button] : buttons)
-    if (name.starts_with("ibOk")) button->setTitle("OK");
-    else button->setState(name.starts_with("ibFirst") ? 1 : 0);
+    if (name.starts_with("ibOk"))
+      button->setTitle("OK");
+    else
+      button->setState(name.starts_with("ibFirst") ? 1 : 0);
   for (const std::string msg : {"MsgOne", "MsgTwo", "MsgFive"}) {
     labels["ibLabelA_" + msg]->setStringValue("Paper Type: Iron-On Transfer" + suffix);
     labels["ibLabelB_" + msg]->setStringValue("is not compatible with" + suffix);
@@ -173,8 +176,8 @@ void TestWindows::fill(const std::string& suffix) {
   labels["ibLabelA_SecondButton_MsgOne"]->setStringValue("Paper Type: Plain" + suffix);
   labels["ibLabelB_SecondButton_MsgOne"]->setStringValue("Print Quality: Quick Print" + suffix);
   for (const std::string msg : {"MsgOne", "MsgTwo"})
-    labels["ibLabelA_ThirdButton_" + msg]->setStringValue("Continue without resolving the conflict." +
-                                                          suffix);
+    labels["ibLabelA_ThirdButton_" + msg]->setStringValue(
+        "Continue without resolving the conflict." + suffix);
   labels["ibInstructionText"]->setStringValue(
       "1) If your application does not have File -> Page Setup, skip to step 7." + suffix +
       "\n2) Cancel the Print dialog.\n3) Select File -> Page Setup." + suffix +

@@ -15,7 +15,7 @@ namespace tavrin {
 // screen shows it: which rows there are, the frames, the texts.
 class TestPanel {
  public:
-  explicit TestPanel(Toolkit& toolkit, const std::string& file = "TavrinPDENIB.ui");
+  explicit TestPanel(QtToolkit& toolkit);
 
   InterfaceBindings bindings();
   // Lays the panel out for a printer with or without a second tray, collapsed.
@@ -30,7 +30,6 @@ class TestPanel {
     return *widget().findChild<W*>(QLatin1String(name));
   }
 
-  std::shared_ptr<LoadedInterface> interface;
   std::vector<std::string> ran;  // the selectors of the actions that ran
   std::function<void(const std::string& selector)> duringAction;
 
@@ -41,19 +40,19 @@ class TestPanel {
   Outlet<Slider> ibManualImageSharpeningSlider;
   Outlet<Label> ibPrintQualityLabel, ibPaperTypeLabel, ibPaperSourceLabel, ibDisclosureLabel,
       ibImageSharpeningLabel, ibNoneLabel, ibMostLabel, ibDryTimeLabel;
-  // The two labels whose frames the controller reads and writes are views to it, too.
   Rect headerViewRect, advancedViewRect;
+
+  std::shared_ptr<LoadedInterface> interface;  // after the outlets, which loading connects
 };
 
 // The windows of the conflict checker, likewise.
 class TestWindows {
  public:
-  explicit TestWindows(Toolkit& toolkit);
+  explicit TestWindows(QtToolkit& toolkit);
 
   InterfaceBindings bindings();
   void fill(const std::string& suffix = "");
 
-  std::shared_ptr<LoadedInterface> interface;
   std::vector<std::string> ran;
   std::function<void(const std::string& selector)> duringAction;
   std::function<void()> windowWillClose;
@@ -61,6 +60,8 @@ class TestWindows {
   std::map<std::string, Outlet<Window>> windows;
   std::map<std::string, Outlet<Label>> labels;
   std::map<std::string, Outlet<Button>> buttons;
+
+  std::shared_ptr<LoadedInterface> interface;  // after the outlets, which loading connects
 };
 
 }  // namespace tavrin

@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QStyleFactory>
+#include <gtest/gtest.h>
 
 // The widgets of the tests are real; the screen is not.
 int main(int argc, char** argv) {

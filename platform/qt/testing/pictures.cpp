@@ -1,11 +1,12 @@
 // Draws the panel and the windows into PNG files, to be looked at: pictures FOLDER
+#include <cstdio>
+
 #include <QApplication>
 #include <QDir>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QVBoxLayout>
 #include <QWidget>
-#include <cstdio>
 
 #include "platform/qt/testing/TestPanel.h"
 
@@ -67,8 +68,9 @@ void draw(const QDir& folder, const Look& look) {
   const QString stem = folder.filePath(look.name) + "-";
   for (bool tray : {false, true})
     for (bool expanded : {false, true})
-      drawPanel(stem + (tray ? "tray-" : "notray-") + (expanded ? "expanded" : "collapsed") + ".png",
-                look, tray, expanded);
+      drawPanel(
+          stem + (tray ? "tray-" : "notray-") + (expanded ? "expanded" : "collapsed") + ".png",
+          look, tray, expanded);
   drawWindows(stem, look);
 }
 
@@ -79,7 +81,8 @@ void draw(const QDir& folder, const Look& look) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
-  if (argc != 2 || !QDir().mkpath(argv[1])) return std::fputs("usage: pictures FOLDER\n", stderr), 2;
+  if (argc != 2 || !QDir().mkpath(argv[1]))
+    return std::fputs("usage: pictures FOLDER\n", stderr), 2;
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   for (const tavrin::Look& look : {tavrin::Look{"light", 9, false, ""},
                                    {"dark", 9, true, ""},

@@ -1,0 +1,3 @@
+// A module of some other program.
+
+extern "C" int somethingElse() { return 0; }

@@ -1,0 +1,88 @@
+#include "replay/FieldReader.h"
+
+namespace tavrin {
+
+std::string quoted(const std::string& text) {
+  constexpr std::size_t kLongest = 200;
+  if (text.size() <= kLongest) return '"' + text + '"';
+  return '"' + text.substr(0, kLongest) + "...\"";
+}
+
+void FieldReader::mustBe(const std::string& form) const {
+  throw SyntaxError("The field " + quoted(name) + " must be " + form + ".");
+}
+
+std::string FieldReader::text() const {
+  if (!value.is_string()) mustBe("a text");
+  std::string read = value.get<std::string>();
+  if (read.find('\0') != std::string::npos) mustBe("a text without NUL characters");
+  return read;
+}
+
+OptString FieldReader::textOrNull() const {
+  if (value.is_null()) return std::nullopt;
+  if (!value.is_string()) mustBe("a text or null");
+  return text();
+}
+
+bool FieldReader::truth() const {
+  if (!value.is_boolean()) mustBe("true or false");
+  return value.get<bool>();
+}
+
+long long FieldReader::wholeNumber() const {
+  if (!value.is_number_integer()) mustBe("a whole number");
+  return value.get<long long>();
+}
+
+MarkedChoice FieldReader::markedChoice() const {
+  if (!value.is_array() || value.size() != 2) mustBe("a list of pairs [key, choice]");
+  return {FieldReader(name, value[0]).text(), FieldReader(name, value[1]).text()};
+}
+
+std::vector<MarkedChoice> FieldReader::marks() const {
+  if (!value.is_array()) mustBe("a list of pairs [key, choice]");
+  std::vector<MarkedChoice> read;
+  for (const Json& entry : value) read.push_back(FieldReader(name, entry).markedChoice());
+  return read;
+}
+
+std::vector<int> FieldReader::buttonNumbers() const {
+  if (!value.is_array()) mustBe("a list of the numbers 1 to 3");
+  std::vector<int> numbers;
+  for (const Json& entry : value) {
+    if (entry != 1 && entry != 2 && entry != 3) mustBe("a list of the numbers 1 to 3");
+    numbers.push_back(static_cast<int>(FieldReader(name, entry).wholeNumber()));
+  }
+  return numbers;
+}
+
+WindowAnswer::End FieldReader::end() const {
+  if (value == "ok") return WindowAnswer::End::ok;
+  if (value != "close") mustBe(R"("ok" or "close")");
+  return WindowAnswer::End::close;
+}
+
+WindowAnswer FieldReader::answer() const {
+  if (!value.is_object()) mustBe(R"(a list of objects with "choose" and "end")");
+  WindowAnswer read;
+  for (const auto& entry : value.items()) {
+    const FieldReader field(entry.key(), entry.value());
+    if (entry.key() == "choose")
+      read.choose = field.buttonNumbers();
+    else if (entry.key() == "end")
+      read.end = field.end();
+    else
+      throw SyntaxError("An answer has no field " + quoted(entry.key()) + ".");
+  }
+  return read;
+}
+
+std::vector<WindowAnswer> FieldReader::answers() const {
+  if (!value.is_array()) mustBe(R"(a list of objects with "choose" and "end")");
+  std::vector<WindowAnswer> read;
+  for (const Json& entry : value) read.push_back(FieldReader(name, entry).answer());
+  return read;
+}
+
+}  // namespace tavrin

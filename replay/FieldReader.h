@@ -1,0 +1,49 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "replay/Json.h"
+#include "replay/ReplayCommand.h"
+
+namespace tavrin {
+
+// A line that cannot be a command; what() is the sentence for the reply.
+class SyntaxError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// A text in quotation marks for a sentence; a long one is cut.
+std::string quoted(const std::string& text);
+
+// One field of a line, read in the form that its place asks for. Every function throws a
+// SyntaxError that names the field when it has another form.
+class FieldReader {
+ public:
+  FieldReader(std::string fieldName, const Json& fieldValue)
+      : name(std::move(fieldName)), value(fieldValue) {}
+
+  // A text without NULs, which the C strings of a PPD could not hold.
+  std::string text() const;
+  OptString textOrNull() const;
+  bool truth() const;
+  long long wholeNumber() const;
+  // A list of pairs [key, choice].
+  std::vector<MarkedChoice> marks() const;
+  // A list of {"choose": [numbers 1 to 3], "end": "ok" or "close"}, both optional.
+  std::vector<WindowAnswer> answers() const;
+
+ private:
+  [[noreturn]] void mustBe(const std::string& form) const;
+  MarkedChoice markedChoice() const;
+  WindowAnswer answer() const;
+  std::vector<int> buttonNumbers() const;
+  WindowAnswer::End end() const;
+
+  std::string name;
+  const Json& value;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,116 @@
+// tavrin-replay: a Print dialog that follows a script.
+
+#include <fstream>
+#include <iostream>
+
+#include <QApplication>
+#include <QFile>
+
+#include "host/PlugInLoader.h"
+#include "host/TrustedBundles.h"
+#include "platform/RootFolder.h"
+#include "platform/qt/QtToolkit.h"
+#include "replay/Options.h"
+#include "replay/Replayer.h"
+
+using namespace tavrin;
+
+namespace {
+
+enum ExitStatus { everythingOk = 0, somethingNotOk = 1, cannotStart = 2, windowUnanswered = 3 };
+
+int giveUp(const std::string& reason) {
+  std::cerr << "tavrin-replay: " << reason << '\n';
+  return cannotStart;
+}
+
+// The off-screen platform keeps saying what it has no screen for.
+void showMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+  if (!message.startsWith("This plugin does not support"))
+    std::cerr << message.toStdString() << '\n';
+}
+
+bool isBlank(const std::string& line) {
+  return line.find_first_not_of(" \t\r\n\v\f") == std::string::npos;
+}
+
+// Texts of a script or a PPD may hold bytes that are no UTF-8; a reply may not.
+void write(const Json& reply) {
+  std::cout << reply.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
+}
+
+int playScript(std::istream& script, Replayer& replayer, const WindowAnswers& windows) {
+  bool allOk = true;
+  for (std::string line; std::getline(script, line);) {
+    if (isBlank(line)) continue;
+    const Json reply = replayer.play(line);
+    write(reply);
+    if (windows.ranOut()) return windowUnanswered;
+    allOk = allOk && reply["ok"].get<bool>();
+  }
+  return allOk ? everythingOk : somethingNotOk;
+}
+
+int play(const Options& options, PDEPlugIn& plugIn, QtToolkit& toolkit, Screenshots pictures) {
+  std::ifstream file;
+  if (!options.script.empty()) {
+    file.open(options.script, std::ios::binary);
+    if (!file || std::filesystem::is_directory(options.script))
+      return giveUp("The script \"" + options.script.string() + "\" cannot be read.");
+  }
+  EventLog log;
+  RecordingHelpViewer helpViewer(log);
+  HelpViewer::install(&helpViewer);
+  WindowAnswers windows(log, pictures);
+  toolkit.onModalWindow([&windows](QWidget& window) { windows.windowCameUp(window); });
+  int status = cannotStart;
+  {
+    Replayer replayer(plugIn, log, windows, pictures);
+    status = playScript(options.script.empty() ? std::cin : file, replayer, windows);
+  }
+  HelpViewer::install(nullptr);
+  return pictures.failure().empty() ? status : giveUp(pictures.failure());
+}
+
+Result<LoadedPlugIn> plugInFor(const Options& options) {
+  if (!options.bundle.empty()) return loadPlugIn(options.bundle);
+  const auto folder = findPlugIn(kOwnPlugInName);
+  if (!folder) return Failure{folder.reason()};
+  return loadPlugIn(*folder);
+}
+
+Result<Screenshots> picturesFor(const Options& options) {
+  return options.screenshots.empty() ? Screenshots() : Screenshots::inFolder(options.screenshots);
+}
+
+int run(const Options& options) {
+  setRootFolder(options.root);
+  QtToolkit toolkit;
+  Toolkit::install(&toolkit);
+  auto plugIn = plugInFor(options);
+  if (!plugIn) return giveUp(plugIn.reason());
+  auto pictures = picturesFor(options);
+  if (!pictures) return giveUp(pictures.reason());
+  return play(options, *plugIn->principal, toolkit, *pictures);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // The panel's window is nobody's to see, and the arguments are ours alone: Qt would take some.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(showMessage);
+  int programNameOnly = 1;
+  QApplication application(programNameOnly, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
+  const auto options = parseOptions(arguments);
+  if (!options) return giveUp(options.reason() + " --help tells how.");
+  if (options->help) {
+    std::cout << helpText();
+    return everythingOk;
+  }
+  return run(*options);
+}
