@@ -13,6 +13,7 @@
 #include "host/PageRanges.h"
 #include "host/PrinterPopUp.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -114,7 +115,7 @@ Pane::Lines GeneralArea::summary() const {
   const bool all = ranges && ranges->empty();
   lines.emplace_back(tr("Pages"), all ? tr("All") : rangeEdit->text());
   if (const OptString paper = marks ? marks->choiceText(kPaperSizeKeyword) : std::nullopt)
-    lines.emplace_back(tr("Paper size"), shownText(*paper));
+    lines.emplace_back(tr("Paper size"), shownLine(*paper));
   return lines;
 }
 

@@ -21,6 +21,7 @@
 #include "host/PrinterPopUp.h"
 #include "host/SummaryPane.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -110,12 +111,12 @@ void PrintDialog::showHelp() {
 }
 
 void PrintDialog::say(const std::string& sentence) {
-  note->say(shownText(sentence), Note::Kind::information);
+  note->say(shownLines(sentence), Note::Kind::information);
 }
 
 void PrintDialog::showConflicts() {
   QStringList texts;
-  for (const std::string& text : current->marks().conflictingOptions()) texts << shownText(text);
+  for (const std::string& text : current->marks().conflictingOptions()) texts << shownLine(text);
   conflictNote->say(texts.isEmpty() ? QString()
                                     : tr("The printer cannot do these together as they are set: "
                                          "%1. Changing one of them puts it right.")

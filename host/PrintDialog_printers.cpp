@@ -13,6 +13,7 @@
 #include "host/PrinterPopUp.h"
 #include "host/SummaryPane.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -24,7 +25,7 @@ constexpr char kPagesPerSheetOption[] = "number-up";
 QString joined(const std::vector<std::string>& sentences) {
   QStringList texts;
   for (const std::string& sentence : sentences)
-    if (!sentence.empty()) texts << shownText(sentence);
+    if (!sentence.empty()) texts << shownLines(sentence);
   return texts.join(' ');
 }
 
@@ -48,12 +49,11 @@ void PrintDialog::connectBrowser() {
           });
   connect(&browser, &PrinterBrowser::stateChanged, &printers,
           [&printers](const std::string& queue, const PrinterState& state) {
-            printers.setStateText(queue, shownText(stateText(state)));
+            printers.setStateText(queue, shownLine(stateText(state)));
           });
-  connect(&browser, &PrinterBrowser::stateFailed, &printers,
-          [&printers](const std::string& queue) {
-            printers.setStateText(queue, tr("does not answer"));
-          });
+  connect(&browser, &PrinterBrowser::stateFailed, &printers, [&printers](const std::string& queue) {
+    printers.setStateText(queue, tr("does not answer"));
+  });
   connect(stateTimer, &QTimer::timeout, this, &PrintDialog::watchState);
 }
 
@@ -80,7 +80,7 @@ void PrintDialog::showPrinters(const std::vector<Printer>& printers) {
   named.instance = request.instance;
   const std::string destination = named.name.empty() ? "" : destinationName(named);
   if (general->printers().setPrinters(printers, destination)) return choosePrinter();
-  note->say(tr("There is no printer “%1”. Choose another one.").arg(shownText(destination)));
+  note->say(tr("There is no printer “%1”. Choose another one.").arg(shownLine(destination)));
 }
 
 void PrintDialog::noPrinters(const QString& reason) {
@@ -133,7 +133,7 @@ void PrintDialog::beginSession(const SharedPPD& ppd) {
   connect(&current->marks(), &PPDMarks::refreshed, this, &PrintDialog::showConflicts);
   connect(current.get(), &PrinterSession::panelResized, this, [this] {
     for (PanelPane* pane : panelPanes) pane->followView();
-    });
+  });
   buttons->setState(JobButtons::State::ready);
   showConflicts();
   emit sessionChanged();

@@ -14,24 +14,7 @@ namespace {
 
 constexpr int kLeastPopUpLetters = 16;
 
-// Marks that reorder or break the text around them.
-bool isControl(QChar letter) {
-  return letter.category() == QChar::Other_Control || letter == QChar::LineSeparator ||
-         letter == QChar::ParagraphSeparator ||
-         (letter >= QChar(0x202A) && letter <= QChar(0x202E)) ||
-         (letter >= QChar(0x2066) && letter <= QChar(0x2069));
-}
-
 }  // namespace
-
-QString shownText(const std::string& text) {
-  QString shown = QString::fromStdString(text);
-  for (QChar& letter : shown)
-    if (isControl(letter)) letter = ' ';
-  return shown;
-}
-
-QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
 
 QLabel* makeTextLabel(QWidget* parent) {
   auto* label = makeChild<QLabel>(parent);
@@ -63,8 +46,7 @@ void letPopUpShrink(QComboBox& popUp) {
   popUp.setMinimumContentsLength(kLeastPopUpLetters);
   const int room = popUp.screen()->availableGeometry().width() / 2;
   const int scrollBar = popUp.fontMetrics().averageCharWidth() * 6;
-  popUp.view()->setMinimumWidth(
-      std::min(popUp.view()->sizeHintForColumn(0) + scrollBar, room));
+  popUp.view()->setMinimumWidth(std::min(popUp.view()->sizeHintForColumn(0) + scrollBar, room));
 }
 
 }  // namespace tavrin

@@ -1,14 +1,12 @@
 #pragma once
 
 #include <memory>
-#include <string>
 #include <utility>
-
-#include <QString>
 
 class QComboBox;
 class QFormLayout;
 class QLabel;
+class QString;
 class QWidget;
 
 // What every pane of the dialog builds its widgets with.
@@ -20,13 +18,6 @@ template <class T, class... Args>
 T* makeChild(Args&&... args) {
   return std::make_unique<T>(std::forward<Args>(args)...).release();
 }
-
-// A text from a PPD, a print server or a panel as a widget may show it: UTF-8, with control
-// characters and line breaks as blanks, so that no text can break a layout.
-QString shownText(const std::string& text);
-
-// The same text for a widget that takes "&" for a mnemonic (check boxes, labels with a buddy).
-QString withoutMnemonic(QString text);
 
 // A label that shows a text as it is, over several lines where there is no room.
 QLabel* makeTextLabel(QWidget* parent);
