@@ -79,6 +79,7 @@ int GeneralArea::copies() const { return copiesBox->value(); }
 void GeneralArea::setPageRanges(const QString& ranges) {
   rangeEdit->setText(ranges);
   (ranges.isEmpty() ? allPages : somePages)->setChecked(true);
+  showRangeProblem();
 }
 
 Result<std::string> GeneralArea::pageRanges() const {

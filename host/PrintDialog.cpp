@@ -47,6 +47,7 @@ PrintDialog::PrintDialog(JobRequest theRequest, QWidget* parent)
       stateTimer(makeChild<QTimer>(this)) {
   setWindowTitle(tr("Print"));
   build();
+  fillIn();
   connectParts();
   connectBrowser();
   connectRunner();
@@ -69,6 +70,15 @@ void PrintDialog::build() {
   switcher->setPanes({layoutPane, summaryPane}, layoutPane->name());
   note->setObjectName("note");
   conflictNote->setObjectName("conflictNote");
+}
+
+// What the fields of the dialog hold, they hold in place of the options.
+void PrintDialog::fillIn() {
+  const OptString copies = optionValue(request.options, "copies");
+  general->setCopies(request.copies > 1 || !copies ? request.copies : integerValue(copies));
+  const OptString ranges = optionValue(request.options, "page-ranges");
+  general->setPageRanges(
+      shownLine(request.pageRanges.empty() ? ranges.value_or("") : request.pageRanges));
 }
 
 void PrintDialog::connectParts() {

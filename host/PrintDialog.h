@@ -70,6 +70,7 @@ class PrintDialog : public QDialog {
  private:
   // The window.
   void build();
+  void fillIn();
   void connectParts();
   void fit();
   void showHelp();
