@@ -86,6 +86,7 @@ void FeaturesPane::showSection(int index) {
   }
   column->addWidget(page);
   page->show();
+  emit laidOutAnew();
 }
 
 Pane::Lines FeaturesPane::summary() const {

@@ -27,6 +27,10 @@ class FeaturesPane : public Pane {
   Lines summary() const override;
   void willShow() override;
 
+ signals:
+  // There are other controls in the pane now.
+  void laidOutAnew();
+
  private:
   void addGroupPopUp();
   void showSection(int index);

@@ -146,14 +146,20 @@ void PrintDialog::makePanes() {
   if (const ppd_option_t* twoSided = twoSidedOption(current->ppd()))
     elsewhere.insert(twoSided->keyword);
   featuresPane = makeChild<FeaturesPane>(current->marks(), elsewhere, switcher);
+  connect(featuresPane, &FeaturesPane::laidOutAnew, this, [this] {
+    orderTabs({content, note, buttons});
+  });
   if (!featuresPane->isEmpty()) panes.push_back(featuresPane);
   for (const auto& panel : current->panels()) {
     panelPanes.push_back(makeChild<PanelPane>(*panel, switcher));
+    connect(panelPanes.back(), &PanelPane::saveFailed, this,
+            [this](const QString& reason) { note->say(reason); });
     panes.push_back(panelPanes.back());
   }
   panes.push_back(summaryPane);
   const QString first = panelPanes.empty() ? layoutPane->name() : panelPanes.front()->name();
   switcher->setPanes(panes, first);
+  orderTabs({content, note, buttons});
 }
 
 void PrintDialog::endSession() {

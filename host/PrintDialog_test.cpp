@@ -172,6 +172,22 @@ TEST_F(PrintDialogTest, LosesNothingWhenTheJobCannotBeWritten) {
   EXPECT_EQ(dialog.findChild<Note*>("note")->text(), dialog.report());
 }
 
+TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  turnTo(dialog, "Layout");
+  dialog.show();
+  dialog.findChild<QWidget*>("printer")->setFocus();
+  QStringList stops{"printer"};
+  while (stops.back() != "print" && stops.size() < 20) {
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    stops << dialog.focusWidget()->objectName();
+  }
+  stops.removeAll("");
+  EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "PageSize", "panes",
+                                "pagesPerSheet", "Duplex", "help", "cancel", "print"}));
+}
+
 TEST_F(PrintDialogTest, EscapeCancels) {
   PrintDialog dialog(job());
   dialog.usePrinterWithoutQueue(samplePPD(), place.path());

@@ -14,7 +14,30 @@ namespace {
 
 constexpr int kLeastPopUpLetters = 16;
 
+void addStops(QWidget& widget, std::vector<QWidget*>& stops);
+
+void addStops(const QLayout& layout, std::vector<QWidget*>& stops) {
+  for (int i = 0; i < layout.count(); ++i) {
+    if (QWidget* widget = layout.itemAt(i)->widget()) addStops(*widget, stops);
+    if (const QLayout* inner = layout.itemAt(i)->layout()) addStops(*inner, stops);
+  }
+}
+
+void addStops(QWidget& widget, std::vector<QWidget*>& stops) {
+  if (widget.focusPolicy() & Qt::TabFocus) return stops.push_back(&widget);
+  if (widget.layout() && widget.layout()->count() > 0) return addStops(*widget.layout(), stops);
+  QWidget* next = widget.nextInFocusChain();
+  for (; next != &widget; next = next->nextInFocusChain())
+    if (widget.isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus) stops.push_back(next);
+}
+
 }  // namespace
+
+void orderTabs(const std::vector<QWidget*>& widgets) {
+  std::vector<QWidget*> stops;
+  for (QWidget* widget : widgets) addStops(*widget, stops);
+  for (std::size_t i = 1; i < stops.size(); ++i) QWidget::setTabOrder(stops[i - 1], stops[i]);
+}
 
 QLabel* makeTextLabel(QWidget* parent) {
   auto* label = makeChild<QLabel>(parent);

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 class QComboBox;
 class QFormLayout;
@@ -32,5 +33,9 @@ QFormLayout* makeForm(QWidget* parent);
 
 // Lets a pop-up be narrower than its longest item, and its list be as wide as that item.
 void letPopUpShrink(QComboBox& popUp);
+
+// Lets the Tab key go through these widgets, and through what is in them, as they are laid out;
+// what a widget without a layout holds keeps its order.
+void orderTabs(const std::vector<QWidget*>& widgets);
 
 }  // namespace tavrin
