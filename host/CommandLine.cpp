@@ -57,8 +57,7 @@ CommandLine filledIn(const QCommandLineParser& parser) {
 
 // What is wrong with arguments that can each be read; empty when nothing is.
 QString disagreement(const QCommandLineParser& parser) {
-  if (parser.positionalArguments().size() > 1)
-    return "Only one document can be printed at a time.";
+  if (parser.positionalArguments().size() > 1) return "Only one document can be printed at a time.";
   if (parser.isSet(kCopies) && copiesFrom(parser.value(kCopies)) == 0)
     return QString("“%1” is not a number of copies; it goes from 1 to %2.")
         .arg(parser.value(kCopies))
@@ -74,7 +73,8 @@ QString disagreement(const QCommandLineParser& parser) {
 void addAll(QCommandLineParser& parser) {
   for (const char* name : {kPrinter, kPPD, kOutput, kCopies, kTitle, kOption})
     parser.addOption(QCommandLineOption(QString(name), QString(), "value"));
-  for (const char* name : {kSample, kHelp, kVersion}) parser.addOption(QCommandLineOption(QString(name)));
+  for (const char* name : {kSample, kHelp, kVersion})
+    parser.addOption(QCommandLineOption(QString(name)));
 }
 
 }  // namespace

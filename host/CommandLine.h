@@ -20,7 +20,7 @@ struct CommandLine {
   bool namesDocument = false;
   std::filesystem::path ppd;           // --ppd; empty: the printer's own
   bool sample = false;                 // --sample
-  std::filesystem::path output = "."; // --output
+  std::filesystem::path output = ".";  // --output
 };
 
 // Reads the arguments without the program's name; or says in a sentence what is wrong with them.

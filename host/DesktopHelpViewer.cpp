@@ -24,8 +24,9 @@ void DesktopHelpViewer::gotoPage(const std::string& book, const OptString& page,
   const std::filesystem::path file =
       found == books.end() ? std::filesystem::path() : helpPage(found->second, page);
   if (file.empty())
-    return complain("The help of this printer was not found. Installing the printer's software "
-                    "again brings it back.");
+    return complain(
+        "The help of this printer was not found. Installing the printer's software "
+        "again brings it back.");
   QUrl address = QUrl::fromLocalFile(QString::fromStdString(file.string()));
   if (anchor) address.setFragment(QString::fromStdString(*anchor));
   if (!open(address))

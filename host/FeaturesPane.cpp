@@ -9,6 +9,7 @@
 
 #include "host/OptionControl.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -17,12 +18,17 @@ namespace {
 // More rows than anybody looks through at a time, and few enough to be made at once.
 constexpr std::size_t kMostRows = 60;
 
+// What is built into the printer is its administrator's to say, and no part of a job.
+constexpr char kInstalledGroup[] = "InstallableOptions";
+
 void addPages(std::vector<PPDSection>& pages, const PPDSection& section) {
   for (std::size_t first = 0; first < section.options.size(); first += kMostRows) {
     const auto from = section.options.begin() + static_cast<std::ptrdiff_t>(first);
     const auto count = std::min(kMostRows, section.options.size() - first);
     const std::string number = first == 0 ? "" : " (" + std::to_string(first / kMostRows + 1) + ")";
-    pages.push_back({section.title + number, {from, from + static_cast<std::ptrdiff_t>(count)}});
+    pages.push_back({section.keyword,
+                     section.title + number,
+                     {from, from + static_cast<std::ptrdiff_t>(count)}});
   }
 }
 
@@ -33,6 +39,7 @@ std::vector<PPDSection> featureSections(const ppd_file_t& ppd,
   std::vector<PPDSection> pages;
   std::set<std::string> seen = shownElsewhere;
   for (PPDSection section : sectionsOf(ppd)) {
+    if (section.keyword == kInstalledGroup) continue;
     std::erase_if(section.options, [&](const ppd_option_t* option) {
       return option->num_choices == 0 || !seen.insert(option->keyword).second;
     });
@@ -55,7 +62,7 @@ void FeaturesPane::addGroupPopUp() {
   auto* top = makeChild<QWidget>(this);
   auto* popUp = makeChild<QComboBox>(top);
   popUp->setObjectName("featureGroup");
-  for (const PPDSection& section : sections) popUp->addItem(shownText(section.title));
+  for (const PPDSection& section : sections) popUp->addItem(shownLine(section.title));
   letPopUpShrink(*popUp);
   addRow(*makeForm(top), tr("Feature s&et:"), *popUp);
   column->addWidget(top);
@@ -75,10 +82,11 @@ void FeaturesPane::showSection(int index) {
     if (isBoolean(*option))
       form->addRow(nullptr, control);
     else
-      addRow(*form, tr("%1:").arg(withoutMnemonic(shownText(option->text))), *control);
+      addRow(*form, tr("%1:").arg(withoutMnemonics(shownLine(option->text))), *control);
   }
   column->addWidget(page);
   page->show();
+  emit laidOutAnew();
 }
 
 Pane::Lines FeaturesPane::summary() const {
@@ -86,7 +94,7 @@ Pane::Lines FeaturesPane::summary() const {
   for (const PPDSection& section : sections)
     for (const ppd_option_t* option : section.options)
       if (const OptString text = marks.choiceText(option->keyword))
-        lines.emplace_back(shownText(option->text), shownText(*text));
+        lines.emplace_back(shownLine(option->text), shownLine(*text));
   return lines;
 }
 

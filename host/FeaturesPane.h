@@ -27,6 +27,10 @@ class FeaturesPane : public Pane {
   Lines summary() const override;
   void willShow() override;
 
+ signals:
+  // There are other controls in the pane now.
+  void laidOutAnew();
+
  private:
   void addGroupPopUp();
   void showSection(int index);
@@ -37,8 +41,8 @@ class FeaturesPane : public Pane {
   QWidget* page = nullptr;  // the group that is shown
 };
 
-// The PPD's groups without those options, an endless group split into pages of its own; groups
-// that are left empty are left out.
+// The PPD's groups without those options and without the group of what is installed in the printer,
+// a very long group split into several; groups that are left empty are left out.
 std::vector<PPDSection> featureSections(const ppd_file_t& ppd,
                                         const std::set<std::string>& shownElsewhere);
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include <QScrollBar>
+#include <QEvent>
 
 namespace tavrin {
 
@@ -22,8 +22,18 @@ FittingScrollArea::FittingScrollArea(QWidget* parent) : QScrollArea(parent) {
 
 QSize FittingScrollArea::sizeHint() const {
   if (!widget()) return QScrollArea::sizeHint();
-  const QSize wanted = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
-  return wanted + QSize(verticalScrollBar()->sizeHint().width(), 0);
+  return widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+}
+
+int FittingScrollArea::heightForWidth(int width) const {
+  if (!widget()) return -1;
+  return widget()->hasHeightForWidth() ? widget()->heightForWidth(width) : sizeHint().height();
+}
+
+// The contents' wishes are this area's own.
+bool FittingScrollArea::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QScrollArea::eventFilter(watched, event);
 }
 
 QSize FittingScrollArea::minimumSizeHint() const {

@@ -13,6 +13,7 @@
 #include "host/PageRanges.h"
 #include "host/PrinterPopUp.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -78,6 +79,7 @@ int GeneralArea::copies() const { return copiesBox->value(); }
 void GeneralArea::setPageRanges(const QString& ranges) {
   rangeEdit->setText(ranges);
   (ranges.isEmpty() ? allPages : somePages)->setChecked(true);
+  showRangeProblem();
 }
 
 Result<std::string> GeneralArea::pageRanges() const {
@@ -114,7 +116,7 @@ Pane::Lines GeneralArea::summary() const {
   const bool all = ranges && ranges->empty();
   lines.emplace_back(tr("Pages"), all ? tr("All") : rangeEdit->text());
   if (const OptString paper = marks ? marks->choiceText(kPaperSizeKeyword) : std::nullopt)
-    lines.emplace_back(tr("Paper size"), shownText(*paper));
+    lines.emplace_back(tr("Paper size"), shownLine(*paper));
   return lines;
 }
 

@@ -7,6 +7,7 @@
 
 #include "host/OptionControl.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -59,7 +60,7 @@ void LayoutPane::setMarks(PPDMarks* theMarks) {
 Pane::Lines LayoutPane::summary() const {
   Lines lines{{tr("Pages per sheet"), pagesPopUp->currentText()}};
   if (twoSided.empty()) return lines;
-  lines.emplace_back(tr("Two-sided"), shownText(marks->choiceText(twoSided).value_or("")));
+  lines.emplace_back(tr("Two-sided"), shownLine(marks->choiceText(twoSided).value_or("")));
   return lines;
 }
 

@@ -26,8 +26,8 @@ Note::Note(QWidget* parent)
 }
 
 void Note::say(const QString& text, Kind kind, const QString& wayOut) {
-  const auto picture = kind == Kind::warning ? QStyle::SP_MessageBoxWarning
-                                             : QStyle::SP_MessageBoxInformation;
+  const auto picture =
+      kind == Kind::warning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
   const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
   icon->setPixmap(style()->standardIcon(picture).pixmap(size));
   label->setText(text);

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -29,7 +30,7 @@ bool isBoolean(const ppd_option_t& option) {
 PickOneControl::PickOneControl(PPDMarks& theMarks, const ppd_option_t& theOption, QWidget* parent)
     : QComboBox(parent), marks(theMarks), option(theOption) {
   setObjectName(QString::fromLatin1(option.keyword));
-  setAccessibleName(shownText(option.text));
+  setAccessibleName(shownLine(option.text));
   setPlaceholderText(tr("Not chosen"));
   refresh();
   letPopUpShrink(*this);
@@ -42,7 +43,7 @@ PickOneControl::PickOneControl(PPDMarks& theMarks, const ppd_option_t& theOption
 void PickOneControl::fill() {
   clear();
   for (const ppd_choice_t* choice : pickableChoices(option, marks.ppd()))
-    addItem(shownText(choice->text), QString::fromUtf8(choice->choice));
+    addItem(shownLine(choice->text), QString::fromUtf8(choice->choice));
 }
 
 void PickOneControl::refresh() {
@@ -55,8 +56,8 @@ void PickOneControl::refresh() {
 BooleanControl::BooleanControl(PPDMarks& theMarks, const ppd_option_t& theOption, QWidget* parent)
     : QCheckBox(parent), marks(theMarks), option(theOption) {
   setObjectName(QString::fromLatin1(option.keyword));
-  setText(withoutMnemonic(shownText(option.text)));
-  setAccessibleName(shownText(option.text));
+  setText(withoutMnemonics(shownLine(option.text)));
+  setAccessibleName(shownLine(option.text));
   refresh();
   connect(&marks, &PPDMarks::refreshed, this, &BooleanControl::refresh);
   connect(this, &QCheckBox::clicked, this,
@@ -69,11 +70,10 @@ void BooleanControl::refresh() {
   setCheckState(!marked ? Qt::PartiallyChecked : *marked == kOn ? Qt::Checked : Qt::Unchecked);
 }
 
-PickManyControl::PickManyControl(PPDMarks& theMarks, const ppd_option_t& theOption,
-                                 QWidget* parent)
+PickManyControl::PickManyControl(PPDMarks& theMarks, const ppd_option_t& theOption, QWidget* parent)
     : QListWidget(parent), marks(theMarks), option(theOption) {
   setObjectName(QString::fromLatin1(option.keyword));
-  setAccessibleName(shownText(option.text));
+  setAccessibleName(shownLine(option.text));
   fill();
   refresh();
   setTabKeyNavigation(false);
@@ -88,7 +88,7 @@ PickManyControl::PickManyControl(PPDMarks& theMarks, const ppd_option_t& theOpti
 void PickManyControl::fill() {
   const QSignalBlocker quiet(this);
   for (const ppd_choice_t* choice : pickableChoices(option, marks.ppd())) {
-    auto* item = makeChild<QListWidgetItem>(shownText(choice->text), this);
+    auto* item = makeChild<QListWidgetItem>(shownLine(choice->text), this);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     item->setData(Qt::UserRole, QString::fromUtf8(choice->choice));
     item->setCheckState(Qt::Unchecked);
@@ -99,8 +99,7 @@ void PickManyControl::refresh() {
   const QSignalBlocker quiet(this);
   for (int row = 0; row < count(); ++row) {
     const std::string keyword = item(row)->data(Qt::UserRole).toString().toStdString();
-    item(row)->setCheckState(marks.isMarked(option.keyword, keyword) ? Qt::Checked
-                                                                     : Qt::Unchecked);
+    item(row)->setCheckState(marks.isMarked(option.keyword, keyword) ? Qt::Checked : Qt::Unchecked);
   }
 }
 

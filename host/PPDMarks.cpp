@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <set>
 #include <span>
-
 #include <strings.h>
 
 namespace tavrin {
@@ -24,7 +23,7 @@ std::span<const ppd_choice_t> choicesOf(const ppd_option_t& option) {
 
 void addSections(std::vector<PPDSection>& sections, const ppd_group_t& group,
                  const std::string& above) {
-  PPDSection section{above + group.text, {}};
+  PPDSection section{group.name, above + group.text, {}};
   for (const ppd_option_t& option : optionsOf(group)) section.options.push_back(&option);
   sections.push_back(section);
   for (const ppd_group_t& inner : groupsIn(group.subgroups, group.num_subgroups))
@@ -114,8 +113,7 @@ void PPDMarks::setPicked(const std::string& keyword, const std::string& choice, 
     if (candidate.choice == choice ? picked : candidate.marked != 0)
       marks.emplace_back(candidate.choice);
   unmark(*file, *found);
-  for (const std::string& mark : marks)
-    ppdMarkOption(file, keyword.c_str(), mark.c_str());
+  for (const std::string& mark : marks) ppdMarkOption(file, keyword.c_str(), mark.c_str());
   tellDifferences(before);
 }
 

@@ -58,6 +58,7 @@ class PPDMarks : public QObject {
 
 // Every option of the PPD with its group, in the order of the file.
 struct PPDSection {
+  std::string keyword;
   std::string title;
   std::vector<const ppd_option_t*> options;
 };

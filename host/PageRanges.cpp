@@ -42,8 +42,8 @@ Result<Range> range(const QString& text) {
     return failure(
         say("“%1” is no page or range of pages. Write them like this: 1-3,5.").arg(text));
   if (*last < *first)
-    return failure(say("The range “%1” ends before it begins. Write the lower page first.")
-                       .arg(text));
+    return failure(
+        say("The range “%1” ends before it begins. Write the lower page first.").arg(text));
   return Range{*first, *last};
 }
 

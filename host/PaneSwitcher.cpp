@@ -64,13 +64,10 @@ void PaneSwitcher::show(Pane* pane) {
   shown = pane;
   pane->willShow();
   pane->show();
-  emit resized();
 }
 
 void PaneSwitcher::showAgain() {
-  if (!shown) return;
-  shown->willShow();
-  emit resized();
+  if (shown) shown->willShow();
 }
 
 }  // namespace tavrin

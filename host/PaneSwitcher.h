@@ -29,10 +29,6 @@ class PaneSwitcher : public QWidget {
   // Tells the pane on the screen that it is shown anew: its contents may be other ones now.
   void showAgain();
 
- signals:
-  // Another pane is on the screen, or its room has changed.
-  void resized();
-
  private:
   void turnTo(int index);
   void show(Pane* pane);

@@ -5,11 +5,12 @@
 
 #include "host/Widgets.h"
 #include "platform/qt/QtToolkit.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
 PanelPane::PanelPane(PDEPanel& thePanel, QWidget* parent)
-    : Pane(shownText(thePanel.panelName()), parent), panel(thePanel) {
+    : Pane(shownLine(thePanel.panelName()), parent), panel(thePanel) {
   auto* column = makeChild<QVBoxLayout>(this);
   column->setContentsMargins(0, 0, 0, 0);
 }
@@ -31,7 +32,7 @@ void PanelPane::addView() {
 Pane::Lines PanelPane::summary() const {
   Lines lines;
   for (const auto& [label, value] : panel.summaryInfo())
-    lines.emplace_back(shownText(label), shownText(value.value_or("")));
+    lines.emplace_back(shownLine(label), shownLine(value.value_or("")));
   return lines;
 }
 
@@ -43,7 +44,7 @@ void PanelPane::willShow() {
 bool PanelPane::shouldHide() {
   if (!panel.shouldHide()) return false;
   std::string reason;
-  if (!panel.saveValuesAndReturnError(&reason)) emit saveFailed(shownText(reason));
+  if (!panel.saveValuesAndReturnError(&reason)) emit saveFailed(shownLines(reason));
   return true;
 }
 

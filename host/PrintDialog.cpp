@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include <QEvent>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -19,6 +21,7 @@
 #include "host/PrinterPopUp.h"
 #include "host/SummaryPane.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -44,6 +47,7 @@ PrintDialog::PrintDialog(JobRequest theRequest, QWidget* parent)
       stateTimer(makeChild<QTimer>(this)) {
   setWindowTitle(tr("Print"));
   build();
+  fillIn();
   connectParts();
   connectBrowser();
   connectRunner();
@@ -68,12 +72,20 @@ void PrintDialog::build() {
   conflictNote->setObjectName("conflictNote");
 }
 
+// What the fields of the dialog hold, they hold in place of the options.
+void PrintDialog::fillIn() {
+  const OptString copies = optionValue(request.options, "copies");
+  general->setCopies(request.copies > 1 || !copies ? request.copies : integerValue(copies));
+  const OptString ranges = optionValue(request.options, "page-ranges");
+  general->setPageRanges(
+      shownLine(request.pageRanges.empty() ? ranges.value_or("") : request.pageRanges));
+}
+
 void PrintDialog::connectParts() {
   connect(buttons, &JobButtons::helpWanted, this, &PrintDialog::showHelp);
   connect(buttons, &JobButtons::cancelled, this, &PrintDialog::reject);
   connect(buttons, &JobButtons::closed, this, &PrintDialog::accept);
   connect(buttons, &JobButtons::printWanted, this, &PrintDialog::print);
-  connect(switcher, &PaneSwitcher::resized, this, &PrintDialog::fit);
   connect(layoutPane, &LayoutPane::pagesPerSheetChanged, this, [this](int pages) {
     if (current) current->setPagesPerSheet(pages);
   });
@@ -81,20 +93,23 @@ void PrintDialog::connectParts() {
   connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
 }
 
-void PrintDialog::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  fit();
+bool PrintDialog::event(QEvent* event) {
+  const bool handled = QDialog::event(event);
+  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) fit();
+  return handled;
 }
 
-// Follows the contents, and leaves it to the person to make the window larger than that.
+// Follows the contents as far as the screen goes; what the person has added to the window's height
+// stays.
 void PrintDialog::fit() {
-  layout()->activate();
-  const QSize now = layout()->totalSizeHint();
-  const QSize more = wanted.isValid() && isVisible() ? size() - wanted : QSize(0, 0);
-  wanted = now;
+  if (!isVisible()) return;
   const QSize room = screen()->availableSize() - kWindowFrame;
-  const QSize size(std::max(now.width(), width()), now.height() + std::max(more.height(), 0));
-  resize(size.boundedTo(room));
+  const int width = std::max(layout()->totalSizeHint().width(), this->width());
+  const int height = layout()->totalHeightForWidth(width);
+  const int extra = wantedHeight ? std::max(this->height() - wantedHeight, 0) : 0;
+  const int bar = height > room.height() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+  wantedHeight = std::min(height, room.height());
+  resize(QSize(width + bar, height + extra).boundedTo(room));
 }
 
 void PrintDialog::showHelp() {
@@ -106,19 +121,17 @@ void PrintDialog::showHelp() {
 }
 
 void PrintDialog::say(const std::string& sentence) {
-  note->say(shownText(sentence), Note::Kind::information);
-  fit();
+  note->say(shownLines(sentence), Note::Kind::information);
 }
 
 void PrintDialog::showConflicts() {
   QStringList texts;
-  for (const std::string& text : current->marks().conflictingOptions()) texts << shownText(text);
+  for (const std::string& text : current->marks().conflictingOptions()) texts << shownLine(text);
   conflictNote->say(texts.isEmpty() ? QString()
                                     : tr("The printer cannot do these together as they are set: "
                                          "%1. Changing one of them puts it right.")
                                           .arg(texts.join(", ")),
                     Note::Kind::information);
-  fit();
 }
 
 SummaryPane::Sections PrintDialog::allLines() const {

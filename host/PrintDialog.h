@@ -65,11 +65,12 @@ class PrintDialog : public QDialog {
   void sessionChanged();
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   // The window.
   void build();
+  void fillIn();
   void connectParts();
   void fit();
   void showHelp();
@@ -117,7 +118,7 @@ class PrintDialog : public QDialog {
   FeaturesPane* featuresPane = nullptr;
   std::vector<PanelPane*> panelPanes;
   HelpWindow* help = nullptr;
-  QSize wanted;  // the size that the contents asked for last
+  int wantedHeight = 0;  // what the contents asked for last
 
   PrinterBrowser browser;
   JobRunner runner;

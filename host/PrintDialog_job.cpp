@@ -7,13 +7,15 @@
 #include "host/PrintDialog.h"
 #include "host/PrinterPopUp.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
 namespace {
 
 void removeOption(OptionList& options, const char* name) {
-  std::erase_if(options, [&](const auto& option) { return strcasecmp(option.first.c_str(), name) == 0; });
+  std::erase_if(options,
+                [&](const auto& option) { return strcasecmp(option.first.c_str(), name) == 0; });
 }
 
 }  // namespace
@@ -37,7 +39,7 @@ void PrintDialog::print() {
   const Result<std::string> ranges = general->pageRanges();
   if (!ranges) return general->focusPageRanges();
   if (const std::string problem = current ? current->takePanelChoices() : ""; !problem.empty())
-    return note->say(shownText(problem));
+    return note->say(shownLines(problem));
   note->clear();
   start(finishedRequest(*ranges));
 }
@@ -63,7 +65,6 @@ void PrintDialog::start(const JobRequest& finished) {
   content->setEnabled(false);
   buttons->setState(JobButtons::State::printing);
   buttons->showProgress(tr("Sending the document…"), -1);
-  fit();
   if (output.empty())
     runner.submit(finished, options);
   else
@@ -71,16 +72,17 @@ void PrintDialog::start(const JobRequest& finished) {
 }
 
 void PrintDialog::finishSubmission(const Submission& submission) {
-  if (submission.cancelled) return giveBack(tr("Printing was cancelled. The settings are as they were."));
-  const QString job = QString("%1-%2")
-                          .arg(shownText(general->printers().selected()->name))
-                          .arg(submission.jobId);
+  if (submission.cancelled)
+    return giveBack(tr("Printing was cancelled. The settings are as they were."));
+  const QString job =
+      QString("%1-%2").arg(shownLine(general->printers().selected()->name)).arg(submission.jobId);
   QStringList report{tr("Job %1 was sent.").arg(job)};
   QStringList missing;
-  for (const std::string& option : submission.missingOptions) missing << shownText(option);
+  for (const std::string& option : submission.missingOptions) missing << shownLine(option);
   if (!missing.isEmpty())
-    report << tr("The printer did not get: %1. Look at the print before printing more.").arg(missing.join(", "));
-  if (!submission.notReadBack.empty()) report << shownText(submission.notReadBack);
+    report << tr("The printer did not get: %1. Look at the print before printing more.")
+                  .arg(missing.join(", "));
+  if (!submission.notReadBack.empty()) report << shownLines(submission.notReadBack);
   finish(report.join(' '), report.size() > 1);
 }
 
@@ -89,14 +91,12 @@ void PrintDialog::finish(const QString& text, bool withWarning) {
   reportText = text;
   buttons->setState(JobButtons::State::done);
   note->say(text, withWarning ? Note::Kind::warning : Note::Kind::information);
-  fit();
 }
 
 void PrintDialog::giveBack(const QString& text) {
   content->setEnabled(true);
   buttons->setState(JobButtons::State::ready);
   note->say(text, Note::Kind::information);
-  fit();
 }
 
 void PrintDialog::fail(const QString& reason) {
@@ -105,7 +105,6 @@ void PrintDialog::fail(const QString& reason) {
   content->setEnabled(true);
   buttons->setState(JobButtons::State::ready);
   note->say(reason);
-  fit();
 }
 
 }  // namespace tavrin

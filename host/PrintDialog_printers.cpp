@@ -13,6 +13,7 @@
 #include "host/PrinterPopUp.h"
 #include "host/SummaryPane.h"
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -24,7 +25,7 @@ constexpr char kPagesPerSheetOption[] = "number-up";
 QString joined(const std::vector<std::string>& sentences) {
   QStringList texts;
   for (const std::string& sentence : sentences)
-    if (!sentence.empty()) texts << shownText(sentence);
+    if (!sentence.empty()) texts << shownLines(sentence);
   return texts.join(' ');
 }
 
@@ -48,12 +49,11 @@ void PrintDialog::connectBrowser() {
           });
   connect(&browser, &PrinterBrowser::stateChanged, &printers,
           [&printers](const std::string& queue, const PrinterState& state) {
-            printers.setStateText(queue, shownText(stateText(state)));
+            printers.setStateText(queue, shownLine(stateText(state)));
           });
-  connect(&browser, &PrinterBrowser::stateFailed, &printers,
-          [&printers](const std::string& queue) {
-            printers.setStateText(queue, tr("does not answer"));
-          });
+  connect(&browser, &PrinterBrowser::stateFailed, &printers, [&printers](const std::string& queue) {
+    printers.setStateText(queue, tr("does not answer"));
+  });
   connect(stateTimer, &QTimer::timeout, this, &PrintDialog::watchState);
 }
 
@@ -80,14 +80,12 @@ void PrintDialog::showPrinters(const std::vector<Printer>& printers) {
   named.instance = request.instance;
   const std::string destination = named.name.empty() ? "" : destinationName(named);
   if (general->printers().setPrinters(printers, destination)) return choosePrinter();
-  note->say(tr("There is no printer “%1”. Choose another one.").arg(shownText(destination)));
-  fit();
+  note->say(tr("There is no printer “%1”. Choose another one.").arg(shownLine(destination)));
 }
 
 void PrintDialog::noPrinters(const QString& reason) {
   general->printers().setEmpty(tr("No printers"));
   note->say(reason, Note::Kind::warning, tr("&Look Again"));
-  fit();
 }
 
 void PrintDialog::choosePrinter() {
@@ -121,7 +119,6 @@ void PrintDialog::goWithoutPPD(const QString& reason) {
   note->say(tr("%1 The document can be printed all the same, with the printer's usual settings.")
                 .arg(reason));
   buttons->setState(JobButtons::State::ready);
-  fit();
 }
 
 void PrintDialog::beginSession(const SharedPPD& ppd) {
@@ -136,7 +133,6 @@ void PrintDialog::beginSession(const SharedPPD& ppd) {
   connect(&current->marks(), &PPDMarks::refreshed, this, &PrintDialog::showConflicts);
   connect(current.get(), &PrinterSession::panelResized, this, [this] {
     for (PanelPane* pane : panelPanes) pane->followView();
-    fit();
   });
   buttons->setState(JobButtons::State::ready);
   showConflicts();
@@ -150,14 +146,20 @@ void PrintDialog::makePanes() {
   if (const ppd_option_t* twoSided = twoSidedOption(current->ppd()))
     elsewhere.insert(twoSided->keyword);
   featuresPane = makeChild<FeaturesPane>(current->marks(), elsewhere, switcher);
+  connect(featuresPane, &FeaturesPane::laidOutAnew, this, [this] {
+    orderTabs({content, note, buttons});
+  });
   if (!featuresPane->isEmpty()) panes.push_back(featuresPane);
   for (const auto& panel : current->panels()) {
     panelPanes.push_back(makeChild<PanelPane>(*panel, switcher));
+    connect(panelPanes.back(), &PanelPane::saveFailed, this,
+            [this](const QString& reason) { note->say(reason); });
     panes.push_back(panelPanes.back());
   }
   panes.push_back(summaryPane);
   const QString first = panelPanes.empty() ? layoutPane->name() : panelPanes.front()->name();
   switcher->setPanes(panes, first);
+  orderTabs({content, note, buttons});
 }
 
 void PrintDialog::endSession() {

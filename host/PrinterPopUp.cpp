@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/Widgets.h"
+#include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
@@ -24,7 +25,7 @@ bool PrinterPopUp::setPrinters(std::vector<Printer> thePrinters, const std::stri
   setPlaceholderText(tr("Choose a printer"));
   for (std::size_t row = 0; row < printers.size(); ++row) {
     addItem({});
-    setRow(static_cast<int>(row), shownText(tavrin::stateText(printers[row].state)));
+    setRow(static_cast<int>(row), shownLine(tavrin::stateText(printers[row].state)));
   }
   letPopUpShrink(*this);
   setCurrentIndex(rowOf(destination));
@@ -61,8 +62,9 @@ int PrinterPopUp::rowOf(const std::string& destination) const {
 }
 
 void PrinterPopUp::setRow(int row, const QString& state) {
-  const QString name = shownText(destinationName(printers[static_cast<std::size_t>(row)]));
-  setItemText(row, state.isEmpty() ? name : tr("%1 — %2", "printer and its state").arg(name, state));
+  const QString name = shownLine(destinationName(printers[static_cast<std::size_t>(row)]));
+  setItemText(row,
+              state.isEmpty() ? name : tr("%1 — %2", "printer and its state").arg(name, state));
   setItemData(row, state, kStateRole);
 }
 

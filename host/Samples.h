@@ -12,8 +12,7 @@ struct Samples {
   std::filesystem::path root;  // the folder that stands for "/" to the sample printer's software
 };
 
-// The samples installed with the program that runs, else those of the sources that it was built
-// from.
+// The samples that were installed, or built, with the program that runs.
 Samples samples();
 
 }  // namespace tavrin

@@ -14,24 +14,30 @@ namespace {
 
 constexpr int kLeastPopUpLetters = 16;
 
-// Marks that reorder or break the text around them.
-bool isControl(QChar letter) {
-  return letter.category() == QChar::Other_Control || letter == QChar::LineSeparator ||
-         letter == QChar::ParagraphSeparator ||
-         (letter >= QChar(0x202A) && letter <= QChar(0x202E)) ||
-         (letter >= QChar(0x2066) && letter <= QChar(0x2069));
+void addStops(QWidget& widget, std::vector<QWidget*>& stops);
+
+void addStops(const QLayout& layout, std::vector<QWidget*>& stops) {
+  for (int i = 0; i < layout.count(); ++i) {
+    if (QWidget* widget = layout.itemAt(i)->widget()) addStops(*widget, stops);
+    if (const QLayout* inner = layout.itemAt(i)->layout()) addStops(*inner, stops);
+  }
+}
+
+void addStops(QWidget& widget, std::vector<QWidget*>& stops) {
+  if (widget.focusPolicy() & Qt::TabFocus) return stops.push_back(&widget);
+  if (widget.layout() && widget.layout()->count() > 0) return addStops(*widget.layout(), stops);
+  QWidget* next = widget.nextInFocusChain();
+  for (; next != &widget; next = next->nextInFocusChain())
+    if (widget.isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus) stops.push_back(next);
 }
 
 }  // namespace
 
-QString shownText(const std::string& text) {
-  QString shown = QString::fromStdString(text);
-  for (QChar& letter : shown)
-    if (isControl(letter)) letter = ' ';
-  return shown;
+void orderTabs(const std::vector<QWidget*>& widgets) {
+  std::vector<QWidget*> stops;
+  for (QWidget* widget : widgets) addStops(*widget, stops);
+  for (std::size_t i = 1; i < stops.size(); ++i) QWidget::setTabOrder(stops[i - 1], stops[i]);
 }
-
-QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
 
 QLabel* makeTextLabel(QWidget* parent) {
   auto* label = makeChild<QLabel>(parent);
@@ -63,8 +69,7 @@ void letPopUpShrink(QComboBox& popUp) {
   popUp.setMinimumContentsLength(kLeastPopUpLetters);
   const int room = popUp.screen()->availableGeometry().width() / 2;
   const int scrollBar = popUp.fontMetrics().averageCharWidth() * 6;
-  popUp.view()->setMinimumWidth(
-      std::min(popUp.view()->sizeHintForColumn(0) + scrollBar, room));
+  popUp.view()->setMinimumWidth(std::min(popUp.view()->sizeHintForColumn(0) + scrollBar, room));
 }
 
 }  // namespace tavrin

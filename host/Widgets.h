@@ -1,14 +1,13 @@
 #pragma once
 
 #include <memory>
-#include <string>
 #include <utility>
-
-#include <QString>
+#include <vector>
 
 class QComboBox;
 class QFormLayout;
 class QLabel;
+class QString;
 class QWidget;
 
 // What every pane of the dialog builds its widgets with.
@@ -20,13 +19,6 @@ template <class T, class... Args>
 T* makeChild(Args&&... args) {
   return std::make_unique<T>(std::forward<Args>(args)...).release();
 }
-
-// A text from a PPD, a print server or a panel as a widget may show it: UTF-8, with control
-// characters and line breaks as blanks, so that no text can break a layout.
-QString shownText(const std::string& text);
-
-// The same text for a widget that takes "&" for a mnemonic (check boxes, labels with a buddy).
-QString withoutMnemonic(QString text);
 
 // A label that shows a text as it is, over several lines where there is no room.
 QLabel* makeTextLabel(QWidget* parent);
@@ -41,5 +33,9 @@ QFormLayout* makeForm(QWidget* parent);
 
 // Lets a pop-up be narrower than its longest item, and its list be as wide as that item.
 void letPopUpShrink(QComboBox& popUp);
+
+// Lets the Tab key go through these widgets, and through what is in them, as they are laid out;
+// what a widget without a layout holds keeps its order.
+void orderTabs(const std::vector<QWidget*>& widgets);
 
 }  // namespace tavrin

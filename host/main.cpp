@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <iostream>
-
 #include <unistd.h>
 
 #include <QApplication>
@@ -44,9 +43,12 @@ std::string documentProblem(const std::filesystem::path& document) {
 int report(const PrintDialog& dialog) {
   const std::string text = dialog.report().toStdString();
   switch (dialog.outcome()) {
-    case PrintDialog::Outcome::failed: return complain(kNotPrinted, text);
-    case PrintDialog::Outcome::cancelled: return kCancelled;
-    case PrintDialog::Outcome::printed: break;
+    case PrintDialog::Outcome::failed:
+      return complain(kNotPrinted, text);
+    case PrintDialog::Outcome::cancelled:
+      return kCancelled;
+    case PrintDialog::Outcome::printed:
+      break;
   }
   std::cout << text << "\n";
   return kPrinted;
@@ -94,8 +96,9 @@ int print(CommandLine line, int& argc, char** argv) {
     ppd = std::move(*loaded);
   }
   if (!hasDisplay())
-    return complain(kNotPrinted, "There is no display to show the dialog on. Set DISPLAY, or print "
-                                 "with lp.");
+    return complain(kNotPrinted,
+                    "There is no display to show the dialog on. Set DISPLAY, or print "
+                    "with lp.");
   return show(line, std::move(ppd), argc, argv);
 }
 
@@ -107,9 +110,14 @@ int main(int argc, char** argv) {
   const Result<CommandLine> line = parseCommandLine(arguments);
   if (!line) return complain(kUsage, line.reason());
   switch (line->wish) {
-    case CommandLine::Wish::help: std::cout << usage(); return kPrinted;
-    case CommandLine::Wish::version: std::cout << "tavrin-print " TAVRIN_VERSION "\n"; return kPrinted;
-    case CommandLine::Wish::print: break;
+    case CommandLine::Wish::help:
+      std::cout << usage();
+      return kPrinted;
+    case CommandLine::Wish::version:
+      std::cout << "tavrin-print " TAVRIN_VERSION "\n";
+      return kPrinted;
+    case CommandLine::Wish::print:
+      break;
   }
   return print(*line, argc, argv);
 }
