@@ -49,7 +49,9 @@ class Bundle {
 
 // The user's languages for looking up resources, most wanted first, each followed by its less
 // specific forms: for LC_ALL=pt_BR.UTF-8 these are pt_BR and pt. Taken from LC_ALL, LC_MESSAGES,
-// LANG and LANGUAGE as gettext does; empty for the C and POSIX locales.
+// LANG and LANGUAGE as gettext does; empty for the C and POSIX locales, whatever their encoding.
+// The list ends with English, the language of the keys and of the neutral resources: a language
+// that the user wants less must not come before them.
 std::vector<std::string> userLanguages();
 
 }  // namespace tavrin

@@ -35,7 +35,10 @@ struct HelpBook {
   std::filesystem::path startPage;
 };
 
-// Reads the book at a folder on this machine. A book without a start page has an empty one; a
+// Reads the book at a folder on this machine, in the user's language where it has pages for it:
+// in the folder that "CFBundleHelpBookFolder" names among the bundle's resources, else in the
+// resources, else in the folder itself. The start page is index.html, index.htm or the only page,
+// and never a file from outside. A book without a start page has an empty one; a
 // folder that is no book has an empty name as well.
 HelpBook helpBookAt(const std::filesystem::path& folder);
 

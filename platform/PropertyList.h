@@ -43,7 +43,9 @@ inline constexpr std::size_t kPropertyListSizeLimit = 1024 * 1024;
 
 // Reads a property-list file. Absent for a file that is missing, unreadable, no regular file, too
 // large, or not a sound property list, and for one that is built to exhaust its reader (deep
-// nesting, shared or circular references, entities). Never blocks.
+// nesting, shared or circular references, entities, colliding keys). Never blocks. The last of two
+// equal keys wins; a text that is not UTF-8 is something else, an entry with such a key is left
+// out.
 std::optional<PropertyList> readPropertyList(const std::filesystem::path& file);
 
 // The same for bytes in memory.

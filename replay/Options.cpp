@@ -15,7 +15,7 @@ void describe(QCommandLineParser& parser) {
   parser.setApplicationDescription(
       "Plays the Print dialog's part for the Print Settings panel, without a display.\n"
       "A script has one JSON object a line; each gets one JSON object in reply.");
-  parser.addHelpOption();
+  parser.addOption({{"h", "help"}, "Tell how to use the program, and end."});
   parser.addOption({kBundle, "The plug-in bundle (default: the one beside the program).", "DIR"});
   parser.addOption(
       {kRoot, "A folder put before the absolute paths that the plug-in reads.", "DIR"});

@@ -1,5 +1,9 @@
 #include "replay/ReplayHost.h"
 
+#include <iostream>
+
+#include "replay/Quoted.h"
+
 namespace tavrin {
 
 ReplayHost::ReplayHost(const std::string& id, EventLog& log, PPDPtr printerPPD)
@@ -11,7 +15,9 @@ ReplayHost::ReplayHost(const std::string& id, EventLog& log, PPDPtr printerPPD)
 }
 
 void ReplayHost::mark(const std::string& key, const std::string& choice) {
-  markChoice(ppd.get(), key, choice);
+  if (markChoice(ppd.get(), key, choice)) return;
+  std::cerr << "tavrin-replay: The PPD has no choice " << quoted(choice) << " of " << quoted(key)
+            << "; nothing is marked.\n";
 }
 
 // libcups has no call for this: a mark is a flag of the choice and an entry in the PPD's list.

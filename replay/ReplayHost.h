@@ -23,7 +23,9 @@ class ReplayHost {
 
   // Every option's default choice becomes the marked one.
   void markDefaults() { ppdMarkDefaults(ppd.get()); }
-  // Marks a choice, telling nobody. An option or choice that the PPD lacks marks nothing.
+  // Marks a choice, telling nobody. An option or choice that the PPD lacks marks
+  // nothing and is named on standard error: it is no mistake of the dialog's, but perhaps the
+  // script's.
   void mark(const std::string& key, const std::string& choice);
   // Takes the option's mark away, telling nobody.
   void unmark(const std::string& key);

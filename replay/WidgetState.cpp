@@ -48,30 +48,35 @@ Json state(const QComboBox& box) {
   for (int i = 0; i < box.count(); ++i)
     items.push_back(
         {{"title", itemText(box, i, kRawTitleRole)}, {"value", itemText(box, i, kValueRole)}});
-  return {{"hidden", isHidden(box)},
+  return {{"kind", "popup"},
+          {"hidden", isHidden(box)},
           {"enabled", isEnabled(box)},
           {"items", items},
           {"index", box.currentIndex()}};
 }
 
+std::string kindOf(const QAbstractButton& button) {
+  if (qobject_cast<const QRadioButton*>(&button)) return "radio";
+  return qobject_cast<const QCheckBox*>(&button) ? "check" : "disclosure";
+}
+
 Json state(const QAbstractButton& button) {
-  return {{"hidden", isHidden(button)},
+  return {{"kind", kindOf(button)},
+          {"hidden", isHidden(button)},
           {"enabled", isEnabled(button)},
           {"title", textOf(button, button.text())},
           {"on", button.isChecked()}};
 }
 
 Json state(const QSlider& slider) {
-  return {{"hidden", isHidden(slider)},
-          {"enabled", isEnabled(slider)},
-          {"value", slider.value()},
-          {"min", slider.minimum()},
-          {"max", slider.maximum()}};
+  return {{"kind", "slider"},        {"hidden", isHidden(slider)}, {"enabled", isEnabled(slider)},
+          {"value", slider.value()}, {"min", slider.minimum()},    {"max", slider.maximum()}};
 }
 
 Json state(const QLabel& label) {
   const QString color = label.property(kTextColor).toString();
-  return {{"hidden", isHidden(label)},
+  return {{"kind", "label"},
+          {"hidden", isHidden(label)},
           {"text", textOf(label, label.text())},
           {"color", color.isEmpty() ? "default" : color.toStdString()}};
 }

@@ -28,12 +28,17 @@ def listed: to_entries | map("    \(.key): \(.value)") | join("\n");
 
 def changes($before): with_entries(select($before[.key] != .value));
 
-def action:
+# What a person reads on a pop-up's item; before the panel is shown, its number.
+def item($state): $state.controls[.control].items[.index].title // "item \(.index + 1)";
+
+def name: setting_names[.control] // .control;
+
+def action($state):
   if .do == "open" then "The Print dialog opens for \(.ppd | split("/") | last)."
   elif .do == "willShow" then "The Print Settings panel is shown:"
-  elif .do == "choose" then "The user picks item \(.index + 1) of \(setting_names[.control] // .control)."
-  elif .do == "click" then "The user clicks \(setting_names[.control] // .control)."
-  elif .do == "slide" then "The user moves \(setting_names[.control] // .control) to \(.value)."
+  elif .do == "choose" then "The user sets \(name) to \(item($state))."
+  elif .do == "click" then "The user clicks \(name)."
+  elif .do == "slide" then "The user moves \(name) to \(.value)."
   elif .do == "page" then "The user chooses the paper size \(.page)."
   elif .do == "columns" then "The user chooses a layout of \(.columns) columns."
   elif .do == "summaryInfo" then "The summary pane lists:"
@@ -42,16 +47,26 @@ def action:
   elif .do == "close" then "The dialog closes."
   else empty end;
 
+# What a conflict window says, and its choices.
+def window_text: .window as $window | .labels as $labels
+  | [("A", "B", "C", "D") | $labels["ibLabel\(.)_\($window)"] | values | "    " + .]
+  + [("First", "Second", "Third") as $choice
+     | [("A", "B") | $labels["ibLabel\(.)_\($choice)Button_\($window)"] | values | select(. != "")]
+     | select(. != []) | "      ( ) " + join(", ")]
+  | join("\n");
+
 def happened:
   if .event == "window" then
-    if .window == "Instructions" then "  A window comes up, \"\(.title)\":\n    \(.text | gsub("\n"; "\n    "))"
-    else "  A window comes up, \"\(.title)\":\n"
-      + ([.labels | to_entries[] | select(.value != "") | "    \(.value)"] | join("\n")) end
+    "  A window comes up, \"\(.title)\":\n"
+    + if .window == "Instructions" then "    " + (.text | gsub("\n"; "\n    ")) else window_text end
   elif .event == "willChangePPDOptionKeyValue" then "    \(.key)=\(.choice)"
   elif .event == "panelViewDidResize" then "  The dialog follows the panel's new size."
   elif .event == "gotoPage" then
     "  The help book \"\(.book)\" opens\(if .page then " at \(.page)" else "" end)."
   else empty end;
+
+def answered: .answers[]? | select(.choose // [] != [])
+  | "  The user takes choice \(.choose | last) and clicks \(if .end == "close" then "the close button" else "OK" end).";
 
 def outcome($reply; $before):
   if $reply.ok | not then "  That does not work: \($reply.error)"
@@ -59,10 +74,14 @@ def outcome($reply; $before):
   elif $reply.state then $reply.state | settings | changes($before) | listed | select(. != "")
   else empty end;
 
-reduce range($replies | length) as $i ({said: [], before: {}};
-  $commands[$i] as $command | $replies[$i] as $reply | .before as $before
-  | .said += [$command | action]
+# What was there before the panel was shown nobody has seen.
+reduce range($replies | length) as $i ({said: [], state: null, visible: false};
+  $commands[$i] as $command | $replies[$i] as $reply
+  | (.visible or $command.do == "willShow") as $visible
+  | (if .visible then .state | settings else {} end) as $before
+  | .said += [.state as $state | $command | action($state)]
   | .said += [$reply.events[]? | happened]
-  | .said += [outcome($reply; $before)]
-  | if $reply.state then .before = ($reply.state | settings) else . end)
+  | .said += [$command | answered]
+  | .said += [if $visible or ($reply.ok | not) then outcome($reply; $before) else empty end]
+  | .state = ($reply.state // .state) | .visible = $visible)
 | .said[]

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QUiLoader>
 
+#include "platform/qt/DisclosureTriangle.h"
 #include "platform/qt/InterfaceFile.h"
 
 namespace tavrin {
@@ -16,8 +17,12 @@ class StandardWidgetLoader : public QUiLoader {
   StandardWidgetLoader() { clearPluginPaths(); }
 
   QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
-    return isKnownWidgetClass(className) ? QUiLoader::createWidget(className, parent, name)
-                                         : nullptr;
+    if (!isKnownWidgetClass(className)) return nullptr;
+    if (className != QStringLiteral("QToolButton"))
+      return QUiLoader::createWidget(className, parent, name);
+    QWidget* triangle = std::make_unique<DisclosureTriangle>(parent).release();  // the parent's
+    triangle->setObjectName(name);
+    return triangle;
   }
   QAction* createAction(QObject*, const QString&) override { return nullptr; }
   QActionGroup* createActionGroup(QObject*, const QString&) override { return nullptr; }

@@ -58,11 +58,12 @@ bool ModalRuns::run(QtWindow& window) {
   window.onClosed([this, &run] { end(run); });
   if (!window.isUp()) window.display();
   handleEvents(run, window);
+  const bool answered = run.stopped;
+  // Still in the list: what a delegate stops now is this run and not one around it.
+  if (!answered) window.close();
   window.onClosed({});
-  run.over = true;
   std::erase(runs, &run);
-  if (!run.stopped) window.close();
-  return run.stopped;
+  return answered;
 }
 
 }  // namespace tavrin

@@ -10,6 +10,7 @@
 #include <QRectF>
 #include <QSlider>
 #include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QWidget>
 
 #include "platform/qt/WidgetProperties.h"
@@ -54,6 +55,25 @@ QRect rounded(double left, double top, double right, double bottom) {
                QPoint(std::lround(right) - 1, std::lround(bottom) - 1));
 }
 
+// Wide enough for the widest item. A combo box that is told to adjust itself to its items resizes
+// itself after a while, past any layout.
+int widthForItems(const QComboBox& box) {
+  QStyleOptionComboBox option;
+  option.initFrom(&box);
+  option.editable = false;
+  option.frame = box.hasFrame();
+  QSize text(0, box.fontMetrics().height());
+  for (int i = 0; i < box.count(); ++i)
+    text.setWidth(std::max(text.width(), box.fontMetrics().horizontalAdvance(box.itemText(i))));
+  text.rwidth() += box.fontMetrics().averageCharWidth();
+  return box.style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, &box).width();
+}
+
+int neededWidth(const QWidget& leaf) {
+  const auto* box = qobject_cast<const QComboBox*>(&leaf);
+  return box ? widthForItems(*box) : leaf.sizeHint().width();
+}
+
 // A control keeps its natural height in the middle of its place.
 QRect inItsPlace(const QWidget& leaf, QRect place) {
   const int spare = place.height() - leaf.sizeHint().height();
@@ -75,7 +95,7 @@ void noteFrame(QWidget& widget, const Rect& frame) {
 
 void layoutChanged(QWidget& widget) {
   QWidget* root = outermostView(widget);
-  if (root->layout()) root->layout()->update();
+  if (root->layout()) root->layout()->invalidate();
   root->updateGeometry();
 }
 
@@ -140,8 +160,8 @@ EdgeRuler PanelLayout::rulerFor(const std::vector<Place>& places, double scale) 
     if (!place.isLeaf || isHiddenFlagSet(*place.widget)) continue;
     const bool stretches =
         qobject_cast<QComboBox*>(place.widget) || qobject_cast<QSlider*>(place.widget);
-    spans.push_back({place.left, place.left + place.width, double(place.widget->sizeHint().width()),
-                     stretches});
+    spans.push_back(
+        {place.left, place.left + place.width, double(neededWidth(*place.widget)), stretches});
   }
   return EdgeRuler(frameOf(*parentWidget()).width, scale, spans);
 }

@@ -1,15 +1,11 @@
 #include "platform/qt/QtButton.h"
 
-#include <QToolButton>
-
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
 QtButton::QtButton(QAbstractButton& button) : QtControlOf(button) {
   QObject::connect(&button, &QAbstractButton::clicked, &receiver, [this] { tellUserChange(); });
-  QObject::connect(&button, &QAbstractButton::toggled, &receiver, [this] { pointArrow(); });
-  pointArrow();
 }
 
 int QtButton::intValue() const { return widget && widget->isChecked() ? 1 : 0; }
@@ -29,14 +25,6 @@ void QtButton::setTitle(const std::string& title) {
   widget->setProperty(kRawText, QByteArray::fromStdString(title));
   widget->setText(withoutMnemonics(shownLine(title)));
   layoutChanged(*widget);
-}
-
-void QtButton::pointArrow() {
-  auto* triangle = qobject_cast<QToolButton*>(widget.data());
-  if (!triangle || !triangle->isCheckable()) return;
-  const auto closed =
-      triangle->layoutDirection() == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow;
-  triangle->setArrowType(triangle->isChecked() ? Qt::DownArrow : closed);
 }
 
 }  // namespace tavrin

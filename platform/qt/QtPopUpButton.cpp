@@ -5,7 +5,8 @@
 namespace tavrin {
 
 QtPopUpButton::QtPopUpButton(QComboBox& box) : QtControlOf(box) {
-  box.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  // The panel's layout measures the items itself.
+  box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   QObject::connect(&box, &QComboBox::activated, &receiver, [this] { tellUserChange(); });
 }
 

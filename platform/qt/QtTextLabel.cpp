@@ -8,12 +8,13 @@ QtTextLabel::QtTextLabel(QPlainTextEdit& text) : QtViewOf(text) {
   text.setReadOnly(true);
   text.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   text.setTabChangesFocus(true);
+  text.viewport()->setAutoFillBackground(false);  // text on the window, not a field to type into
 }
 
 void QtTextLabel::setStringValue(const std::string& text) {
   if (!widget) return;
   widget->setProperty(kRawText, QByteArray::fromStdString(text));
-  widget->setPlainText(shownLines(text));
+  widget->setPlainText(shownText(text));
 }
 
 void QtTextLabel::setTextColor(TextColor color) {

@@ -8,12 +8,10 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <QWindow>
 
 #include "platform/qt/ShownText.h"
@@ -41,30 +39,56 @@ class QtWindow::Events : public QObject {
 namespace {
 
 // Lines of this many average characters are read with ease.
-constexpr int kLineLength = 64;
+constexpr int kLineLength = 72;
 
 int lineWidth(const QWidget& text) { return text.fontMetrics().averageCharWidth() * kLineLength; }
 
-QSize contentSize(const QWidget& content, int widest) {
-  const QLayout& layout = *content.layout();
-  const int width = std::clamp(layout.sizeHint().width(), 0, widest);
-  const int height = layout.hasHeightForWidth() ? layout.totalHeightForWidth(width)
-                                                : layout.totalSizeHint().height();
-  return {width, height};
+// A layout forgets its own measures only, not those of the layouts in it.
+void measureAnew(QLayout& layout) {
+  for (int i = 0; i < layout.count(); ++i)
+    if (QLayout* inner = layout.itemAt(i)->layout()) measureAnew(*inner);
+  layout.invalidate();
 }
 
+void wrapLines(const QList<QLabel*>& labels, bool wrap) {
+  for (QLabel* label : labels) label->setWordWrap(wrap);
+}
+
+// As wide as the longest line, within reason; lines that are longer wrap.
+int contentWidth(const QWidget& content, int widest) {
+  const QList<QLabel*> labels = content.findChildren<QLabel*>();
+  wrapLines(labels, false);
+  measureAnew(*content.layout());
+  const int width = content.layout()->totalSizeHint().width();
+  wrapLines(labels, true);
+  measureAnew(*content.layout());
+  return std::min(width, widest);
+}
+
+QSize contentSize(const QWidget& content, int widest) {
+  QLayout& layout = *content.layout();
+  const int width = contentWidth(content, widest);
+  const int height = layout.hasHeightForWidth() ? layout.totalHeightForWidth(width)
+                                                : layout.totalSizeHint().height();
+  return {width, std::max(height, layout.totalMinimumSize().height())};
+}
+
+// No more of a monstrous text is measured than a screen can show.
 QSize textSize(const QPlainTextEdit& text, int widest) {
+  const QString start = text.toPlainText().left(8000);
   const QFontMetrics metrics = text.fontMetrics();
-  int width = 0;
-  int lines = 0;
-  for (QTextBlock block = text.document()->begin(); block.isValid() && lines < 200;
-       block = block.next()) {
-    const int line = metrics.horizontalAdvance(block.text().left(4 * kLineLength));
-    width = std::max(width, std::min(line, widest));
-    lines += 1 + line / std::max(1, widest) + block.length() / (4 * kLineLength);
-  }
+  const QRect lines =
+      metrics.boundingRect(QRect(0, 0, widest, QWIDGETSIZE_MAX), Qt::TextWordWrap, start);
   const int edge = 2 * (int(text.document()->documentMargin()) + text.frameWidth());
-  return {width + edge + metrics.averageCharWidth(), lines * metrics.lineSpacing() + edge};
+  return {lines.width() + edge + 2 * metrics.averageCharWidth(),
+          lines.height() + edge + metrics.lineSpacing() / 2};
+}
+
+QSize scrolledSize(const QAbstractScrollArea& area, int widest) {
+  if (const auto* text = qobject_cast<const QPlainTextEdit*>(&area)) return textSize(*text, widest);
+  const auto* contents = qobject_cast<const QScrollArea*>(&area);
+  const bool isLaidOut = contents && contents->widget() && contents->widget()->layout();
+  return isLaidOut ? contentSize(*contents->widget(), widest) : area.sizeHint();
 }
 
 }  // namespace
@@ -85,17 +109,14 @@ QWidget* QtWindow::coveredWindow() const {
   return nullptr;
 }
 
-// What scrolls is made large enough to show everything, as far as the screen has room.
+// What scrolls is made large enough to show everything, as far as the screen has room. There is
+// always room for a scroll bar: lines that wrapped because of it would then call for it.
 void QtWindow::fitScrolledContents(const QSize& room) {
-  for (QScrollArea* area : widget->findChildren<QScrollArea*>()) {
-    if (!area->widget() || !area->widget()->layout()) continue;
-    const QSize size = contentSize(*area->widget(), std::min(room.width(), lineWidth(*widget)));
-    const int bar =
-        size.height() > room.height() ? area->verticalScrollBar()->sizeHint().width() : 0;
-    area->setMinimumSize((size + QSize(bar, 0)).boundedTo(room));
+  for (QAbstractScrollArea* area : widget->findChildren<QAbstractScrollArea*>()) {
+    const QSize bar(area->verticalScrollBar()->sizeHint().width(), 0);
+    const int widest = std::min(room.width(), lineWidth(*widget)) - bar.width();
+    area->setMinimumSize((scrolledSize(*area, widest) + bar).boundedTo(room));
   }
-  for (QPlainTextEdit* text : widget->findChildren<QPlainTextEdit*>())
-    text->setMinimumSize(textSize(*text, lineWidth(*widget)).boundedTo(room));
 }
 
 void QtWindow::center() {

@@ -8,7 +8,8 @@ namespace {
 
 // A PPD text has at most 80 bytes; only a damaged strings table has more than this in one line.
 constexpr qsizetype kLineLimit = 160;
-constexpr qsizetype kLinesLimit = 4000;
+constexpr qsizetype kLinesLimit = 1000;
+constexpr qsizetype kTextLimit = 100000;
 
 bool breaksLayout(QChar c) {
   return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
@@ -31,6 +32,8 @@ QString blankedAndCut(const std::string& text, qsizetype limit, bool keepLineBre
 QString shownLine(const std::string& text) { return blankedAndCut(text, kLineLimit, false); }
 
 QString shownLines(const std::string& text) { return blankedAndCut(text, kLinesLimit, true); }
+
+QString shownText(const std::string& text) { return blankedAndCut(text, kTextLimit, true); }
 
 QString withoutMnemonics(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
 

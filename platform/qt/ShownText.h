@@ -11,8 +11,10 @@ namespace tavrin {
 
 // For a control of one line.
 QString shownLine(const std::string& text);
-// For a text of several lines: line breaks stay.
+// For a label of several lines: line breaks stay.
 QString shownLines(const std::string& text);
+// The same for a text that scrolls.
+QString shownText(const std::string& text);
 // The same text where the toolkit would take "&" for a mnemonic.
 QString withoutMnemonics(QString text);
 

@@ -1,7 +1,8 @@
-// Plays a script and compares the replies with the ones that a person has read and kept, byte for
-// byte. Says which command answered differently and where.
+// Plays the script NAME.jsonl and compares the replies with NAME.expected.jsonl, which a person has
+// read and kept, byte for byte. Says which command answered differently and where. Standard error
+// must hold the lines of NAME.expected.err, and none where there is no such file.
 //
-//     check_replay PROGRAM STATUS SCRIPT EXPECTED ACTUAL [ARGUMENT...]
+//     check_replay PROGRAM STATUS NAME ACTUAL [ARGUMENT...]
 //
 // ACTUAL is where the replies are left when they differ.
 
@@ -26,8 +27,12 @@ std::vector<std::string> linesOf(std::istream& in) {
 
 std::vector<std::string> linesOfFile(const std::string& name) {
   std::ifstream file(name, std::ios::binary);
-  if (!file) std::cerr << "Cannot read " << name << ".\n";
   return linesOf(file);
+}
+
+std::vector<std::string> linesOfText(const QByteArray& text) {
+  std::istringstream stream(text.toStdString());
+  return linesOf(stream);
 }
 
 std::string lineAt(const std::vector<std::string>& lines, std::size_t index) {
@@ -62,14 +67,27 @@ bool sameReplies(const std::vector<std::string>& script, const std::vector<std::
   return true;
 }
 
+bool sameDiagnostics(const std::vector<std::string>& expected,
+                     const std::vector<std::string>& actual) {
+  if (expected == actual) return true;
+  std::cerr << "Standard error holds:\n";
+  for (const std::string& line : actual) std::cerr << "  " << line << '\n';
+  return false;
+}
+
+bool sameStatus(const std::string& expected, int actual) {
+  if (std::to_string(actual) == expected) return true;
+  std::cerr << "The exit status is " << actual << " instead of " << expected << ".\n";
+  return false;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 6) return 2;
-  const std::string status = argv[2], script = argv[3], expected = argv[4], actual = argv[5];
-  QStringList arguments;
-  for (int i = 6; i < argc; ++i) arguments << argv[i];
-  arguments << QString::fromStdString(script);
+  if (argc < 5) return 2;
+  const std::string status = argv[2], name = argv[3], kept = argv[4];
+  QStringList arguments(argv + 5, argv + argc);
+  arguments << QString::fromStdString(name + ".jsonl");
 
   QProcess program;
   program.start(argv[1], arguments);
@@ -77,18 +95,15 @@ int main(int argc, char** argv) {
     std::cerr << argv[1] << " did not end by itself.\n";
     return 1;
   }
-  const std::string replies = program.readAllStandardOutput().toStdString();
-  std::cerr << program.readAllStandardError().toStdString();
-
-  std::istringstream stream(replies);
-  bool good = sameReplies(linesOfFile(script), linesOfFile(expected), linesOf(stream));
-  if (!good) {
-    std::ofstream(actual, std::ios::binary) << replies;
-    std::cerr << "The replies are in " << actual << ".\n";
+  const QByteArray replies = program.readAllStandardOutput();
+  const bool replied = sameReplies(linesOfFile(name + ".jsonl"),
+                                   linesOfFile(name + ".expected.jsonl"), linesOfText(replies));
+  if (!replied) {
+    std::ofstream(kept, std::ios::binary) << replies.toStdString();
+    std::cerr << "The replies are in " << kept << ".\n";
   }
-  if (std::to_string(program.exitCode()) != status) {
-    std::cerr << "The exit status is " << program.exitCode() << " instead of " << status << ".\n";
-    good = false;
-  }
-  return good ? 0 : 1;
+  const bool said = sameDiagnostics(linesOfFile(name + ".expected.err"),
+                                    linesOfText(program.readAllStandardError()));
+  const bool ended = sameStatus(status, program.exitCode());
+  return replied && said && ended ? 0 : 1;
 }
