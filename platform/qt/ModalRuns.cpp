@@ -31,10 +31,11 @@ void ModalRuns::end(Run& run) {
 }
 
 void ModalRuns::stop() {
-  const auto run = std::find_if(runs.rbegin(), runs.rend(), [](Run* r) { return !r->over; });
-  if (run == runs.rend()) return;
-  (*run)->stopped = !quitting;
-  end(**run);
+  // An OK handler stops its run, and its window stops it once more as it closes: a run that is over
+  // stays the innermost one until it has returned, so that the runs around it go on.
+  if (runs.empty() || runs.back()->over) return;
+  runs.back()->stopped = !quitting;
+  end(*runs.back());
 }
 
 // The observer is called by the run's own loop, so that it can work the window as a user does.

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "platform/qt/WidgetProperties.h"
@@ -122,18 +123,37 @@ TEST_F(ModalRunsTest, ARunInsideARun) {
   EXPECT_EQ(order, (Strings{"ibMsgFiveWindow", "ibInstructionWindow", "back"}));
 }
 
-TEST_F(ModalRunsTest, StopsTheInnermostRunThatIsNotStopped) {
-  bool innerEnded = false;
-  bool outerUpThen = false;
+// An OK handler stops the run and closes the window, whose delegate stops once more.
+TEST_F(ModalRunsTest, StoppingTwiceStopsNoRunAround) {
+  int loopsAround = 0;
   whenUp([&](QWidget& shown) {
-    if (shown.objectName() == "ibMsgTwoWindow") return toolkit.stopModal();
-    innerEnded = show(window("ibMsgTwoWindow"));
-    outerUpThen = shown.isVisible();
-    toolkit.stopModal();
+    if (shown.objectName() == "ibMsgTwoWindow") {
+      toolkit.stopModal();
+      window("ibMsgTwoWindow").close();
+      return;
+    }
+    EXPECT_TRUE(show(window("ibMsgTwoWindow")));
+    // Only a run that goes on handles this.
+    QTimer::singleShot(0, &shown, [&] {
+      ++loopsAround;
+      toolkit.stopModal();
+    });
   });
   EXPECT_TRUE(show(window("ibMsgOneWindow")));
-  EXPECT_TRUE(innerEnded);
-  EXPECT_TRUE(outerUpThen);
+  EXPECT_EQ(loopsAround, 1);
+}
+
+// Two windows that take turns must not become each other's parent.
+TEST_F(ModalRunsTest, AClosedWindowIsNobodysParent) {
+  whenUp([](QWidget& shown) { shown.close(); });
+  for (const char* name : {"ibMsgFiveWindow", "ibInstructionWindow", "ibMsgFiveWindow"}) {
+    EXPECT_TRUE(show(window(name)));
+    QWidget* closed = nullptr;
+    for (QWidget* top : QApplication::topLevelWidgets())
+      if (top->objectName() == QLatin1String(name)) closed = top;
+    ASSERT_NE(closed, nullptr);
+    EXPECT_EQ(closed->windowHandle()->transientParent(), nullptr);
+  }
 }
 
 TEST_F(ModalRunsTest, AWindowWithoutADelegateDoesNotRunForEver) {

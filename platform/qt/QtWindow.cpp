@@ -103,7 +103,7 @@ void QtWindow::setTitle(const std::string& title) {
 
 QWidget* QtWindow::coveredWindow() const {
   QWidget* active = QApplication::activeWindow();
-  if (active && active != widget) return active;
+  if (active && active != widget && active->isVisible()) return active;
   for (QWidget* window : QApplication::topLevelWidgets())
     if (window != widget && window->isVisible() && window->windowType() != Qt::Popup) return window;
   return nullptr;
@@ -169,7 +169,12 @@ void QtWindow::close() {
   const auto alive = keepAlive();
   isClosing = true;
   if (const auto body = closing) body();
-  if (widget) widget->hide();
+  if (widget) {
+    widget->hide();
+    // A closed window covers nothing; were it remembered, two windows that take turns would each
+    // become the other's parent.
+    widget->windowHandle()->setTransientParent(nullptr);
+  }
   isClosing = false;
   up = false;
   if (const auto body = closed) body();
