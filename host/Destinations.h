@@ -10,8 +10,8 @@
 #include "ppd/CupsHandles.h"
 
 // What the print server tells about printers. Every call makes a connection of its own and may be
-// made on any thread. One comes back within about 5 seconds from a server that says nothing (the
-// reason then says so) and, while it waits for an answer, within a second once it is cancelled.
+// made on any thread. One comes back within about 6 seconds from a server that says nothing (the
+// reason then says so), and sooner, within about 3 seconds, once it is cancelled.
 
 namespace tavrin {
 

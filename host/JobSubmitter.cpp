@@ -26,6 +26,7 @@ class Delivery {
   Result<bool> send(PrintServer& server, const ProgressCallback& progress);
 
  private:
+  bool startDocument(PrintServer& server);
   Result<bool> sendBytes(PrintServer& server, const ProgressCallback& progress);
   Failure failure(const PrintServer& server) const;
 
@@ -41,11 +42,30 @@ Failure Delivery::failure(const PrintServer& server) const {
                         request.printer + "\"");
 }
 
+// libcups' own call looks for the printer first, in a way that waits for minutes for a silent
+// server.
 Result<int> Delivery::create(PrintServer& server) {
-  jobId = cupsCreateJob(server.http(), request.printer.c_str(), jobTitle(request).c_str(),
-                        options.count(), options.data());
+  IppPtr creation = printerRequest(IPP_OP_CREATE_JOB, request.printer);
+  ippAddString(creation.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+               jobTitle(request).c_str());
+  for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION})
+    cupsEncodeOptions2(creation.get(), options.count(), options.data(), group);
+  const IppPtr answer = ask(server.http(), std::move(creation));
+  jobId = answer ? integerIn(*answer, "job-id") : 0;
   if (jobId == 0) return failure(server);
   return jobId;
+}
+
+bool Delivery::startDocument(PrintServer& server) {
+  const IppPtr start = printerRequest(IPP_OP_SEND_DOCUMENT, request.printer);
+  ippAddInteger(start.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+  ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+               document.name().c_str());
+  ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+               document.format().c_str());
+  ippAddBoolean(start.get(), IPP_TAG_OPERATION, "last-document", 1);
+  return cupsSendRequest(server.http(), start.get(), "/", CUPS_LENGTH_VARIABLE) ==
+         HTTP_STATUS_CONTINUE;
 }
 
 Result<bool> Delivery::sendBytes(PrintServer& server, const ProgressCallback& progress) {
@@ -64,15 +84,12 @@ Result<bool> Delivery::sendBytes(PrintServer& server, const ProgressCallback& pr
 }
 
 Result<bool> Delivery::send(PrintServer& server, const ProgressCallback& progress) {
-  const http_status_t started =
-      cupsStartDocument(server.http(), request.printer.c_str(), jobId, document.name().c_str(),
-                        document.format().c_str(), 1);
-  if (started != HTTP_STATUS_CONTINUE) return failure(server);
+  if (!startDocument(server)) return failure(server);
   auto sent = sendBytes(server, progress);
   if (!sent || !*sent) return sent;
   server.refresh();
-  if (cupsFinishDocument(server.http(), request.printer.c_str()) > IPP_STATUS_OK_EVENTS_COMPLETE)
-    return failure(server);
+  const IppPtr answer(cupsGetResponse(server.http(), "/"));
+  if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) return failure(server);
   return true;
 }
 
@@ -80,9 +97,7 @@ Result<bool> Delivery::send(PrintServer& server, const ProgressCallback& progres
 // Empty, or what is left to do.
 std::string takeBack(const JobRequest& request, int jobId) {
   const auto server = PrintServer::connect(neverCancelled(), kShortPatience);
-  if (server && cupsCancelJob2(server->http(), request.printer.c_str(), jobId, 0) <=
-                    IPP_STATUS_OK_EVENTS_COMPLETE)
-    return {};
+  if (server && ask(server->http(), jobRequest(IPP_OP_CANCEL_JOB, jobId))) return {};
   const std::string name = request.printer + "-" + std::to_string(jobId);
   return " The unfinished job " + name + " is still in the queue; remove it with: cancel " + name;
 }
@@ -122,6 +137,8 @@ Result<Submission> submitJob(const JobRequest& request, const OptionList& option
   submission.cancelled = cancel;
   if (submission.cancelled) return submission;
   const auto jobId = delivery.create(*server);
+  submission.cancelled = !jobId && cancel;
+  if (submission.cancelled) return submission;
   if (!jobId) return Failure{jobId.reason()};
   submission.jobId = *jobId;
   const auto sent = delivery.send(*server, progress);

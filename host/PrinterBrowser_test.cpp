@@ -3,8 +3,8 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 #include <sys/stat.h>
+#include <thread>
 
 #include <QCoreApplication>
 #include <QEventLoop>

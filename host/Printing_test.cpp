@@ -1,5 +1,6 @@
-#include <algorithm>
+#include <future>
 
+#include <QByteArray>
 #include <gtest/gtest.h>
 
 #include "host/Destinations.h"
@@ -34,7 +35,6 @@ class PrintingTest : public testing::Test {
     job.document = place.write("card.pdf", text);
     return job;
   }
-  static std::string activity(const PrinterState& state) { return stateText(state); }
   // The job's state as the server has it.
   static int jobState(int jobId) {
     const auto server = PrintServer::connect(neverCancelled(), PrintServer::Seconds(5));
@@ -95,10 +95,9 @@ TEST_F(PrintingTest, AMirrorOptionIsSentOnceHoweverItWasSpelled) {
 
 TEST_F(PrintingTest, NamesAnOptionThatDidNotArrive) {
   cups.addQueue(kQueue, plainPPD());
-  const auto submission =
-      submitJob(request(), {{"MediaType", "IronOn"}, {"job-priority", "urgent"}});
+  const auto submission = submitJob(request(), {{"MediaType", "IronOn"}, {"job-state", "9"}});
   ASSERT_TRUE(submission) << submission.reason();
-  EXPECT_EQ(submission->missingOptions, std::vector<std::string>{"job-priority=urgent"});
+  EXPECT_EQ(submission->missingOptions, std::vector<std::string>{"job-state=9"});
 }
 
 TEST_F(PrintingTest, AnUnknownPrinterIsNamed) {
@@ -153,7 +152,8 @@ TEST_F(PrintingTest, ListsQueuesInstancesAndStates) {
   cups.run({"lpoptions", "-p", "tav/draft", "-o", "PrintQuality=Draft"});
   cups.run({"lpadmin", "-d", "other"});
   cups.run({"cupsreject", "other"});
-  const auto printers = readPrinters();
+  // On a thread of its own, which knows this test's files.
+  const auto printers = std::async(std::launch::async, [] { return readPrinters(); }).get();
   ASSERT_TRUE(printers) << printers.reason();
   std::vector<std::string> names;
   for (const Printer& printer : *printers) names.push_back(destinationName(printer));
@@ -169,6 +169,55 @@ TEST_F(PrintingTest, NoPrintersAreNoFailure) {
   const auto printers = readPrinters();
   ASSERT_TRUE(printers) << printers.reason();
   EXPECT_TRUE(printers->empty());
+}
+
+// What the sample printer's back end gets of the sample document.
+class SamplePrintingTest : public PrintingTest {
+ protected:
+  PrivateCupsd::CapturedJob printed(const std::string& mirror) {
+    cups.addQueue(kQueue, fs::path(SAMPLE_PRINTERS) / "tavrin-p520.ppd");
+    const auto ppd = readPrinterPPD(kQueue);
+    EXPECT_TRUE(ppd) << ppd.reason();
+    ppdMarkDefaults(ppd->get());
+    EXPECT_TRUE(markChoice(ppd->get(), "Mirror", mirror));
+    JobRequest job = request();
+    job.document = SAMPLE_DOCUMENT;
+    const auto submission = submitJob(job, jobOptions(job, ppd->get()));
+    EXPECT_TRUE(submission) << submission.reason();
+    EXPECT_TRUE(submission->missingOptions.empty());
+    return cups.waitForJob(submission->jobId);
+  }
+  // How the first page of a PDF puts its content on the paper: the drawing commands of the stream
+  // that the page names.
+  static std::string pageContents(const std::string& pdf) {
+    const std::size_t name = pdf.find("/Contents ");
+    const std::string object = pdf.substr(name + 10, pdf.find(' ', name + 10) - name - 10);
+    const std::size_t stream = pdf.find("stream\n", pdf.find("\n" + object + " 0 obj")) + 7;
+    const std::string packed = pdf.substr(stream, pdf.find("endstream", stream) - stream);
+    QByteArray bytes(4, '\0');  // qUncompress takes a guess of the size in front
+    return qUncompress(bytes + QByteArray::fromStdString(packed)).toStdString();
+  }
+  static int count(const std::string& text, const std::string& what) {
+    int found = 0;
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; ++at) ++found;
+    return found;
+  }
+};
+
+// docs/decisions tell who turns the page around, and why nobody else does.
+TEST_F(SamplePrintingTest, AMirroredJobIsMirroredOnceInItsData) {
+  const auto job = printed("True");
+  EXPECT_EQ(job.named("mirror"), 1);
+  EXPECT_TRUE(job.has("Mirror"));
+  EXPECT_EQ(count(pageContents(job.data), "-1 0 0 1 595 0 cm"), 1) << pageContents(job.data);
+  EXPECT_EQ(count(pageContents(job.data), "-1 "), 1) << pageContents(job.data);
+}
+
+TEST_F(SamplePrintingTest, AnotherJobIsNotMirrored) {
+  const auto job = printed("False");
+  EXPECT_TRUE(job.has("noMirror"));
+  EXPECT_EQ(count(pageContents(job.data), "-1 0 0"), 0) << pageContents(job.data);
+  EXPECT_GE(count(pageContents(job.data), " Do"), 1);
 }
 
 TEST(PrinterStateText, PutsReasonsIntoWords) {

@@ -16,6 +16,8 @@
 #include <thread>
 #include <unistd.h>
 
+#include <cups/cups.h>
+
 #include "host/FileDescriptor.h"
 
 namespace tavrin {
@@ -101,12 +103,16 @@ PrivateCupsd::PrivateCupsd() {
   writeConfiguration();
   start();
   setenv("CUPS_SERVER", (folder() / "run/cups.sock").c_str(), 1);
+  // Else root's options for destinations would be the whole machine's.
+  setenv("CUPS_SERVERROOT", (folder() / "etc").c_str(), 1);
   setenv("HOME", (folder() / "home").c_str(), 1);
+  cupsSetServer(nullptr);  // libcups looks at the environment again
 }
 
 PrivateCupsd::~PrivateCupsd() {
   stop();
   unsetenv("CUPS_SERVER");
+  unsetenv("CUPS_SERVERROOT");
 }
 
 void PrivateCupsd::writeConfiguration() const {

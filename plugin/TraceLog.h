@@ -36,10 +36,8 @@ constexpr bool isCharArray =
 template <class T>
 constexpr Kind kindOf() {
   using D = std::decay_t<T>;
-  if constexpr (isCharArray<T>) {
-    return Kind::object;
-  } else if constexpr (std::is_same_v<D, OptString> || std::is_same_v<D, std::string> ||
-                       std::is_same_v<D, std::string_view>) {
+  if constexpr (isCharArray<T> || std::is_same_v<D, OptString> || std::is_same_v<D, std::string> ||
+                std::is_same_v<D, std::string_view>) {
     return Kind::object;
   } else if constexpr (std::is_same_v<D, const char*> || std::is_same_v<D, char*>) {
     return Kind::text;

@@ -1,12 +1,8 @@
 #include "replay/FieldReader.h"
 
-namespace tavrin {
+#include "replay/Quoted.h"
 
-std::string quoted(const std::string& text) {
-  constexpr std::size_t kLongest = 200;
-  if (text.size() <= kLongest) return '"' + text + '"';
-  return '"' + text.substr(0, kLongest) + "...\"";
-}
+namespace tavrin {
 
 void FieldReader::mustBe(const std::string& form) const {
   throw SyntaxError("The field " + quoted(name) + " must be " + form + ".");

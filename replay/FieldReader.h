@@ -15,9 +15,6 @@ class SyntaxError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// A text in quotation marks for a sentence; a long one is cut.
-std::string quoted(const std::string& text);
-
 // One field of a line, read in the form that its place asks for. Every function throws a
 // SyntaxError that names the field when it has another form.
 class FieldReader {

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "replay/FieldReader.h"
+#include "replay/Quoted.h"
 
 namespace tavrin {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <iostream>
 
+#include "replay/Quoted.h"
+
 namespace tavrin {
 
 ReplayHost::ReplayHost(const std::string& id, EventLog& log, PPDPtr printerPPD)
@@ -14,8 +16,8 @@ ReplayHost::ReplayHost(const std::string& id, EventLog& log, PPDPtr printerPPD)
 
 void ReplayHost::mark(const std::string& key, const std::string& choice) {
   if (markChoice(ppd.get(), key, choice)) return;
-  std::cerr << "tavrin-replay: The PPD has no choice \"" << choice << "\" of \"" << key
-            << "\"; nothing is marked.\n";
+  std::cerr << "tavrin-replay: The PPD has no choice " << quoted(choice) << " of " << quoted(key)
+            << "; nothing is marked.\n";
 }
 
 // libcups has no call for this: a mark is a flag of the choice and an entry in the PPD's list.

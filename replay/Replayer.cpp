@@ -7,8 +7,8 @@
 #include <QApplication>
 
 #include "platform/Bundle.h"
-#include "replay/FieldReader.h"
 #include "replay/PanelCommands.h"
+#include "replay/Quoted.h"
 
 namespace tavrin {
 namespace {
@@ -34,12 +34,21 @@ Failure noPanel(const OptString& id) {
 Json Replayer::play(const std::string& line) {
   const auto command = parseCommand(line);
   if (!command) return reply(Failure{command.reason()}, Json::array());
-  const Answer answer = carryOut(*command);
+  const Answer answer = carryOutWithAnswers(*command);
   // What the command left to the event loop happens before the next one, as it does before a
   // person's next click.
   QCoreApplication::processEvents();
   takePictures();
   return reply(answer, log.take());
+}
+
+// What was wrong with the answers to windows is known only afterwards.
+Replayer::Answer Replayer::carryOutWithAnswers(const ReplayCommand& command) {
+  windows.expect(command.answers);
+  const Answer answer = carryOut(command);
+  const std::string problems = windows.problems();
+  if (!answer || problems.empty()) return answer;
+  return Failure{problems};
 }
 
 Replayer::Answer Replayer::carryOut(const ReplayCommand& command) {
@@ -93,11 +102,7 @@ Replayer::Answer Replayer::close(const ReplayCommand& command) {
 Replayer::Answer Replayer::onPanel(const ReplayCommand& command) {
   const auto found = find(command.panel);
   if (found == panels.end()) return noPanel(command.panel);
-  windows.expect(command.answers);
-  const Answer answer = carryOutOnPanel(**found, command);
-  const std::string problems = windows.problems();
-  if (!answer || problems.empty()) return answer;
-  return Failure{problems};
+  return carryOutOnPanel(**found, command);
 }
 
 Replayer::Panels::iterator Replayer::find(const OptString& id) {

@@ -31,6 +31,7 @@ class Replayer {
   // What a command answers besides its events.
   using Answer = Result<Json>;
 
+  Answer carryOutWithAnswers(const ReplayCommand& command);
   Answer carryOut(const ReplayCommand& command);
   Answer initWithBundle(const ReplayCommand& command);
   Answer panelsForType(const ReplayCommand& command);

@@ -5,7 +5,7 @@
 #include <QSlider>
 #include <QWidget>
 
-#include "replay/FieldReader.h"
+#include "replay/Quoted.h"
 
 namespace tavrin {
 namespace {
@@ -19,9 +19,11 @@ std::string hindrance(const QWidget& widget) {
 
 Failure outOfRange(const std::string& control, const std::string& what, long long number,
                    long long first, long long last) {
-  return Failure{"The control " + quoted(control) + " has no " + what + " " +
-                 std::to_string(number) + "; they go from " + std::to_string(first) + " to " +
-                 std::to_string(last) + "."};
+  const std::string reason =
+      "The control " + quoted(control) + " has no " + what + " " + std::to_string(number) + "; ";
+  if (last < first) return Failure{reason + "it is empty."};
+  return Failure{reason + "they go from " + std::to_string(first) + " to " + std::to_string(last) +
+                 "."};
 }
 
 }  // namespace

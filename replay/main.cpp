@@ -68,6 +68,7 @@ int play(const Options& options, PDEPlugIn& plugIn, QtToolkit& toolkit, Screensh
     Replayer replayer(plugIn, log, windows, pictures);
     status = playScript(options.script.empty() ? std::cin : file, replayer, windows);
   }
+  toolkit.onModalWindow({});
   HelpViewer::install(nullptr);
   return pictures.failure().empty() ? status : giveUp(pictures.failure());
 }
@@ -83,10 +84,8 @@ Result<Screenshots> picturesFor(const Options& options) {
   return options.screenshots.empty() ? Screenshots() : Screenshots::inFolder(options.screenshots);
 }
 
-int run(const Options& options) {
+int run(const Options& options, QtToolkit& toolkit) {
   setRootFolder(options.root);
-  QtToolkit toolkit;
-  Toolkit::install(&toolkit);
   auto plugIn = plugInFor(options);
   if (!plugIn) return giveUp(plugIn.reason());
   auto pictures = picturesFor(options);
@@ -112,5 +111,9 @@ int main(int argc, char** argv) {
     std::cout << helpText();
     return everythingOk;
   }
-  return run(*options);
+  QtToolkit toolkit;
+  Toolkit::install(&toolkit);
+  const int status = run(*options, toolkit);
+  Toolkit::install(nullptr);
+  return status;
 }

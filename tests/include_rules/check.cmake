@@ -27,7 +27,7 @@ set(MAY_HAVE_plist "^platform/PropertyList\\.cpp$")
 set(LOOK_nlohmann "<nlohmann/")
 set(MAY_HAVE_nlohmann "^(host|replay|tests)/")
 set(LOOK_gtest "<(gtest|gmock)/")
-set(MAY_HAVE_gtest "^tests/|(_test\\.cpp|Test\\.h)$")
+set(MAY_HAVE_gtest "^tests/|/testing/|(_test\\.cpp|Test\\.h)$")
 
 function(complain file line)
   message(NOTICE "${file}: must not have ${line}")

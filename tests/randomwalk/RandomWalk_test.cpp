@@ -9,7 +9,8 @@
 
 // Random walks through random printers of the family. The suite takes a few seconds of them;
 //   TAVRIN_WALKS=10000 TAVRIN_WALK_STEPS=100 TAVRIN_WALK_SEED=1 randomwalk_test
-// takes more. A walk that fails is shrunk and left as a replay below "randomwalk-failures".
+// takes more; TAVRIN_WALK_REPLAYS=folder writes each walk as a replay. A walk that fails is shrunk
+// and left as a replay below "randomwalk-failures".
 
 namespace tavrin::walk {
 namespace {
@@ -45,10 +46,13 @@ TEST(RandomWalk, WhateverHappensThePanelKeepsItsPromises) {
   const int walks = number("TAVRIN_WALKS", 400);
   const int steps = number("TAVRIN_WALK_STEPS", 80);
   const int first = number("TAVRIN_WALK_SEED", 1);
+  const char* const replays = std::getenv("TAVRIN_WALK_REPLAYS");
   Figures figures;
   for (int seed = first; seed < first + walks; ++seed) {
     const Plan plan = randomPlan(static_cast<unsigned>(seed), steps);
     const std::string fault = Walk(plan, figures).fault();
+    if (replays != nullptr)
+      writeReplay(plan, std::filesystem::path(replays) / std::to_string(seed));
     if (fault.empty()) continue;
     const std::string folder = "randomwalk-failures/seed-" + std::to_string(seed);
     FAIL() << "seed " << seed << ": " << fault

@@ -43,15 +43,22 @@ Plan shrunk(const Plan& failing) {
   return plan;
 }
 
-std::string writeReplay(const Plan& failing, const std::filesystem::path& folder) {
+std::string writeReplay(const Plan& plan, const std::filesystem::path& folder) {
   Figures ignored;
-  const Walk walk(failing, ignored);
+  const Walk walk(plan, ignored);
   std::filesystem::create_directories(folder);
-  for (std::size_t i = 0; i < failing.printers.size(); ++i) {
-    std::ofstream(folder / ("printer-" + std::to_string(i + 1) + ".ppd"))
-        << failing.printers[i].ppd;
+  std::ofstream script(folder / "script.jsonl");
+  std::ofstream tickets(folder / "tickets.jsonl");
+  script << walk.script();
+  const auto atTheEnd = walk.tickets();
+  for (std::size_t i = 0; i < plan.printers.size(); ++i) {
+    const std::string number = std::to_string(i + 1);
+    std::ofstream(folder / ("printer-" + number + ".ppd")) << plan.printers[i].ppd;
+    script << savingLine(static_cast<int>(i));
+    for (const auto& [key, ticket] : atTheEnd[i]) {
+      tickets << ticketLine(static_cast<int>(i), key, ticket);
+    }
   }
-  std::ofstream(folder / "script.jsonl") << walk.script();
   std::filesystem::copy(
       walk.rootFolder(), folder / "root",
       std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);

@@ -147,6 +147,13 @@ std::string openingLines(int panel, bool markDefaults) {
          line("click", panel, ", \"control\": \"ibDisclosure\"");
 }
 
+std::string savingLine(int panel) { return line("saveValuesAndReturnError:", panel, ""); }
+
+std::string ticketLine(int panel, const std::string& key, const OptString& ticket) {
+  return "{\"panel\": \"" + std::to_string(panel + 1) + "\", \"key\": " + quoted(key) +
+         ", \"choice\": " + orNull(ticket) + "}\n";
+}
+
 std::string replayLines(const Step& step, const std::vector<Answer>& used) {
   const std::string control = ", \"control\": " + quoted(step.name);
   const std::string key = ", \"key\": " + quoted(step.name);

@@ -123,6 +123,12 @@ void Walk::fail(const std::string& sentence) {
   ended = true;
 }
 
+std::vector<Tickets> Walk::tickets() const {
+  std::vector<Tickets> all;
+  for (const auto& each : panels) all.push_back(ticketsOf(*each));
+  return all;
+}
+
 Outcome Walk::current() { return {ticketsOf(*panel), FlagState::now(), notifications}; }
 
 // --- A step ---

@@ -41,6 +41,8 @@ class Walk {
   const std::string& fault() const { return firstFault; }
   // The walk as a replay script, up to where it stopped.
   const std::string& script() const { return lines; }
+  // The tickets of each panel at the end.
+  std::vector<std::map<std::string, OptString>> tickets() const;
   // Where "/Library/Printers/..." was; as long as the walk lives.
   std::filesystem::path rootFolder() const { return root.file("/"); }
 
@@ -87,8 +89,9 @@ class Walk {
 // The fewest steps of a failing plan that still fail.
 Plan shrunk(const Plan& failing);
 
-// Writes the plan of a failing walk as a replay: script.jsonl, the PPDs, and the root folder with
-// the cartridge preferences. Gives the fault and the script.
-std::string writeReplay(const Plan& failing, const std::filesystem::path& folder);
+// Writes the walk of a plan as a replay: script.jsonl, the PPDs, the root folder with the cartridge
+// preferences, and tickets.jsonl with what each panel hands over at the end. Gives the fault and
+// the script.
+std::string writeReplay(const Plan& plan, const std::filesystem::path& folder);
 
 }  // namespace tavrin::walk

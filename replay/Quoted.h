@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace tavrin {
+
+// A text in quotation marks, for a sentence; a long one is cut.
+std::string quoted(const std::string& text);
+
+}  // namespace tavrin
