@@ -33,7 +33,6 @@ GeneralArea::GeneralArea(QWidget* parent)
       somePages(makeChild<QRadioButton>(tr("&Range:"), this)),
       rangeEdit(makeChild<QLineEdit>(this)),
       rangeProblem(makeTextLabel(this)) {
-  form->setContentsMargins(0, 0, 0, 0);
   addRow(*form, tr("Prin&ter:"), *printerPopUp);
   addCopiesRow();
   addPagesRow();

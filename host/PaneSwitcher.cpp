@@ -27,6 +27,7 @@ PaneSwitcher::PaneSwitcher(QWidget* parent)
     : QWidget(parent), popUp(makeChild<QComboBox>(this)), column(makeChild<QVBoxLayout>(this)) {
   popUp->setObjectName("panes");
   popUp->setAccessibleName(tr("Settings to show"));
+  popUp->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   auto* line = makeChild<QHBoxLayout>();
   line->addWidget(makeLine(this), 1);
   line->addWidget(popUp);

@@ -93,16 +93,22 @@ void PrintDialog::connectParts() {
   connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
 }
 
+void PrintDialog::setVisible(bool visible) {
+  // Left to itself, a dialog comes up with two thirds of the screen at most.
+  if (visible) fit();
+  QDialog::setVisible(visible);
+}
+
 bool PrintDialog::event(QEvent* event) {
   const bool handled = QDialog::event(event);
-  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) fit();
+  if (event->type() == QEvent::LayoutRequest) fit();
   return handled;
 }
 
 // Follows the contents as far as the screen goes; what the person has added to the window's height
 // stays.
 void PrintDialog::fit() {
-  if (!isVisible()) return;
+  ensurePolished();
   const QSize room = screen()->availableSize() - kWindowFrame;
   const int width = std::max(layout()->totalSizeHint().width(), this->width());
   const int height = layout()->totalHeightForWidth(width);
@@ -110,6 +116,18 @@ void PrintDialog::fit() {
   const int bar = height > room.height() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
   wantedHeight = std::min(height, room.height());
   resize(QSize(width + bar, height + extra).boundedTo(room));
+  if (isVisible()) stayOnScreen();
+}
+
+// A window that grows does so downwards and to the right, wherever it stands.
+void PrintDialog::stayOnScreen() {
+  const QRect screenArea = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  const QPoint beyond(std::max(frame.right() - screenArea.right(), 0),
+                      std::max(frame.bottom() - screenArea.bottom(), 0));
+  if (!beyond.isNull())
+    move(std::max(frame.left() - beyond.x(), screenArea.left()),
+         std::max(frame.top() - beyond.y(), screenArea.top()));
 }
 
 void PrintDialog::showHelp() {

@@ -59,6 +59,7 @@ class PrintDialog : public QDialog {
   PrinterSession* session() const { return current.get(); }
 
   void reject() override;
+  void setVisible(bool visible) override;
 
  signals:
   // The dialog has another printer's settings now.
@@ -73,6 +74,7 @@ class PrintDialog : public QDialog {
   void fillIn();
   void connectParts();
   void fit();
+  void stayOnScreen();
   void showHelp();
   void showConflicts();
   std::vector<std::pair<QString, std::vector<std::pair<QString, QString>>>> allLines() const;

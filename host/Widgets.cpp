@@ -58,6 +58,7 @@ QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control) {
 
 QFormLayout* makeForm(QWidget* parent) {
   auto* form = makeChild<QFormLayout>(parent);
+  form->setContentsMargins(0, 0, 0, 0);
   form->setLabelAlignment(Qt::AlignRight);
   form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

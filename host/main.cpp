@@ -66,7 +66,6 @@ int show(const CommandLine& line, SharedPPD ppd, int& argc, char** argv) {
   {
     PrintDialog dialog(line.job);
     helpViewer.setComplaint([&](const std::string& sentence) { dialog.say(sentence); });
-    dialog.show();
     if (ppd)
       dialog.usePrinterWithoutQueue(std::move(ppd), line.output);
     else
