@@ -60,8 +60,7 @@ TEST(Program, NamesADocumentThatCannotBePrinted) {
 
 TEST(Program, NamesABrokenPrinterDescription) {
   const TemporaryFolder place;
-  const std::string ppd =
-      place.write("broken.ppd", "*PPD-Adobe: \"4.3\"\nno keyword\n").string();
+  const std::string ppd = place.write("broken.ppd", "*PPD-Adobe: \"4.3\"\nno keyword\n").string();
   expectRefusal("--ppd " + ppd + " " SAMPLE_DOCUMENT, 3, "broken.ppd");
   expectRefusal("--ppd " + (place.path() / "gone.ppd").string() + " " SAMPLE_DOCUMENT, 3,
                 "gone.ppd");
