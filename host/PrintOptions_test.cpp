@@ -4,10 +4,6 @@
 
 #include "tests/fakes/FakePPD.h"
 
-// libcups forgets the names of a PPD's two-sided choices when it closes it; nothing of ours.
-extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions() { return "leak:_ppdCacheCreateWithPPD\n"; }
-
 namespace tavrin {
 namespace {
 
