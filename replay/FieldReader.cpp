@@ -28,7 +28,10 @@ bool FieldReader::truth() const {
 
 long long FieldReader::wholeNumber() const {
   if (!value.is_number_integer()) mustBe("a whole number");
-  return value.get<long long>();
+  const auto read = value.get<long long>();
+  // A number too large would come out as another one, below zero.
+  if (value.is_number_unsigned() && read < 0) mustBe("a smaller number");
+  return read;
 }
 
 MarkedChoice FieldReader::markedChoice() const {

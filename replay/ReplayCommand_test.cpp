@@ -104,6 +104,12 @@ TEST(ReplayCommand, NamesAFieldOfAnotherForm) {
   for (const auto& [line, field] : lines) EXPECT_TRUE(mentions(reasonFor(line), field)) << line;
 }
 
+TEST(ReplayCommand, RefusesANumberThatWouldComeOutAsAnother) {
+  EXPECT_TRUE(mentions(reasonFor(R"({"do":"choose","control":"x","index":18446744073709551615})"),
+                       "\"index\""));
+  EXPECT_EQ(reasonFor(R"({"do":"choose","control":"x","index":9223372036854775807})"), "");
+}
+
 TEST(ReplayCommand, RefusesATextThatACStringWouldCut) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"unmark","key":"Mirror\u0000x"})"), "\"key\""));
 }
