@@ -45,7 +45,7 @@ TEST(Program, TellsHowItIsUsed) {
 }
 
 TEST(Program, RefusesWrongUsage) {
-  expectRefusal("--frobnicate", 2, "frobnicate");
+  expectRefusal("--frobnicate", 2, "'frobnicate'. See tavrin-print --help.");
   expectRefusal("-n none a.pdf", 2, "none");
   expectRefusal("a.pdf b.pdf", 2, "one document");
 }
