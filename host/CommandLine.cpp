@@ -83,8 +83,7 @@ Result<CommandLine> parseCommandLine(const QStringList& arguments) {
   QCommandLineParser parser;
   addAll(parser);
   // The parser expects the program's name in front.
-  if (!parser.parse(QStringList{"tavrin-print"} + arguments))
-    return failure(parser.errorText());
+  if (!parser.parse(QStringList{"tavrin-print"} + arguments)) return failure(parser.errorText());
   if (const QString problem = disagreement(parser); !problem.isEmpty()) return failure(problem);
   CommandLine line = filledIn(parser);
   if (parser.isSet(kVersion)) line.wish = CommandLine::Wish::version;
