@@ -20,6 +20,13 @@ struct Shape {
   const char* suffix;
   Qt::LayoutDirection direction = Qt::LeftToRight;
   bool narrow = false;  // as narrow as it gets
+
+  friend void PrintTo(const Shape& shape, std::ostream* out) {
+    *out << (shape.secondTray ? "two trays" : "one tray") << (shape.expanded ? ", expanded" : "")
+         << ", " << shape.points << " points" << shape.suffix
+         << (shape.direction == Qt::RightToLeft ? ", right to left" : "")
+         << (shape.narrow ? ", narrow" : "");
+  }
 };
 
 class PanelShapes : public testing::TestWithParam<Shape> {
