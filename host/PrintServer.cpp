@@ -16,13 +16,11 @@ constexpr double kWatchInterval = 0.25;
 
 struct PrintServer::Watch {
   const CancelFlag& cancel;
-  Seconds patience;
+  Patience patience;
   Clock::time_point deadline = {};
   bool gaveUp = false;
 
-  void restart() {
-    deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(patience);
-  }
+  void restart() { deadline = Clock::now() + patience; }
 
   // libcups asks this whenever nothing has come for a while; 0 makes it give up.
   static int keepWaiting(http_t*, void* data) {
@@ -42,12 +40,11 @@ PrintServer& PrintServer::operator=(PrintServer&& other) noexcept {
   return *this;
 }
 
-Result<PrintServer> PrintServer::connect(const CancelFlag& cancel, Seconds patience) {
+Result<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience patience) {
   PrintServer server(std::unique_ptr<Watch>(new Watch{cancel, patience}));
   server.watch->restart();
-  const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(patience).count();
   server.connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                                       cupsEncryption(), 1, static_cast<int>(milliseconds),
+                                       cupsEncryption(), 1, static_cast<int>(patience.count()),
                                        nullptr));
   if (!server.connection)
     return Failure{"The print server at " + std::string(cupsServer()) +

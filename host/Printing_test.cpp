@@ -37,7 +37,7 @@ class PrintingTest : public testing::Test {
   }
   // The job's state as the server has it.
   static int jobState(int jobId) {
-    const auto server = PrintServer::connect(neverCancelled(), PrintServer::Seconds(5));
+    const auto server = PrintServer::connect(neverCancelled(), std::chrono::seconds(5));
     const IppPtr job = ask(server->http(), jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, jobId));
     return job ? integerIn(*job, "job-state") : 0;
   }
