@@ -12,6 +12,14 @@ using Clock = std::chrono::steady_clock;
 // How often a waiting request looks whether it should give up.
 constexpr double kWatchInterval = 0.25;
 
+const char* noPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
+
+bool wantsPassword() {
+  return cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHORIZED ||
+         cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHENTICATED ||
+         cupsLastError() == IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED;
+}
+
 }  // namespace
 
 struct PrintServer::Watch {
@@ -49,6 +57,8 @@ Result<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience pati
   if (!server.connection)
     return Failure{"The print server at " + std::string(cupsServer()) +
                    " cannot be reached. Check that it runs."};
+  // libcups would ask for it in the terminal, where nobody looks. Holds for the calling thread.
+  cupsSetPasswordCB2(noPassword, nullptr);
   httpSetTimeout(server.http(), kWatchInterval, Watch::keepWaiting, server.watch.get());
   return server;
 }
@@ -62,6 +72,9 @@ Failure PrintServer::failure(const std::string& what) const {
   if (ranOut())
     return {what + ": the print server at " + cupsServer() +
             " does not answer. Check that it runs, then try again."};
+  if (wantsPassword())
+    return {what + ": the print server does not allow it, or wants a password. Ask whoever looks "
+                   "after the printers, or print with lp, which can ask for the password."};
   std::string reason = cupsLastErrorString();
   while (reason.ends_with('.')) reason.pop_back();
   return {what + ": " + reason + "."};

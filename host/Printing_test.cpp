@@ -115,6 +115,14 @@ TEST_F(PrintingTest, AnUnknownPrinterIsNamed) {
             "exist.");
 }
 
+TEST_F(PrintingTest, AUserWhoMayNotPrintIsToldSo) {
+  cups.addQueue(kQueue, plainPPD());
+  cups.run({"lpadmin", "-p", kQueue, "-u", "allow:nobody-else"});
+  const auto submission = submitJob(request(), {});
+  ASSERT_FALSE(submission);
+  EXPECT_NE(submission.reason().find("the print server does not allow it"), std::string::npos);
+}
+
 TEST_F(PrintingTest, AnEmptyDocumentMakesNoJob) {
   cups.addQueue(kQueue, plainPPD());
   const auto submission = submitJob(request(""), {});
