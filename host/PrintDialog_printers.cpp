@@ -184,10 +184,15 @@ OptionList PrintDialog::startOptions() const {
 
 std::vector<std::string> PrintDialog::markPrinter() {
   const OptionList options = startOptions();
-  const int pages = integerValue(optionValue(options, kPagesPerSheetOption));
-  layoutPane->suggestPagesPerSheet(std::max(pages, 1));
+  const OptString pages = optionValue(options, kPagesPerSheetOption);
+  const bool laidOut = layoutPane->suggestPagesPerSheet(pages ? integerValue(pages) : 1);
   current->setPagesPerSheet(layoutPane->pagesPerSheet());
-  return current->markAnew(options);
+  std::vector<std::string> problems = current->markAnew(options);
+  if (!laidOut)
+    problems.push_back(tr("A sheet can hold 1, 2, 4, 6, 9 or 16 pages, not “%1”.")
+                           .arg(shownLine(*pages))
+                           .toStdString());
+  return problems;
 }
 
 }  // namespace tavrin

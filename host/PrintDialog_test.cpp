@@ -122,6 +122,15 @@ TEST_F(PrintDialogTest, SumsUpEveryPane) {
   EXPECT_TRUE(has(lines, "Paper Type: " + ironOn));
 }
 
+TEST_F(PrintDialogTest, NamesPagesPerSheetThatCannotBe) {
+  JobRequest request = job();
+  request.options = {{"number-up", "3"}};
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  EXPECT_EQ(dialog.findChild<Note*>("note")->text(),
+            "A sheet can hold 1, 2, 4, 6, 9 or 16 pages, not “3”.");
+}
+
 TEST_F(PrintDialogTest, ShowsAPrinterWithoutItsPlugInAndSaysSo) {
   place.write("lost.ppd", [] {
     std::string text = textOf(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");

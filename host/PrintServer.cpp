@@ -73,8 +73,9 @@ Failure PrintServer::failure(const std::string& what) const {
     return {what + ": the print server at " + cupsServer() +
             " does not answer. Check that it runs, then try again."};
   if (wantsPassword())
-    return {what + ": the print server does not allow it, or wants a password. Ask whoever looks "
-                   "after the printers, or print with lp, which can ask for the password."};
+    return {what +
+            ": the print server does not allow it, or wants a password. Ask whoever looks "
+            "after the printers, or print with lp, which can ask for the password."};
   std::string reason = cupsLastErrorString();
   while (reason.ends_with('.')) reason.pop_back();
   return {what + ": " + reason + "."};
