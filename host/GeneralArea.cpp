@@ -62,8 +62,7 @@ void GeneralArea::addPagesRow() {
   line->addWidget(allPages);
   line->addWidget(somePages);
   line->addWidget(rangeEdit, 1);
-  auto* title = makeChild<QLabel>(tr("Pages:"), this);
-  form->addRow(title, row);
+  addRow(*form, tr("Pages:"), *row);
   form->addRow(nullptr, rangeProblem);
   connect(rangeEdit, &QLineEdit::textEdited, this, [this] { somePages->setChecked(true); });
   connect(rangeEdit, &QLineEdit::editingFinished, this, &GeneralArea::showRangeProblem);

@@ -95,13 +95,19 @@ void PrintDialog::connectParts() {
 
 void PrintDialog::setVisible(bool visible) {
   // Left to itself, a dialog comes up with two thirds of the screen at most.
-  if (visible) fit();
+  if (visible) {
+    lineUpForms(*content);
+    fit();
+  }
   QDialog::setVisible(visible);
 }
 
 bool PrintDialog::event(QEvent* event) {
   const bool handled = QDialog::event(event);
-  if (event->type() == QEvent::LayoutRequest) fit();
+  if (event->type() == QEvent::LayoutRequest) {
+    lineUpForms(*content);
+    fit();
+  }
   return handled;
 }
 

@@ -122,6 +122,21 @@ TEST_F(PrintDialogTest, SumsUpEveryPane) {
   EXPECT_TRUE(has(lines, "Paper Type: " + ironOn));
 }
 
+TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  for (const char* pane : {"Layout", "Printer Features"}) {
+    turnTo(dialog, pane);
+    QCoreApplication::processEvents();
+    std::set<int> edges;
+    for (const char* name : {"printer", "PageSize", "pagesPerSheet", "Duplex", "featureGroup"})
+      if (const auto* control = dialog.findChild<QWidget*>(name); control->isVisible())
+        edges.insert(control->mapTo(&dialog, QPoint(0, 0)).x());
+    EXPECT_EQ(edges.size(), 1u) << pane;
+  }
+}
+
 TEST_F(PrintDialogTest, NamesPagesPerSheetThatCannotBe) {
   JobRequest request = job();
   request.options = {{"number-up", "3"}};
