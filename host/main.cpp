@@ -70,7 +70,6 @@ int report(const PrintDialog& dialog) {
 int show(const CommandLine& line, SharedPPD ppd, int& argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("tavrin-print");
-  QApplication::setApplicationDisplayName(QObject::tr("Print"));
   QtToolkit toolkit;
   Toolkit::install(&toolkit);
   DesktopHelpViewer helpViewer;
