@@ -1,5 +1,7 @@
 #include "host/PrintDialog.h"
 
+#include <sys/stat.h>
+
 #include <QComboBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -14,6 +16,7 @@
 #include "host/PPDLoader.h"
 #include "host/PrinterPopUp.h"
 #include "host/PrivateCupsd.h"
+#include "host/SilentServer.h"
 #include "platform/qt/QtToolkit.h"
 
 // The dialog as a person and a program meet it, with the real plug-in.
@@ -210,6 +213,49 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
   stops.removeAll("");
   EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "PageSize", "panes",
                                 "pagesPerSheet", "Duplex", "help", "cancel", "print"}));
+}
+
+TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {
+  const SilentServer server;
+  PrintDialog dialog(job());
+  dialog.usePrintServer();
+  dialog.show();
+  EXPECT_EQ(dialog.findChild<PrinterPopUp*>()->placeholderText(), "Looking for printers…");
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  press(dialog, "cancel");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::cancelled);
+}
+
+TEST_F(PrintDialogTest, TakesAJobBackWhileItIsOnItsWay) {
+  JobRequest request = job();
+  request.document = place.path() / "pipe";  // nobody ever fills it, so the job never ends
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  press(dialog, "print");
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  press(dialog, "cancel");
+  EXPECT_TRUE(dialog.isVisible());
+  auto* note = dialog.findChild<Note*>("note");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !note->text().isEmpty(); }, kPatience));
+  EXPECT_EQ(note->text(), "Printing was cancelled. The settings are as they were.");
+  EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
+}
+
+TEST_F(PrintDialogTest, ASecondCancelDoesNotWaitForTheFirst) {
+  JobRequest request = job();
+  request.document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  press(dialog, "print");
+  press(dialog, "cancel");
+  press(dialog, "cancel");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::cancelled);
 }
 
 TEST_F(PrintDialogTest, EscapeCancels) {

@@ -1,14 +1,12 @@
+#include "host/SilentServer.h"
+
 #include <chrono>
 #include <functional>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <thread>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "host/Destinations.h"
-#include "host/FileDescriptor.h"
 #include "host/JobSubmitter.h"
 #include "host/TemporaryFolder.h"
 
@@ -18,20 +16,8 @@ namespace {
 constexpr Patience kLittle = std::chrono::milliseconds(300);
 constexpr Patience kForEver = std::chrono::hours(1);
 
-// A print server that lets everybody in and says nothing.
 class SilentServerTest : public testing::Test {
  protected:
-  SilentServerTest() {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    path.copy(address.sun_path, sizeof(address.sun_path) - 1);
-    EXPECT_EQ(bind(server.get(), reinterpret_cast<sockaddr*>(&address), sizeof(address)), 0);
-    EXPECT_EQ(listen(server.get(), 50), 0);
-    setenv("CUPS_SERVER", path.c_str(), 1);
-    cupsSetServer(nullptr);  // libcups looks at the environment again
-  }
-  ~SilentServerTest() override { unsetenv("CUPS_SERVER"); }
-
   JobRequest request() {
     JobRequest request;
     request.printer = "tav";
@@ -42,22 +28,16 @@ class SilentServerTest : public testing::Test {
   // Runs a call, and cancels it as soon as it has come to the server.
   void whileCancelling(const std::function<void(const CancelFlag&)>& call) {
     CancelFlag cancel = false;
-    std::thread canceller([&] {
-      const FileDescriptor caller(accept(server.get(), nullptr, nullptr));
-      char byte;
-      EXPECT_EQ(read(caller.get(), &byte, 1), 1);
-      cancel = true;
-      while (read(caller.get(), &byte, 1) > 0) continue;  // until the caller hangs up
-    });
+    std::thread canceller([&] { server.receive([&] { cancel = true; }); });
     call(cancel);
     canceller.join();
+    EXPECT_TRUE(cancel);
   }
 
   TemporaryFolder place;
-  std::string path = (place.path() / "cups.sock").string();
-  FileDescriptor server{socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
-  const std::string silence =
-      ": the print server at " + path + " does not answer. Check that it runs, then try again.";
+  SilentServer server;
+  const std::string silence = ": the print server at " + server.path() +
+                              " does not answer. Check that it runs, then try again.";
 };
 
 TEST_F(SilentServerTest, HoldsUpNoListOfPrinters) {
@@ -112,12 +92,11 @@ TEST_F(SilentServerTest, HoldsUpNoJobThatIsCancelled) {
 }
 
 TEST_F(SilentServerTest, IsNotTheSameAsNoServer) {
-  server.close();
-  std::filesystem::remove(path);
+  server.stop();
   const auto printers = readPrinters();
   ASSERT_FALSE(printers);
   EXPECT_EQ(printers.reason(),
-            "The print server at " + path + " cannot be reached. Check that it runs.");
+            "The print server at " + server.path() + " cannot be reached. Check that it runs.");
 }
 
 }  // namespace
