@@ -40,6 +40,7 @@ GeneralArea::GeneralArea(QWidget* parent)
 
 void GeneralArea::addCopiesRow() {
   copiesBox->setObjectName("copies");
+  copiesBox->setAccessibleName(tr("Copies"));
   copiesBox->setRange(1, kMostCopies);
   auto* row = makeChild<QWidget>(this);
   auto* line = makeChild<QHBoxLayout>(row);

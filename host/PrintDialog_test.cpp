@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -199,6 +200,13 @@ TEST_F(PrintDialogTest, LosesNothingWhenTheJobCannotBeWritten) {
   EXPECT_EQ(dialog.findChild<Note*>("note")->text(), dialog.report());
 }
 
+// What a screen reader calls a control, by itself or by its label.
+bool hasName(QWidget& control) {
+  QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&control);
+  return !interface->text(QAccessible::Name).isEmpty() ||
+         !interface->relations(QAccessible::Label).isEmpty();
+}
+
 TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
   PrintDialog dialog(job());
   dialog.usePrinterWithoutQueue(samplePPD(), place.path());
@@ -209,6 +217,7 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
   while (stops.back() != "print" && stops.size() < 20) {
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     stops << dialog.focusWidget()->objectName();
+    EXPECT_TRUE(hasName(*dialog.focusWidget())) << stops.back().toStdString();
   }
   stops.removeAll("");
   EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "PageSize", "panes",
