@@ -22,7 +22,8 @@ constexpr char kPagesPerSheetOption[] = "number-up";
 void PrintDialog::beginSession(const SharedPPD& ppd) {
   queueOfSession = general->printers().selected()->name;
   current = std::make_unique<PrinterSession>(ppd);
-  const QString problems = markPrinter() + ' ' + shownLines(current->loadPanels());
+  QString problems = markPrinter();  // the panels look at the marks as they come up
+  problems += ' ' + shownLines(current->loadPanels());
   note->say(problems.trimmed(), Note::Kind::information);
   general->setMarks(&current->marks());
   layoutPane->setMarks(&current->marks());

@@ -90,6 +90,9 @@ TEST_F(PrintDialogTest, ShowsThePanelOfThePrinter) {
   for (int i = 0; i < panes->count(); ++i) names << panes->itemText(i);
   EXPECT_EQ(names, (QStringList{"Layout", "Printer Features", "Print Settings", "Summary"}));
   EXPECT_EQ(panes->currentText(), "Print Settings");
+  dialog.show();
+  // A second tray is installed in this printer; the panel sees so when it comes up.
+  EXPECT_TRUE(dialog.findChild<QComboBox*>("ibPaperSource")->isVisible());
 }
 
 TEST_F(PrintDialogTest, LeavesThePanelsOptionsOutOfTheFeatures) {
