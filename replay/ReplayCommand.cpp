@@ -116,7 +116,10 @@ ReplayCommand commandFrom(const Json& line) {
 
 Result<ReplayCommand> parseCommand(const std::string& line) {
   const Json parsed = Json::parse(line, nullptr, /*allow_exceptions=*/false);
-  if (!parsed.is_object()) return Failure{"The line is not a JSON object: " + quoted(line) + "."};
+  // The parser takes a NUL for the end of the line.
+  const bool cut = line.find('\0') != std::string::npos;
+  if (cut || !parsed.is_object())
+    return Failure{"The line is not a JSON object: " + quoted(line) + "."};
   try {
     return commandFrom(parsed);
   } catch (const SyntaxError& error) {

@@ -68,6 +68,12 @@ TEST(ReplayCommand, RefusesBytesThatAreNotUtf8) {
   EXPECT_NE(reasonFor("{\"do\":\"\xff\xfe\"}"), "");
 }
 
+TEST(ReplayCommand, ANulEndsNoLine) {
+  using namespace std::string_literals;
+  EXPECT_NE(reasonFor("{\"do\":\"state\"}\0{\"do\":"s), "");
+  EXPECT_NE(reasonFor("{\"do\":\"state\"}\0"s), "");
+}
+
 TEST(ReplayCommand, NamesAnUnknownOrMissingVerb) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"jump"})"), "\"jump\""));
   EXPECT_TRUE(mentions(reasonFor("{}"), "\"do\""));
