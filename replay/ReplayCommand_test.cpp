@@ -120,6 +120,10 @@ TEST(ReplayCommand, RefusesATextThatACStringWouldCut) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"unmark","key":"Mirror\u0000x"})"), "\"key\""));
 }
 
+TEST(ReplayCommand, ANameWithANulDoesNotCutTheReason) {
+  EXPECT_TRUE(reasonFor(R"({"do":"state","a\u0000b":1})").ends_with("b\"."));
+}
+
 TEST(ReplayCommand, ALongLineIsCutInTheReason) {
   EXPECT_LT(reasonFor(std::string(100000, 'x')).size(), 400u);
 }
