@@ -1,10 +1,11 @@
 # The pictures of short sessions: the panel only when it looks other than before, each message
 # window as it comes up. Run in the folder testdata with PROGRAM, SCRIPTS and FOLDER.
 
-# check_pictures(<script> <picture>...)
+# check_pictures(<script> <picture>...): a script of the folder SCRIPTS, or one at a path.
 function(check_pictures script)
   file(REMOVE_RECURSE ${FOLDER})
-  execute_process(COMMAND ${PROGRAM} --root root --screenshots ${FOLDER}/new ${SCRIPTS}/${script}
+  cmake_path(ABSOLUTE_PATH script BASE_DIRECTORY ${SCRIPTS} OUTPUT_VARIABLE file)
+  execute_process(COMMAND ${PROGRAM} --root root --screenshots ${FOLDER}/new ${file}
     RESULT_VARIABLE status OUTPUT_QUIET)
   if(NOT status EQUAL 0)
     message(SEND_ERROR "${script} ended with status ${status}.")
@@ -33,6 +34,15 @@ check_pictures(code-08-glossy-in-black.jsonl
   009-MsgFive.png
   010-panel-1.png
   011-MsgFive.png)         # ends as it began
+
+# Another panel of the same name is pictured though it looks the same.
+set(show [[
+{"do": "open", "ppd": "two-trays.ppd"}
+{"do": "panelView"}
+{"do": "willShow"}
+]])
+file(WRITE ${FOLDER}.jsonl "${show}{\"do\": \"close\"}\n${show}")
+check_pictures(${FOLDER}.jsonl 001-panel-1.png 002-panel-1.png)
 
 # With the slider in view, which some styles draw otherwise the first time after a window.
 check_pictures(code-10-mirror-on-envelope.jsonl
