@@ -35,12 +35,14 @@ long long FieldReader::wholeNumber() const {
 }
 
 MarkedChoice FieldReader::markedChoice() const {
-  if (!value.is_array() || value.size() != 2) mustBe("a list of pairs [key, choice]");
+  const bool isPair = value.is_array() && value.size() == 2;
+  if (!isPair || !value[0].is_string() || !value[1].is_string())
+    mustBe("a list of pairs [key, choice] of texts");
   return {FieldReader(name, value[0]).text(), FieldReader(name, value[1]).text()};
 }
 
 std::vector<MarkedChoice> FieldReader::marks() const {
-  if (!value.is_array()) mustBe("a list of pairs [key, choice]");
+  if (!value.is_array()) mustBe("a list of pairs [key, choice] of texts");
   std::vector<MarkedChoice> read;
   for (const Json& entry : value) read.push_back(FieldReader(name, entry).markedChoice());
   return read;

@@ -110,6 +110,13 @@ TEST(ReplayCommand, NamesAFieldOfAnotherForm) {
   for (const auto& [line, field] : lines) EXPECT_TRUE(mentions(reasonFor(line), field)) << line;
 }
 
+TEST(ReplayCommand, SaysWhatMarksAre) {
+  for (const char* marks : {"7", "[7]", R"(["Mirror"])", R"([["Mirror"]])", R"([["Mirror",null]])"})
+    EXPECT_EQ(reasonFor(std::string(R"({"do":"open","ppd":null,"marks":)") + marks + "}"),
+              "The field \"marks\" must be a list of pairs [key, choice] of texts.")
+        << marks;
+}
+
 TEST(ReplayCommand, RefusesANumberThatWouldComeOutAsAnother) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"choose","control":"x","index":18446744073709551615})"),
                        "\"index\""));
