@@ -133,6 +133,14 @@ TEST(ReplayCommand, ANameWithANulDoesNotCutTheReason) {
 
 TEST(ReplayCommand, ALongLineIsCutInTheReason) {
   EXPECT_LT(reasonFor(std::string(100000, 'x')).size(), 400u);
+  EXPECT_LT(reasonFor(std::string(100000, '\x80')).size(), 400u);
+}
+
+TEST(ReplayCommand, ALongLineIsCutBetweenCharacters) {
+  for (std::string line : {"", "x", "xx"}) {
+    while (line.size() < 1000) line += "紙";
+    EXPECT_TRUE(mentions(reasonFor(line), "紙...")) << reasonFor(line);
+  }
 }
 
 }  // namespace
