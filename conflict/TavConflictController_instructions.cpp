@@ -39,8 +39,8 @@ const std::vector<std::string> kLastCartridgeSteps = {
 };
 
 std::string joined(const std::vector<std::string>& steps) {
-  std::string text;
-  for (const std::string& step : steps) text += (text.empty() ? "" : "\n") + localized(step);
+  std::string text = localized(steps.front());
+  for (std::size_t i = 1; i < steps.size(); ++i) text += "\n" + localized(steps[i]);
   return text;
 }
 

@@ -86,6 +86,13 @@ TEST_F(Instructions, AMissingTranslationShowsTheEnglishStep) {
   EXPECT_EQ(title(), "Anleitung");
 }
 
+TEST_F(Instructions, AnEmptyTranslationIsALineLikeAnyOther) {
+  const TestStrings strings(Translations{{"1) From the pop-up menu, choose Layout.", ""},
+                                         {"2) Cancel the Print dialog.", ""}});
+  EXPECT_TRUE(text(2).starts_with("\n2) From the Pages per Sheet")) << text(2);
+  EXPECT_NE(text(0).find("step 7.\n\n3) Select"), std::string::npos) << text(0);
+}
+
 TEST_F(Instructions, ATranslationMayNameTheModel) {
   const TestStrings strings(Translations{{kUtilityStep, "2) %@ öffnen, 100%% sicher: %1$@."}});
   EXPECT_NE(text(3).find("\n2) Tavrin P1 öffnen, 100% sicher: Tavrin P1.\n3) "), std::string::npos);

@@ -67,12 +67,72 @@ TEST_F(ConflictLoop, AChoiceOutlivesAWindowThatWasClosed) {
   EXPECT_EQ(panel.model.printQualityTicket(), "Draft");
 }
 
+TEST_F(ConflictLoop, TheButtonsOfEveryWindowComeUpWithTheFirstOneOn) {
+  panel.setPaper("Transparency");
+  panel.format.name = "BannerBA4";
+  panel.settings.columns = "2";
+  const auto choosingAndClosing = [](const std::string& dialog, int choice) {
+    return [=](FakeInterface& windows) {
+      pickChoice(windows, dialog, choice);
+      closing(dialog)(windows);
+    };
+  };
+  process({choosingAndClosing("MsgFive", 2), choosing("MsgFive", 2), closing("Instruction"),
+           choosingAndClosing("MsgTwo", 2), choosingAndClosing("MsgTwo", 3),
+           choosing("MsgTwo", 1)});
+  EXPECT_EQ(seen.at(1).states.at("ibFirstButton_MsgFive"), 1);
+  EXPECT_EQ(seen.at(1).states.at("ibSecondButton_MsgFive"), 0);
+  for (const std::size_t window : {4U, 5U}) {
+    EXPECT_EQ(seen.at(window).states.at("ibFirstButton_MsgTwo"), 1);
+    EXPECT_EQ(seen.at(window).states.at("ibSecondButton_MsgTwo"), 0);
+    EXPECT_EQ(seen.at(window).states.at("ibThirdButton_MsgTwo"), 0);
+  }
+}
+
 TEST_F(ConflictLoop, TheNextCheckStartsWithTheFirstChoice) {
   ironOnAtDraft();
   process({[](FakeInterface& windows) { pickChoice(windows, "MsgOne", 2); }});  // the program ends
   expectUnchanged();
   process({choosing("MsgOne", 0)});
   EXPECT_EQ(panel.model.printQualityTicket(), "Normal");
+
+  panel.settings.columns = "2";
+  process({[](FakeInterface& windows) { pickChoice(windows, "MsgTwo", 3); }});
+  process({choosing("MsgTwo", 0)});
+  EXPECT_EQ(panel.model.paperTypeTicket(), "Plain");
+
+  panel.setPaper("Greeting");
+  panel.format.name = "BannerBA4";
+  process({[](FakeInterface& windows) { pickChoice(windows, "MsgFive", 2); }});
+  process({choosing("MsgFive", 0)});
+  EXPECT_EQ(panel.model.paperTypeTicket(), "Plain");
+}
+
+// Somebody who follows the change may bring the conflict back: the choice is the first again when
+// he is told.
+TEST_F(ConflictLoop, MsgOnesChoiceIsTheFirstAgainBeforeTheChangeIsTold) {
+  ironOnAtDraft();
+  bool broughtBack = false;
+  NotificationCenter::defaultCenter().addObserver(
+      &broughtBack, ConflictControllerChangeNotification, [&](const void*) {
+        if (!broughtBack) ironOnAtDraft();
+        broughtBack = true;
+      });
+  process({choosing("MsgOne", 2), choosing("MsgOne", 0)});
+  NotificationCenter::defaultCenter().removeObserver(&broughtBack);
+  EXPECT_EQ(panel.model.printQualityTicket(), "Normal");
+  EXPECT_EQ(panel.model.paperTypeTicket(), "IronOn");
+}
+
+TEST_F(ConflictLoop, AfterInstructionsTheNextMsgTwoStartsWithTheFirstChoice) {
+  panel.setPaper("IronOn");
+  panel.settings.columns = "2";
+  panel.setMirror("True");
+  panel.format.name = "EnvelopeDL";
+  process({choosing("MsgFive", 2), closing("Instruction"), choosing("MsgTwo", 2),
+           closing("Instruction"), choosing("MsgTwo", 0)});
+  EXPECT_EQ(panel.model.mirrorTicket(), "False");
+  EXPECT_FALSE(IGNORE_MIRROR_ENVELOPE_CONFLICT);
 }
 
 TEST_F(ConflictLoop, AfterOkTheNextWindowOfTheKindStartsWithTheFirstChoice) {

@@ -166,6 +166,17 @@ TEST_F(ConflictWindows, IronOnAtDraftSecondChoiceTakesPlainPaper) {
   EXPECT_EQ(notifications.size(), 1U);
 }
 
+TEST_F(ConflictWindows, IronOnAtDraftWritesBothSettingsWithEitherChoice) {
+  for (const int choice : {1, 2}) {
+    bringAbout(0);
+    panel.model.setPrintQuality("other");
+    panel.model.setPaperType("other");
+    process({choosing("MsgOne", choice)});
+    EXPECT_EQ(panel.model.printQuality(), choice == 1 ? "Normal Quality" : "Quick Print");
+    EXPECT_EQ(panel.model.paperType(), choice == 1 ? "Iron-On Transfer" : "Plain Paper");
+  }
+}
+
 TEST_F(ConflictWindows, IronOnAtDraftThirdChoiceIsNeverAskedAgain) {
   bringAbout(0);
   process({choosing("MsgOne", 3)});

@@ -91,9 +91,10 @@ TEST_F(Help, OfOneModelHasAShorterName) {
   EXPECT_FALSE(dialogHelpWanted({"*ModelName: \"Tavrin R420 Series\"", "*TavHelpPath: \"/Help\""}));
   EXPECT_FALSE(dialogHelpWanted({"*ModelName: \"Tavrin 420 Series\"", "*TavHelpPath: \"/Help\""}));
   EXPECT_FALSE(dialogHelpWanted({"*ModelName: \"Tavrin R421 Series\"", "*TavHelpPath: \"/Help\""}));
+  EXPECT_FALSE(dialogHelpWanted({"*ModelName: \"Tavrin R420\"", "*TavHelpPath: \"/Help\""}));
   EXPECT_EQ(viewer.books,
             (std::vector<std::string>{"Tavrin 420 Series Help", "Tavrin 420 Series Help",
-                                      "Tavrin R421 Series Help"}));
+                                      "Tavrin R421 Series Help", "Tavrin R420 Help"}));
 }
 
 TEST_F(Help, OfANewerModelComesWithItsDriver) {

@@ -5,6 +5,10 @@ namespace {
 
 class Synchronisation : public ControllerTest {
  protected:
+  static constexpr const char* kSettings[] = {"MediaType",  "PrintQuality", "PaperSource",
+                                              "ColorModel", "Mirror",       "Sharpening",
+                                              "DupDryTime"};
+
   void unmark(const char* keyword) {
     ppd_option_t* option = ppdFindOption(ppd.get(), keyword);
     for (int i = 0; i < option->num_choices; ++i) option->choices[i].marked = 0;
@@ -38,6 +42,16 @@ TEST_F(Synchronisation, RefreshesTheControls) {
   EXPECT_EQ(panel().popUp("ibPaperType").titleOfSelectedItem(), "Greeting Card");
 }
 
+TEST_F(Synchronisation, RefreshesTheControlsEveryTime) {
+  show(fullPrinter());
+  for (const char* keyword : kSettings) unmark(keyword);
+  for (int time = 0; time < 2; ++time) {
+    panel().button("ibBlackAndWhite").state = 1;
+    controller->updatePDEModelwithMarkedChoices();
+    EXPECT_EQ(panel().button("ibBlackAndWhite").state, 0);
+  }
+}
+
 TEST_F(Synchronisation, GivesACheckBoxDryTimeItsTicket) {
   show({dryTimeCheckBoxOption()});
   controller->updatePDEModelwithMarkedChoices();
@@ -46,12 +60,26 @@ TEST_F(Synchronisation, GivesACheckBoxDryTimeItsTicket) {
 
 TEST_F(Synchronisation, LeavesUnmarkedSettingsAlone) {
   show(fullPrinter());
-  model().setPaperType("mine");
-  model().setPaperTypeTicket("Mine");
-  unmark("MediaType");
+  for (const char* keyword : kSettings) unmark(keyword);
+  panel().choose("ibPaperType", 4, "paperTypeAction:");
+  panel().choose("ibPrintQuality", 3, "printQualityAction:");
+  panel().choose("ibPaperSource", 1, "paperSourceAction:");
+  panel().click("ibBlackAndWhite", "blackAndWhiteAction:");
+  panel().slide("ibManualImageSharpeningSlider", 10, "imageSharpeningSliderAction:");
+  panel().choose("ibDryTimePopUp", 1, "dryTimePopUpAction:");
   controller->updatePDEModelwithMarkedChoices();
-  EXPECT_EQ(model().paperType(), "mine");
-  EXPECT_EQ(model().paperTypeTicket(), "Mine");
+  EXPECT_EQ(model().paperType(), "Greeting Card");
+  EXPECT_EQ(model().paperTypeTicket(), "Greeting");
+  EXPECT_EQ(model().printQuality(), "Photo");
+  EXPECT_EQ(model().printQualityTicket(), "Best");
+  EXPECT_EQ(model().paperSource(), "Lower Tray");
+  EXPECT_EQ(model().paperSourceTicket(), "Tray2");
+  EXPECT_EQ(model().blackAndWhite(), "Black Ink");
+  EXPECT_EQ(model().blackAndWhiteTicket(), "Black");
+  EXPECT_EQ(model().imageSharpening(), "Most");
+  EXPECT_EQ(model().imageSharpeningTicket(), "10");
+  EXPECT_EQ(model().dryTime(), "Long Dry");
+  EXPECT_EQ(model().dryTimeTicket(), "Long");
 }
 
 TEST_F(Synchronisation, TakesAMarkedMirror) {
@@ -132,6 +160,9 @@ TEST_F(Synchronisation, MapsNoPositionToAbsent) {
 TEST_F(Synchronisation, ReadsAPositionsTextInThePPDsEncoding) {
   start(makePPD({{"PrintQuality", "PickOne", "A", {"A/Qualit\xc3\xa9"}}}));
   EXPECT_EQ(controller->selectedItemFromIndex(0, "PrintQuality", false), "Qualité");
+  controller =
+      TavPDEController::initializeWithPPD(ppd.get(), kMacOSRomanEncoding, nullptr, nullptr);
+  EXPECT_EQ(controller->selectedItemFromIndex(0, "PrintQuality", false), "Qualit√©");
 }
 
 }  // namespace

@@ -8,6 +8,11 @@ class PanelView : public ControllerTest {
  protected:
   Rect frameOf(const std::string& name) { return panel().view(name).place; }
   void disclose() { panel().click("ibDisclosure", "disclosureAction:"); }
+  void setPaperFromOutside(const std::string& text, const std::string& keyword) {
+    model().setPaperType(text);
+    model().setPaperTypeTicket(keyword);
+    controller->updateControls();
+  }
 };
 
 TEST_F(PanelView, IsNullWithoutItsInterfaceFile) {
@@ -37,6 +42,16 @@ TEST_F(PanelView, DisclosesTheAdvancedArea) {
   disclose();
   EXPECT_TRUE(panel().view("ibAdvancedView").hidden);
   EXPECT_EQ(frameOf("ibPDEView"), (Rect{0, 0, 400, 200}));
+  EXPECT_EQ(frameOf("ibHeaderView"), (Rect{0, 100, 400, 200}));
+}
+
+TEST_F(PanelView, PutsTheHeaderInItsPlaceWhenItDisclosesOnly) {
+  show(fullPrinter());
+  disclose();
+  panel().view("ibHeaderView").setFrameOrigin(5, 7);
+  disclose();
+  EXPECT_EQ(frameOf("ibHeaderView"), (Rect{5, 7, 400, 200}));
+  disclose();
   EXPECT_EQ(frameOf("ibHeaderView"), (Rect{0, 100, 400, 200}));
 }
 
@@ -118,6 +133,14 @@ TEST_F(PanelView, GreysTheEndsOfAutomaticSharpening) {
   EXPECT_EQ(panel().label("ibMostLabel").color, TextColor::grey);
 }
 
+TEST_F(PanelView, LeavesTheSliderOfAnAutomaticDefaultWhereItStands) {
+  start(makePPD({sharpeningOption()}));
+  view = controller->mainView();
+  panel().slider("ibManualImageSharpeningSlider").value = 4;
+  controller->initializeControls();
+  EXPECT_EQ(panel().slider("ibManualImageSharpeningSlider").value, 4);
+}
+
 TEST_F(PanelView, TakesAMissingDefaultForAnotherChoice) {
   start(nullptr);
   view = controller->mainView();
@@ -174,6 +197,11 @@ TEST_F(PanelView, LabelsControlsWithThePPDsTexts) {
   EXPECT_EQ(panel().button("ibDryTimeCheckBox").title, "");
 }
 
+TEST_F(PanelView, LabelsAPaperSourceThatItDoesNotShow) {
+  show({paperSourceOption(), tray2Option("False")});
+  EXPECT_EQ(panel().label("ibPaperSourceLabel").text, "Paper Source:");
+}
+
 TEST_F(PanelView, LabelsTheDryTimeBox) {
   show({dryTimeCheckBoxOption()});
   EXPECT_EQ(panel().button("ibDryTimeCheckBox").title, "Extra Dry Time");
@@ -218,6 +246,32 @@ TEST_F(PanelView, ComparesTheDryTimesKeywordWithItsTitle) {
   controller->updateControls();
   EXPECT_EQ(panel().popUp("ibDryTimePopUp").selections, before + 1);
   EXPECT_EQ(panel().popUp("ibDryTimePopUp").selected, 0);
+}
+
+TEST_F(PanelView, LeavesAPaperSourceThatItDoesNotShowAlone) {
+  show({paperSourceOption(), tray2Option("False")});
+  EXPECT_EQ(panel().popUp("ibPaperSource").selections, 0);
+}
+
+TEST_F(PanelView, LeavesSharpeningThatAgreesAlone) {
+  start(makePPD({sharpeningOption("5")}));
+  view = controller->mainView();
+  model().setImageSharpeningTicket("5");
+  willShow();
+  EXPECT_EQ(panel().label("ibNoneLabel").color, std::nullopt);
+  EXPECT_EQ(panel().label("ibMostLabel").color, std::nullopt);
+}
+
+TEST_F(PanelView, ReadsTheSliderWhereBothSharpeningButtonsAreOn) {
+  show(fullPrinter());
+  panel().button("ibManualImageSharpening").state = 1;
+  panel().slider("ibManualImageSharpeningSlider").value = 3;
+  model().setImageSharpeningTicket("3");
+  controller->updateControls();
+  EXPECT_EQ(panel().button("ibAutoImageSharpening").state, 1) << "it agrees: nothing changes";
+  model().setImageSharpeningTicket("Automatic");
+  controller->updateControls();
+  EXPECT_EQ(panel().button("ibManualImageSharpening").state, 0);
 }
 
 TEST_F(PanelView, FollowsManualSharpening) {
@@ -285,8 +339,50 @@ TEST_F(PanelView, ForgetsTheUsersMirrorWhenTheModelOverridesIt) {
   controller->updateControls();
   EXPECT_EQ(panel().button("ibMIrror").state, 0);
   panel().choose("ibPaperType", 2, "paperTypeAction:");
+  EXPECT_EQ(model().mirrorTicket(), "True") << "the mirror was automatic again";
   panel().choose("ibPaperType", 1, "paperTypeAction:");
-  EXPECT_EQ(model().mirrorTicket(), "False") << "the mirror was automatic again";
+  EXPECT_EQ(model().mirrorTicket(), "False");
+}
+
+TEST_F(PanelView, LeavesAPresetsMirrorWhenPaperComesFromOutside) {
+  show(fullPrinter());
+  mark("Mirror", "True");
+  controller->updatePDEModelwithMarkedChoices();
+  setPaperFromOutside("Plain Paper", "Plain");
+  EXPECT_EQ(model().mirrorTicket(), "True");
+}
+
+TEST_F(PanelView, SwitchesTheMirrorOnForIronOnPaperFromOutsideWhateverThePreset) {
+  show(fullPrinter());
+  mark("Mirror", "True");
+  controller->updatePDEModelwithMarkedChoices();
+  model().setMIrrorTicket("False");
+  setPaperFromOutside("Iron-On Transfer", "IronOn");
+  EXPECT_EQ(model().mirrorTicket(), "True");
+}
+
+// The box still shows the user's mirror when the rule looks, and is switched off only afterwards.
+TEST_F(PanelView, LeavesTheMirrorOffForIronOnPaperFromOutsideWhileTheUsersBoxIsOn) {
+  show(fullPrinter());
+  panel().click("ibMIrror", "mirrorAction:");
+  model().setMirror("Off");
+  model().setMIrrorTicket("False");
+  setPaperFromOutside("Iron-On Transfer", "IronOn");
+  EXPECT_EQ(model().mirrorTicket(), "False");
+  EXPECT_EQ(panel().button("ibMIrror").state, 0);
+}
+
+TEST_F(PanelView, LeavesAnAbsentMirrorAloneWhenPaperComesFromOutside) {
+  show({paperTypeOption()});
+  setPaperFromOutside("Iron-On Transfer", "IronOn");
+  EXPECT_EQ(model().mirrorTicket(), std::nullopt);
+}
+
+TEST_F(PanelView, AppliesTheMirrorRuleOnlyWhenThePopUpShowsAnotherPaper) {
+  show(fullPrinter());
+  model().setMIrrorTicket("True");
+  controller->updateControls();
+  EXPECT_EQ(model().mirrorTicket(), "True");
 }
 
 }  // namespace

@@ -78,6 +78,16 @@ TEST_F(MainPDETest, GivesTheSameViewEveryTime) {
   EXPECT_EQ(panel->panelView(), panel->panelView());
 }
 
+TEST_F(MainPDETest, LabelsAndRefreshesItsControlsWheneverItIsShown) {
+  show(fullPrinter());
+  EXPECT_EQ(controls().label("ibPaperTypeLabel").text, "Paper Type:");
+  controls().label("ibPaperTypeLabel").text = "other";
+  controls().popUp("ibPaperType").selected = 3;
+  panel->willShow();
+  EXPECT_EQ(controls().label("ibPaperTypeLabel").text, "Paper Type:");
+  EXPECT_EQ(controls().popUp("ibPaperType").selected, 0);
+}
+
 TEST_F(MainPDETest, HandsOverAllSevenChoices) {
   show(fullPrinter());
   EXPECT_EQ(saved(), (Pairs{{"MediaType", "Automatic"},
@@ -160,6 +170,30 @@ TEST_F(MainPDETest, FollowsADryTimeBox) {
   panel->PPDOptionKeyValueDidChange("DupDryTime", "True");
   EXPECT_EQ(value("Extra Dry Time"), "Waits");
   EXPECT_EQ(saved().back().second, "True");
+}
+
+TEST_F(MainPDETest, StoresTheTicketOfASettingThatThePrinterLacks) {
+  show({paperTypeOption()});
+  panel->PPDOptionKeyValueDidChange("PrintQuality", "Best");
+  panel->PPDOptionKeyValueDidChange("ColorModel", "Black");
+  panel->PPDOptionKeyValueDidChange("Mirror", "True");
+  panel->PPDOptionKeyValueDidChange("Sharpening", "10");
+  EXPECT_EQ(saved(), (Pairs{{"MediaType", "Automatic"},
+                            {"PrintQuality", "Best"},
+                            {"ColorModel", "Black"},
+                            {"Mirror", "True"},
+                            {"Sharpening", "10"}}));
+  show({});
+  panel->PPDOptionKeyValueDidChange("MediaType", "Greeting");
+  EXPECT_EQ(saved().front(), (std::pair<std::string, OptString>{"MediaType", "Greeting"}));
+}
+
+TEST_F(MainPDETest, HandsOverNoPaperSourceThatThePrinterLacks) {
+  show({mirrorOption()});
+  controls().button("ibMIrror").state = 1;
+  panel->PPDOptionKeyValueDidChange("PaperSource", "Tray2");
+  EXPECT_EQ(saved().size(), 5u);
+  EXPECT_EQ(controls().button("ibMIrror").state, 0) << "the controls are refreshed all the same";
 }
 
 TEST_F(MainPDETest, StoresNothingForADryTimeThatThePrinterLacks) {

@@ -122,6 +122,19 @@ TEST(PDETools, TrimsASetOfCharactersNotAPrefix) {
   EXPECT_EQ(modelYearOf("/Library/Printers/Tavrin/abc/x"), "c");
 }
 
+TEST(PDETools, TrimsBothEndsBeforeTheLastComponentGoes) {
+  EXPECT_EQ(modelYearOf("/Library/Printers/Tavrin/2007/Help/"), "2007");
+  // Every letter of the last component is in the set, so that the year goes in its place.
+  EXPECT_EQ(modelYearOf("/Library/Printers/Tavrin/2007/Printers"), "");
+}
+
+TEST(PDETools, FindsAnAttributeWithAnySpecifier) {
+  const PPDPtr ppd = makePPD({}, {"*TavDriverPath Here/There: \"/Library/Printers/Tavrin/2009/D\"",
+                                  "*TavHelpPath Here: \"/Help\""});
+  EXPECT_EQ(tools.getModelYear(ppd.get()), "2009");
+  EXPECT_EQ(tools.getComponentPath(HELP_KEY, ppd.get(), kUTF8Encoding), "/Help");
+}
+
 TEST(PDETools, LeavesNothingOfAPathWithoutFolder) {
   EXPECT_EQ(modelYearOf("2007"), "");
   EXPECT_EQ(modelYearOf("/Library/Printers/"), "");

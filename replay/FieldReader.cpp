@@ -5,7 +5,7 @@
 namespace tavrin {
 
 void FieldReader::mustBe(const std::string& form) const {
-  throw SyntaxError("The field " + quoted(name) + " must be " + form + ".");
+  throw SyntaxError{"The field " + quoted(name) + " must be " + form + "."};
 }
 
 std::string FieldReader::text() const {
@@ -35,12 +35,14 @@ long long FieldReader::wholeNumber() const {
 }
 
 MarkedChoice FieldReader::markedChoice() const {
-  if (!value.is_array() || value.size() != 2) mustBe("a list of pairs [key, choice]");
+  const bool isPair = value.is_array() && value.size() == 2;
+  if (!isPair || !value[0].is_string() || !value[1].is_string())
+    mustBe("a list of pairs [key, choice] of texts");
   return {FieldReader(name, value[0]).text(), FieldReader(name, value[1]).text()};
 }
 
 std::vector<MarkedChoice> FieldReader::marks() const {
-  if (!value.is_array()) mustBe("a list of pairs [key, choice]");
+  if (!value.is_array()) mustBe("a list of pairs [key, choice] of texts");
   std::vector<MarkedChoice> read;
   for (const Json& entry : value) read.push_back(FieldReader(name, entry).markedChoice());
   return read;
@@ -72,7 +74,7 @@ WindowAnswer FieldReader::answer() const {
     else if (entry.key() == "end")
       read.end = field.end();
     else
-      throw SyntaxError("An answer has no field " + quoted(entry.key()) + ".");
+      throw SyntaxError{"An answer has no field " + quoted(entry.key()) + "."};
   }
   return read;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -9,10 +8,10 @@
 
 namespace tavrin {
 
-// A line that cannot be a command; what() is the sentence for the reply.
-class SyntaxError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
+// A line that cannot be a command, with the sentence for the reply. The names in it are the
+// script's and may hold NULs, so it is no C string.
+struct SyntaxError {
+  std::string sentence;
 };
 
 // One field of a line, read in the form that its place asks for. Every function throws a

@@ -4,7 +4,7 @@
 
 namespace tavrin {
 
-// A text in quotation marks, for a sentence; a long one is cut.
+// A text in quotation marks, for a sentence; a long one is cut between two characters of UTF-8.
 std::string quoted(const std::string& text);
 
 }  // namespace tavrin

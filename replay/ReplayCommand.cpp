@@ -86,15 +86,15 @@ void checkFieldNames(const Json& line, const std::string& verb, const Syntax& sy
   const std::set<std::string> known = fieldsOf(syntax);
   for (const auto& entry : line.items())
     if (!known.contains(entry.key()))
-      throw SyntaxError("The command " + quoted(verb) + " has no field " + quoted(entry.key()) +
-                        ".");
+      throw SyntaxError{"The command " + quoted(verb) + " has no field " + quoted(entry.key()) +
+                        "."};
   for (const std::string& field : syntax.required)
     if (!line.contains(field))
-      throw SyntaxError("The command " + quoted(verb) + " needs the field " + quoted(field) + ".");
+      throw SyntaxError{"The command " + quoted(verb) + " needs the field " + quoted(field) + "."};
 }
 
 std::string verbOf(const Json& line) {
-  if (!line.contains("do")) throw SyntaxError("The command has no field \"do\" that names it.");
+  if (!line.contains("do")) throw SyntaxError{"The command has no field \"do\" that names it."};
   return FieldReader("do", line["do"]).text();
 }
 
@@ -102,7 +102,7 @@ ReplayCommand commandFrom(const Json& line) {
   const std::string verb = verbOf(line);
   const auto syntax = grammar().find(verb);
   if (syntax == grammar().end())
-    throw SyntaxError("There is no command " + quoted(verb) + "; --help lists the commands.");
+    throw SyntaxError{"There is no command " + quoted(verb) + "; --help lists the commands."};
   checkFieldNames(line, verb, syntax->second);
   ReplayCommand command;
   command.verb = syntax->second.verb;
@@ -116,11 +116,14 @@ ReplayCommand commandFrom(const Json& line) {
 
 Result<ReplayCommand> parseCommand(const std::string& line) {
   const Json parsed = Json::parse(line, nullptr, /*allow_exceptions=*/false);
-  if (!parsed.is_object()) return Failure{"The line is not a JSON object: " + quoted(line) + "."};
+  // The parser takes a NUL for the end of the line.
+  const bool cut = line.find('\0') != std::string::npos;
+  if (cut || !parsed.is_object())
+    return Failure{"The line is not a JSON object: " + quoted(line) + "."};
   try {
     return commandFrom(parsed);
   } catch (const SyntaxError& error) {
-    return Failure{error.what()};
+    return Failure{error.sentence};
   }
 }
 

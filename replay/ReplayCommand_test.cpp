@@ -68,6 +68,12 @@ TEST(ReplayCommand, RefusesBytesThatAreNotUtf8) {
   EXPECT_NE(reasonFor("{\"do\":\"\xff\xfe\"}"), "");
 }
 
+TEST(ReplayCommand, ANulEndsNoLine) {
+  using namespace std::string_literals;
+  EXPECT_NE(reasonFor("{\"do\":\"state\"}\0{\"do\":"s), "");
+  EXPECT_NE(reasonFor("{\"do\":\"state\"}\0"s), "");
+}
+
 TEST(ReplayCommand, NamesAnUnknownOrMissingVerb) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"jump"})"), "\"jump\""));
   EXPECT_TRUE(mentions(reasonFor("{}"), "\"do\""));
@@ -104,6 +110,13 @@ TEST(ReplayCommand, NamesAFieldOfAnotherForm) {
   for (const auto& [line, field] : lines) EXPECT_TRUE(mentions(reasonFor(line), field)) << line;
 }
 
+TEST(ReplayCommand, SaysWhatMarksAre) {
+  for (const char* marks : {"7", "[7]", R"(["Mirror"])", R"([["Mirror"]])", R"([["Mirror",null]])"})
+    EXPECT_EQ(reasonFor(std::string(R"({"do":"open","ppd":null,"marks":)") + marks + "}"),
+              "The field \"marks\" must be a list of pairs [key, choice] of texts.")
+        << marks;
+}
+
 TEST(ReplayCommand, RefusesANumberThatWouldComeOutAsAnother) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"choose","control":"x","index":18446744073709551615})"),
                        "\"index\""));
@@ -114,8 +127,20 @@ TEST(ReplayCommand, RefusesATextThatACStringWouldCut) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"unmark","key":"Mirror\u0000x"})"), "\"key\""));
 }
 
+TEST(ReplayCommand, ANameWithANulDoesNotCutTheReason) {
+  EXPECT_TRUE(reasonFor(R"({"do":"state","a\u0000b":1})").ends_with("b\"."));
+}
+
 TEST(ReplayCommand, ALongLineIsCutInTheReason) {
   EXPECT_LT(reasonFor(std::string(100000, 'x')).size(), 400u);
+  EXPECT_LT(reasonFor(std::string(100000, '\x80')).size(), 400u);
+}
+
+TEST(ReplayCommand, ALongLineIsCutBetweenCharacters) {
+  for (std::string line : {"", "x", "xx"}) {
+    while (line.size() < 1000) line += "紙";
+    EXPECT_TRUE(mentions(reasonFor(line), "紙...")) << reasonFor(line);
+  }
 }
 
 }  // namespace

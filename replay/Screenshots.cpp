@@ -33,6 +33,8 @@ Result<Screenshots> Screenshots::inFolder(const std::filesystem::path& folder) {
 
 void Screenshots::panel(const std::string& id, QWidget& widget) {
   if (folder.empty()) return;
+  // Some styles draw a slider's marks otherwise the first time after the window was left.
+  widget.grab();
   const QImage picture = widget.grab().toImage();
   QImage& last = lastOfPanel[id];
   if (picture == last) return;
