@@ -19,8 +19,9 @@ namespace {
 constexpr char kTicketName[] = "ticket.json";
 constexpr int kMostFolders = 10000;
 
-Failure cannotWrite(const fs::path& path) {
-  return {"\"" + path.string() + "\" cannot be written: " + std::strerror(errno) + "."};
+Failure cannotWrite(const fs::path& output) {
+  return {"The job cannot be written to the folder \"" + output.string() +
+          "\": " + std::strerror(errno) + ". Choose another folder."};
 }
 
 // A new hidden folder that goes away with everything in it, unless it is kept under a name.
@@ -89,21 +90,21 @@ bool syncFolder(const fs::path& folder) {
 }
 
 // False once cancelled.
-Result<bool> copyDocument(Document& document, const fs::path& path, const CancelFlag& cancel,
-                          const ProgressCallback& progress) {
+Result<bool> copyDocument(Document& document, const fs::path& output, const fs::path& path,
+                          const CancelFlag& cancel, const ProgressCallback& progress) {
   FileDescriptor file = newFile(path);
-  if (!file) return cannotWrite(path);
+  if (!file) return cannotWrite(output);
   std::array<char, 65536> buffer;
   for (Progress copied{0, document.size()};;) {
     const auto bytes = document.read(buffer, cancel);
     if (!bytes) return Failure{bytes.reason()};
     if (cancel) return false;
     if (*bytes == 0) break;
-    if (!writeAll(file.get(), std::span(buffer).first(*bytes))) return cannotWrite(path);
+    if (!writeAll(file.get(), std::span(buffer).first(*bytes))) return cannotWrite(output);
     copied.done += *bytes;
     if (progress) progress(copied);
   }
-  if (!finish(file)) return cannotWrite(path);
+  if (!finish(file)) return cannotWrite(output);
   return true;
 }
 
@@ -125,10 +126,9 @@ std::string ticketText(const JobRequest& request, const OptionList& options,
   return ticket.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-Result<bool> writeTicket(const fs::path& path, const std::string& text) {
+bool writeTicket(const fs::path& path, const std::string& text) {
   FileDescriptor file = newFile(path);
-  if (!file || !writeAll(file.get(), text) || !finish(file)) return cannotWrite(path);
-  return true;
+  return file && writeAll(file.get(), text) && finish(file);
 }
 
 // Gives the folder the first name that is free.
@@ -143,7 +143,7 @@ Result<fs::path> publish(HiddenFolder& folder, const fs::path& output, const std
       syncFolder(output);
       return path;
     }
-    if (errno != EEXIST) return cannotWrite(path);
+    if (errno != EEXIST) return cannotWrite(output);
   }
   return Failure{"\"" + output.string() + "\" is full of jobs named \"" + name +
                  "\". Move some of them away."};
@@ -158,14 +158,13 @@ Result<fs::path> writeTicketFolder(const fs::path& output, const JobRequest& req
   if (!document) return Failure{document.reason()};
   HiddenFolder folder(output);
   if (!folder) return cannotWrite(output);
-  const auto copied = copyDocument(*document, folder.path() / documentFileName(*document, request),
-                                   cancel, progress);
+  const auto copied = copyDocument(
+      *document, output, folder.path() / documentFileName(*document, request), cancel, progress);
   if (!copied) return Failure{copied.reason()};
   if (!*copied) return fs::path();
-  const auto ticket =
-      writeTicket(folder.path() / kTicketName, ticketText(request, options, *document));
-  if (!ticket) return Failure{ticket.reason()};
-  if (!syncFolder(folder.path())) return cannotWrite(folder.path());
+  if (!writeTicket(folder.path() / kTicketName, ticketText(request, options, *document)) ||
+      !syncFolder(folder.path()))
+    return cannotWrite(output);
   return publish(folder, output, folderName(jobTitle(request)));
 }
 

@@ -148,8 +148,9 @@ TEST_F(TicketFolderTest, LeavesNothingBehindWhenItFails) {
 TEST_F(TicketFolderTest, NamesAnOutputFolderThatIsNotThere) {
   const auto folder = writeTicketFolder(output / "nowhere", request, options);
   ASSERT_FALSE(folder);
-  EXPECT_EQ(folder.reason(), "\"" + (output / "nowhere").string() +
-                                 "\" cannot be written: No such file or directory.");
+  EXPECT_EQ(folder.reason(), "The job cannot be written to the folder \"" +
+                                 (output / "nowhere").string() +
+                                 "\": No such file or directory. Choose another folder.");
 }
 
 TEST_F(TicketFolderTest, TellsHowFarItIs) {
