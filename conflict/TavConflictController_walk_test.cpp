@@ -162,7 +162,7 @@ Codes notSilenced(const Codes& present) {
   return codes;
 }
 
-class Walk : public testing::Test {
+class Walk : public ::testing::Test {
  protected:
   FreshConflicts fresh;
   PrinterRoot root;
