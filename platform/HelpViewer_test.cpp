@@ -108,6 +108,21 @@ TEST_F(HelpBookTest, FolderOfTheInformationIsAPlainName) {
   }
 }
 
+TEST_F(HelpBookTest, FolderOfTheInformationLiesInTheBook) {
+  writeInfo(xmlEntry("CFBundleHelpBookFolder", "Help"));
+  folder.write("elsewhere/index.html", "<title>Elsewhere</title>");
+  const auto resources = folder.path() / "book/Contents/Resources";
+  std::filesystem::create_directories(resources);
+  std::filesystem::create_directory_symlink(folder.path() / "elsewhere", resources / "Help");
+  EXPECT_EQ(book().startPage, "");
+  EXPECT_EQ(book().folder, "");
+  EXPECT_EQ(book().name, "");
+  std::filesystem::remove(resources / "Help");
+  const auto shared = write("Pages/index.html");
+  std::filesystem::create_directory_symlink(shared.parent_path(), resources / "Help");
+  EXPECT_EQ(book().startPage, resources / "Help/index.html");
+}
+
 TEST_F(HelpBookTest, ThatContainsItselfEnds) {
   writeInfo(xmlEntry("CFBundleHelpBookFolder", "Self"));
   std::filesystem::create_directories(folder.path() / "book/Contents/Resources");
