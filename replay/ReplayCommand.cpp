@@ -114,7 +114,21 @@ ReplayCommand commandFrom(const Json& line) {
 
 }  // namespace
 
+std::optional<std::string> nextLine(std::istream& script) {
+  std::string line;
+  for (char c = 0; line.size() <= kScriptLineLimit && script.get(c);) {
+    if (c == '\n') return line;
+    line += c;
+  }
+  if (line.empty()) return std::nullopt;
+  script.setstate(std::ios::eofbit);
+  return line;
+}
+
 Result<ReplayCommand> parseCommand(const std::string& line) {
+  if (line.size() > kScriptLineLimit)
+    return Failure{"The line is too long: a line has at most " + std::to_string(kScriptLineLimit) +
+                   " bytes. The script ends here: " + quoted(line) + "."};
   const Json parsed = Json::parse(line, nullptr, /*allow_exceptions=*/false);
   if (!parsed.is_object()) return Failure{"The line is not a JSON object: " + quoted(line) + "."};
   try {

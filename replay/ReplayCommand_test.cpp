@@ -1,5 +1,7 @@
 #include "replay/ReplayCommand.h"
 
+#include <sstream>
+
 #include <gtest/gtest.h>
 
 namespace tavrin {
@@ -112,6 +114,24 @@ TEST(ReplayCommand, RefusesANumberThatWouldComeOutAsAnother) {
 
 TEST(ReplayCommand, RefusesATextThatACStringWouldCut) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"unmark","key":"Mirror\u0000x"})"), "\"key\""));
+}
+
+TEST(ReplayCommand, LinesEndWithALineEndOrTheScript) {
+  std::istringstream script("one\n\ntwo");
+  EXPECT_EQ(nextLine(script), "one");
+  EXPECT_EQ(nextLine(script), "");
+  EXPECT_EQ(nextLine(script), "two");
+  EXPECT_EQ(nextLine(script), std::nullopt);
+}
+
+TEST(ReplayCommand, ALineWithoutEndEndsTheScript) {
+  const std::string longest(kScriptLineLimit, ' ');
+  std::istringstream script(longest + "\n" + longest + "{}\n{}\n");
+  EXPECT_EQ(nextLine(script), longest);
+  const auto tooLong = nextLine(script);
+  ASSERT_TRUE(tooLong);
+  EXPECT_TRUE(mentions(reasonFor(*tooLong), "too long"));
+  EXPECT_EQ(nextLine(script), std::nullopt);
 }
 
 TEST(ReplayCommand, ALongLineIsCutInTheReason) {
