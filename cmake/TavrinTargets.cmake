@@ -26,5 +26,5 @@ function(tavrin_test target)
   tavrin_target(${target})
   target_link_libraries(${target} PRIVATE ${ARG_LIBRARIES} GTest::gtest_main)
   gtest_discover_tests(${target} TEST_PREFIX ${target}. DISCOVERY_TIMEOUT 60
-                       PROPERTIES TIMEOUT 120)
+                       PROPERTIES TIMEOUT 300)
 endfunction()

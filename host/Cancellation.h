@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 
 namespace tavrin {
 
@@ -9,5 +10,8 @@ using CancelFlag = std::atomic<bool>;
 
 // The flag of work that nobody cancels.
 const CancelFlag& neverCancelled();
+
+// How long to wait for somebody who says nothing.
+using Patience = std::chrono::milliseconds;
 
 }  // namespace tavrin

@@ -55,12 +55,21 @@ CommandLine filledIn(const QCommandLineParser& parser) {
   return line;
 }
 
+// What somebody wrote for a number of copies that is none; empty where there is no such thing.
+QString wrongCopies(const QCommandLineParser& parser) {
+  QStringList numbers = parser.values(kCopies);
+  if (const OptString option = optionValue(jobFrom(parser).options, "copies"))
+    numbers << QString::fromStdString(*option);
+  const auto wrong = std::ranges::find_if(numbers, [](const QString& n) { return !copiesFrom(n); });
+  return wrong == numbers.end() ? QString() : *wrong;
+}
+
 // What is wrong with arguments that can each be read; empty when nothing is.
 QString disagreement(const QCommandLineParser& parser) {
   if (parser.positionalArguments().size() > 1) return "Only one document can be printed at a time.";
-  if (parser.isSet(kCopies) && copiesFrom(parser.value(kCopies)) == 0)
+  if (const QString wrong = wrongCopies(parser); !wrong.isNull())
     return QString("“%1” is not a number of copies; it goes from 1 to %2.")
-        .arg(parser.value(kCopies))
+        .arg(wrong)
         .arg(kMostCopies);
   if (parser.isSet(kPPD) + parser.isSet(kSample) + parser.isSet(kPrinter) > 1)
     return "Only one of -d, --ppd and --sample can be given.";

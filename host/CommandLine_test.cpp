@@ -45,7 +45,8 @@ TEST(CommandLine, ThatCannotBeIsRefusedWithTheReason) {
   EXPECT_NE(refusal({"-d"}).find("d"), std::string::npos);
   EXPECT_NE(refusal({"a.pdf", "b.pdf"}).find("one document"), std::string::npos);
   for (const char* copies : {"0", "-2", "many", "10000"})
-    EXPECT_NE(refusal({QString("-n%1").arg(copies), "a.pdf"}).find(copies), std::string::npos);
+    for (const char* option : {"-n%1", "-ocopies=%1"})
+      EXPECT_NE(refusal({QString(option).arg(copies), "a.pdf"}).find(copies), std::string::npos);
   EXPECT_NE(refusal({"--ppd", "a.ppd", "--sample"}).find("Only one of"), std::string::npos);
   EXPECT_NE(refusal({"--output", "jobs", "a.pdf"}).find("--output needs"), std::string::npos);
 }

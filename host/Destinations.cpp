@@ -17,8 +17,6 @@ namespace tavrin {
 
 namespace {
 
-constexpr PrintServer::Seconds kPatience(4);
-
 using Activity = PrinterState::Activity;
 
 Activity activityOf(int ippState) {
@@ -174,8 +172,8 @@ std::string stateText(const PrinterState& state) {
   return words;
 }
 
-Result<std::vector<Printer>> readPrinters(const CancelFlag& cancel) {
-  auto server = PrintServer::connect(cancel, kPatience);
+Result<std::vector<Printer>> readPrinters(const CancelFlag& cancel, Patience patience) {
+  auto server = PrintServer::connect(cancel, patience);
   if (!server) return Failure{server.reason()};
   cups_dest_t* destinations = nullptr;
   const int count = cupsGetDests2(server->http(), &destinations);
@@ -187,8 +185,9 @@ Result<std::vector<Printer>> readPrinters(const CancelFlag& cancel) {
   return printers;
 }
 
-Result<PrinterState> readPrinterState(const std::string& queue, const CancelFlag& cancel) {
-  auto server = PrintServer::connect(cancel, kPatience);
+Result<PrinterState> readPrinterState(const std::string& queue, const CancelFlag& cancel,
+                                      Patience patience) {
+  auto server = PrintServer::connect(cancel, patience);
   if (!server) return Failure{server.reason()};
   const IppPtr answer = ask(server->http(), printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue));
   if (!answer) return server->failure(named(queue) + " cannot be asked for its state");
@@ -200,9 +199,10 @@ Result<PrinterState> readPrinterState(const std::string& queue, const CancelFlag
   return state;
 }
 
-Result<PPDPtr> readPrinterPPD(const std::string& queue, const CancelFlag& cancel) {
+Result<PPDPtr> readPrinterPPD(const std::string& queue, const CancelFlag& cancel,
+                              Patience patience) {
   if (!fitsInPath(queue)) return Failure{"\"" + queue + "\" is not the name of a printer."};
-  auto server = PrintServer::connect(cancel, kPatience);
+  auto server = PrintServer::connect(cancel, patience);
   if (!server) return Failure{server.reason()};
   const std::string what = "The description of the printer \"" + queue + "\" cannot be read";
   const http_status_t status = get(server->http(), "/printers/" + queue + ".ppd");

@@ -10,10 +10,12 @@
 #include "ppd/CupsHandles.h"
 
 // What the print server tells about printers. Every call makes a connection of its own and may be
-// made on any thread. One comes back within about 6 seconds from a server that says nothing (the
-// reason then says so), and sooner, within about 3 seconds, once it is cancelled.
+// made on any thread. One comes back soon after its patience with a server that says nothing is
+// over (the reason then says so), and sooner, within about 3 seconds, once it is cancelled.
 
 namespace tavrin {
+
+constexpr Patience kUsualPatience = std::chrono::seconds(4);
 
 struct PrinterState {
   enum class Activity { unknown, idle, printing, stopped };
@@ -43,15 +45,17 @@ std::string stateText(const PrinterState& state);
 
 // All queues and instances, by name; the reason when the server cannot be asked. None is no
 // failure.
-Result<std::vector<Printer>> readPrinters(const CancelFlag& cancel = neverCancelled());
+Result<std::vector<Printer>> readPrinters(const CancelFlag& cancel = neverCancelled(),
+                                          Patience patience = kUsualPatience);
 
 // One queue's state as it is now; the reason when there is no such queue.
 Result<PrinterState> readPrinterState(const std::string& queue,
-                                      const CancelFlag& cancel = neverCancelled());
+                                      const CancelFlag& cancel = neverCancelled(),
+                                      Patience patience = kUsualPatience);
 
 // The queue's PPD, as loadPPD gives it. The reason when there is no such queue, when it has no PPD,
 // or when the PPD cannot be loaded.
-Result<PPDPtr> readPrinterPPD(const std::string& queue,
-                              const CancelFlag& cancel = neverCancelled());
+Result<PPDPtr> readPrinterPPD(const std::string& queue, const CancelFlag& cancel = neverCancelled(),
+                              Patience patience = kUsualPatience);
 
 }  // namespace tavrin

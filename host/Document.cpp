@@ -5,10 +5,11 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
+
+#include "host/RereadableInput.h"
 
 namespace tavrin {
 
@@ -16,7 +17,6 @@ namespace {
 
 constexpr char kUnknownFormat[] = "application/octet-stream";
 constexpr std::size_t kLookAhead = 512;
-constexpr int kPollMilliseconds = 200;
 
 Failure about(const std::string& document, const std::string& problem) {
   return {"The document \"" + document + "\" " + problem + "."};
@@ -74,10 +74,9 @@ Result<Document> Document::open(const std::filesystem::path& path, const CancelF
   if (!isInput) opened = FileDescriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   if (!isInput && !opened)
     return about(path.string(), std::string("cannot be read: ") + std::strerror(errno));
-  const int descriptor = isInput ? STDIN_FILENO : opened.get();
-  Document document(descriptor, std::move(opened), name);
+  Document document(std::move(opened), name);
   struct stat status {};
-  if (fstat(document.file, &status) != 0 || S_ISDIR(status.st_mode))
+  if (fstat(isInput ? STDIN_FILENO : document.file.get(), &status) != 0 || S_ISDIR(status.st_mode))
     return about(path.string(), "is a folder, not a file");
   if (!isInput && !S_ISREG(status.st_mode) && !S_ISFIFO(status.st_mode))
     return about(path.string(), "is a device, not a file");
@@ -89,14 +88,14 @@ Result<Document> Document::open(const std::filesystem::path& path, const CancelF
   return document;
 }
 
-Document::Document(int descriptor, FileDescriptor owner, std::string name)
-    : file(descriptor), owned(std::move(owner)), documentName(std::move(name)) {}
+Document::Document(FileDescriptor theFile, std::string name)
+    : file(std::move(theFile)), documentName(std::move(name)) {}
 
 Result<bool> Document::lookAhead(const CancelFlag& cancel) {
   std::string bytes(kLookAhead, '\0');
   std::size_t length = 0;
   while (length < bytes.size()) {
-    const auto more = readFile(std::span(bytes).subspan(length), cancel);
+    const auto more = readOn(std::span(bytes).subspan(length), cancel);
     if (!more) return Failure{more.reason()};
     if (*more == 0) break;
     length += *more;
@@ -108,23 +107,19 @@ Result<bool> Document::lookAhead(const CancelFlag& cancel) {
 }
 
 Result<std::size_t> Document::read(std::span<char> buffer, const CancelFlag& cancel) {
-  if (ahead.empty()) return readFile(buffer, cancel);
+  if (ahead.empty()) return readOn(buffer, cancel);
   const std::size_t length = std::min(ahead.size(), buffer.size());
   std::copy_n(ahead.begin(), length, buffer.begin());
   ahead.erase(0, length);
   return length;
 }
 
-Result<std::size_t> Document::readFile(std::span<char> buffer, const CancelFlag& cancel) {
-  while (!cancel) {
-    pollfd waiting{file, POLLIN, 0};
-    if (poll(&waiting, 1, kPollMilliseconds) == 0) continue;
-    const ssize_t bytes = ::read(file, buffer.data(), buffer.size());
-    if (bytes >= 0) return static_cast<std::size_t>(bytes);
-    if (errno != EAGAIN && errno != EINTR)
-      return about(documentName, std::string("cannot be read: ") + std::strerror(errno));
-  }
-  return std::size_t{0};
+Result<std::size_t> Document::readOn(std::span<char> buffer, const CancelFlag& cancel) {
+  const auto bytes = file ? readWhenThere(file.get(), buffer, cancel)
+                          : RereadableInput::standardInput().read(offset, buffer, cancel);
+  if (!bytes) return about(documentName, bytes.reason());
+  offset += *bytes;
+  return bytes;
 }
 
 }  // namespace tavrin

@@ -18,8 +18,8 @@ struct Progress {
   std::uint64_t total = 0;
 };
 
-// A document that is read once, from its start to its end. It exists so that a file and standard
-// input look alike.
+// A document, read from its start to its end. It exists so that a file and standard input look
+// alike; either can be opened again.
 class Document {
  public:
   // Opens a file, or standard input for "-". The reason names a file that is missing, cannot be
@@ -39,13 +39,13 @@ class Document {
   Result<std::size_t> read(std::span<char> buffer, const CancelFlag& cancel);
 
  private:
-  Document(int descriptor, FileDescriptor owner, std::string name);
+  Document(FileDescriptor file, std::string name);
   // Reads the first bytes and looks what they are; false when there are none.
   Result<bool> lookAhead(const CancelFlag& cancel);
-  Result<std::size_t> readFile(std::span<char> buffer, const CancelFlag& cancel);
+  Result<std::size_t> readOn(std::span<char> buffer, const CancelFlag& cancel);
 
-  int file;
-  FileDescriptor owned;  // of the file, unless it is standard input
+  FileDescriptor file;       // none for standard input
+  std::uint64_t offset = 0;  // what has been read
   std::string documentName;
   std::string mimeType;
   std::uint64_t bytesInAll = 0;

@@ -40,6 +40,7 @@ GeneralArea::GeneralArea(QWidget* parent)
 
 void GeneralArea::addCopiesRow() {
   copiesBox->setObjectName("copies");
+  copiesBox->setAccessibleName(tr("Copies"));
   copiesBox->setRange(1, kMostCopies);
   auto* row = makeChild<QWidget>(this);
   auto* line = makeChild<QHBoxLayout>(row);
@@ -62,8 +63,7 @@ void GeneralArea::addPagesRow() {
   line->addWidget(allPages);
   line->addWidget(somePages);
   line->addWidget(rangeEdit, 1);
-  auto* title = makeChild<QLabel>(tr("Pages:"), this);
-  form->addRow(title, row);
+  addRow(*form, tr("Pages:"), *row);
   form->addRow(nullptr, rangeProblem);
   connect(rangeEdit, &QLineEdit::textEdited, this, [this] { somePages->setChecked(true); });
   connect(rangeEdit, &QLineEdit::editingFinished, this, &GeneralArea::showRangeProblem);

@@ -10,8 +10,7 @@ namespace tavrin {
 
 namespace {
 
-constexpr PrintServer::Seconds kPatience(10);
-constexpr PrintServer::Seconds kShortPatience(3);
+constexpr Patience kShortPatience = std::chrono::seconds(3);
 
 // One job on its way to its queue.
 class Delivery {
@@ -125,11 +124,12 @@ void compare(PrintServer& server, const OptionList& options, Submission& submiss
 }  // namespace
 
 Result<Submission> submitJob(const JobRequest& request, const OptionList& options,
-                             const CancelFlag& cancel, const ProgressCallback& progress) {
+                             const CancelFlag& cancel, const ProgressCallback& progress,
+                             Patience patience) {
   Submission submission{0, false, jobTitle(request), {}, {}};
   auto document = Document::open(request.document, cancel);
   if (!document) return Failure{document.reason()};
-  auto server = PrintServer::connect(cancel, kPatience);
+  auto server = PrintServer::connect(cancel, patience);
   if (!server) return Failure{server.reason()};
 
   const CupsOptions array(options);

@@ -21,14 +21,18 @@ struct Submission {
   std::string notReadBack;
 };
 
+// A server that takes a job may be busy with others.
+constexpr Patience kJobPatience = std::chrono::seconds(10);
+
 using ProgressCallback = std::function<void(const Progress&)>;
 
 // Sends the document to the request's queue with these options (see jobOptions), then reads the
-// job back. Runs on any thread, tells the progress on that thread, and gives up about 10 seconds
-// after the server's last sign of life; once cancelled, soon. The reason names the printer or the
-// document; no half-sent job stays in the queue.
+// job back. Runs on any thread, tells the progress on that thread, and gives up when its
+// patience since the server's last sign of life is over; once cancelled, soon. The reason names the
+// printer or the document; no half-sent job stays in the queue.
 Result<Submission> submitJob(const JobRequest& request, const OptionList& options,
                              const CancelFlag& cancel = neverCancelled(),
-                             const ProgressCallback& progress = {});
+                             const ProgressCallback& progress = {},
+                             Patience patience = kJobPatience);
 
 }  // namespace tavrin

@@ -44,9 +44,11 @@ LayoutPane::LayoutPane(QWidget* parent)
 
 int LayoutPane::pagesPerSheet() const { return pagesPopUp->currentData().toInt(); }
 
-void LayoutPane::suggestPagesPerSheet(int pages) {
+bool LayoutPane::suggestPagesPerSheet(int pages) {
   const int index = pagesPopUp->findData(pages);
-  if (index >= 0 && !pickedByHand) pagesPopUp->setCurrentIndex(index);
+  if (index < 0) return false;
+  if (!pickedByHand) pagesPopUp->setCurrentIndex(index);
+  return true;
 }
 
 void LayoutPane::setMarks(PPDMarks* theMarks) {

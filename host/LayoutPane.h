@@ -29,8 +29,8 @@ class LayoutPane : public Pane {
 
   int pagesPerSheet() const;
   // What the program or the printer would have. Stays without effect once the person has picked a
-  // number, and for one that the print system cannot lay out.
-  void suggestPagesPerSheet(int pages);
+  // number. False, and nothing changes, for one that the print system cannot lay out.
+  bool suggestPagesPerSheet(int pages);
 
   // Takes the printer's two-sided option; null for no printer. The marks outlive their use here.
   void setMarks(PPDMarks* marks);

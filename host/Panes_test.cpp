@@ -54,14 +54,14 @@ TEST(LayoutPane, OffersTwoSidedOnlyWhereThePrinterCan) {
 
 TEST(LayoutPane, TakesASuggestionUntilThePersonPicks) {
   LayoutPane pane(nullptr);
-  pane.suggestPagesPerSheet(4);
+  EXPECT_TRUE(pane.suggestPagesPerSheet(4));
   EXPECT_EQ(pane.pagesPerSheet(), 4);
-  pane.suggestPagesPerSheet(5);
+  EXPECT_FALSE(pane.suggestPagesPerSheet(5));
   EXPECT_EQ(pane.pagesPerSheet(), 4);
   auto* popUp = pane.findChild<QComboBox*>("pagesPerSheet");
   popUp->setCurrentIndex(popUp->findData(9));
   emit popUp->activated(popUp->currentIndex());
-  pane.suggestPagesPerSheet(1);
+  EXPECT_TRUE(pane.suggestPagesPerSheet(1));
   EXPECT_EQ(pane.pagesPerSheet(), 9);
 }
 

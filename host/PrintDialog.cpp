@@ -30,6 +30,15 @@ namespace {
 // What a window manager puts around a window, at most.
 constexpr QSize kWindowFrame(16, 48);
 
+// Room for most panels, in line heights, so that the window does not jump when one comes in.
+constexpr int kUsualWidth = 35;
+
+QString titleFor(const JobRequest& request) {
+  const bool isNamed = !request.title.empty() || request.document != "-";
+  return isNamed ? PrintDialog::tr("Print “%1”").arg(shownLine(jobTitle(request)))
+                 : PrintDialog::tr("Print");
+}
+
 }  // namespace
 
 PrintDialog::PrintDialog(JobRequest theRequest, QWidget* parent)
@@ -45,7 +54,7 @@ PrintDialog::PrintDialog(JobRequest theRequest, QWidget* parent)
       layoutPane(makeChild<LayoutPane>(switcher)),
       summaryPane(makeChild<SummaryPane>([this] { return allLines(); }, switcher)),
       stateTimer(makeChild<QTimer>(this)) {
-  setWindowTitle(tr("Print"));
+  setWindowTitle(titleFor(request));
   build();
   fillIn();
   connectParts();
@@ -68,6 +77,7 @@ void PrintDialog::build() {
   column->addWidget(note);
   column->addWidget(buttons);
   switcher->setPanes({layoutPane, summaryPane}, layoutPane->name());
+  resize(kUsualWidth * fontMetrics().height(), 0);
   note->setObjectName("note");
   conflictNote->setObjectName("conflictNote");
 }
@@ -95,13 +105,19 @@ void PrintDialog::connectParts() {
 
 void PrintDialog::setVisible(bool visible) {
   // Left to itself, a dialog comes up with two thirds of the screen at most.
-  if (visible) fit();
+  if (visible) {
+    lineUpForms(*content);
+    fit();
+  }
   QDialog::setVisible(visible);
 }
 
 bool PrintDialog::event(QEvent* event) {
   const bool handled = QDialog::event(event);
-  if (event->type() == QEvent::LayoutRequest) fit();
+  if (event->type() == QEvent::LayoutRequest) {
+    lineUpForms(*content);
+    fit();
+  }
   return handled;
 }
 

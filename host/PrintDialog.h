@@ -79,19 +79,21 @@ class PrintDialog : public QDialog {
   void showConflicts();
   std::vector<std::pair<QString, std::vector<std::pair<QString, QString>>>> allLines() const;
 
-  // Printers and their settings.
+  // Printers.
   void connectBrowser();
   void showPrinters(const std::vector<Printer>& printers);
   void noPrinters(const QString& reason);
   void choosePrinter();
   void takePPD(const SharedPPD& ppd);
   void goWithoutPPD(const QString& reason);
+  void watchState();
+
+  // The settings of the printer that was picked.
   void beginSession(const SharedPPD& ppd);
   void endSession();
   void makePanes();
   OptionList startOptions() const;
-  std::vector<std::string> markPrinter();
-  void watchState();
+  QString markPrinter();
 
   // The job.
   void connectRunner();

@@ -1,18 +1,11 @@
-#include <algorithm>
-
 #include <QTimer>
 
-#include "host/FeaturesPane.h"
 #include "host/GeneralArea.h"
 #include "host/JobButtons.h"
-#include "host/LayoutPane.h"
 #include "host/Note.h"
 #include "host/PaneSwitcher.h"
-#include "host/PanelPane.h"
 #include "host/PrintDialog.h"
 #include "host/PrinterPopUp.h"
-#include "host/SummaryPane.h"
-#include "host/Widgets.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
@@ -20,14 +13,6 @@ namespace tavrin {
 namespace {
 
 constexpr int kStateInterval = 10'000;  // milliseconds
-constexpr char kPagesPerSheetOption[] = "number-up";
-
-QString joined(const std::vector<std::string>& sentences) {
-  QStringList texts;
-  for (const std::string& sentence : sentences)
-    if (!sentence.empty()) texts << shownLines(sentence);
-  return texts.join(' ');
-}
 
 }  // namespace
 
@@ -92,7 +77,7 @@ void PrintDialog::choosePrinter() {
   const Printer& printer = *general->printers().selected();
   note->clear();
   if (current && queueOfSession == printer.name) {
-    note->say(joined(markPrinter()));
+    note->say(markPrinter());
     return switcher->showAgain();
   }
   endSession();
@@ -119,75 +104,6 @@ void PrintDialog::goWithoutPPD(const QString& reason) {
   note->say(tr("%1 The document can be printed all the same, with the printer's usual settings.")
                 .arg(reason));
   buttons->setState(JobButtons::State::ready);
-}
-
-void PrintDialog::beginSession(const SharedPPD& ppd) {
-  queueOfSession = general->printers().selected()->name;
-  current = std::make_unique<PrinterSession>(ppd);
-  std::vector<std::string> problems = markPrinter();
-  problems.push_back(current->loadPanels());
-  note->say(joined(problems), Note::Kind::information);
-  general->setMarks(&current->marks());
-  layoutPane->setMarks(&current->marks());
-  makePanes();
-  connect(&current->marks(), &PPDMarks::refreshed, this, &PrintDialog::showConflicts);
-  connect(current.get(), &PrinterSession::panelResized, this, [this] {
-    for (PanelPane* pane : panelPanes) pane->followView();
-  });
-  buttons->setState(JobButtons::State::ready);
-  showConflicts();
-  emit sessionChanged();
-}
-
-void PrintDialog::makePanes() {
-  std::vector<Pane*> panes{layoutPane};
-  std::set<std::string> elsewhere = current->claimedKeywords();
-  elsewhere.insert({"PageSize", "PageRegion"});
-  if (const ppd_option_t* twoSided = twoSidedOption(current->ppd()))
-    elsewhere.insert(twoSided->keyword);
-  featuresPane = makeChild<FeaturesPane>(current->marks(), elsewhere, switcher);
-  connect(featuresPane, &FeaturesPane::laidOutAnew, this, [this] {
-    orderTabs({content, note, buttons});
-  });
-  if (!featuresPane->isEmpty()) panes.push_back(featuresPane);
-  for (const auto& panel : current->panels()) {
-    panelPanes.push_back(makeChild<PanelPane>(*panel, switcher));
-    connect(panelPanes.back(), &PanelPane::saveFailed, this,
-            [this](const QString& reason) { note->say(reason); });
-    panes.push_back(panelPanes.back());
-  }
-  panes.push_back(summaryPane);
-  const QString first = panelPanes.empty() ? layoutPane->name() : panelPanes.front()->name();
-  switcher->setPanes(panes, first);
-  orderTabs({content, note, buttons});
-}
-
-void PrintDialog::endSession() {
-  if (!current) return;
-  switcher->setPanes({layoutPane, summaryPane}, layoutPane->name());
-  conflictNote->clear();
-  general->setMarks(nullptr);
-  layoutPane->setMarks(nullptr);
-  // The panes go before the panels and marks that they show.
-  const std::unique_ptr<QWidget> features(std::exchange(featuresPane, nullptr));
-  for (PanelPane* pane : std::exchange(panelPanes, {})) const std::unique_ptr<QWidget> gone(pane);
-  current.reset();
-}
-
-// The printer's saved options under the program's: what lp would send.
-OptionList PrintDialog::startOptions() const {
-  OptionList options;
-  if (const Printer* printer = general->printers().selected()) options = printer->options;
-  for (const auto& [name, value] : request.options) setOption(options, name, value);
-  return options;
-}
-
-std::vector<std::string> PrintDialog::markPrinter() {
-  const OptionList options = startOptions();
-  const int pages = integerValue(optionValue(options, kPagesPerSheetOption));
-  layoutPane->suggestPagesPerSheet(std::max(pages, 1));
-  current->setPagesPerSheet(layoutPane->pagesPerSheet());
-  return current->markAnew(options);
 }
 
 }  // namespace tavrin

@@ -1,5 +1,8 @@
 #include "host/PrintDialog.h"
 
+#include <sys/stat.h>
+
+#include <QAccessible>
 #include <QComboBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -14,6 +17,7 @@
 #include "host/PPDLoader.h"
 #include "host/PrinterPopUp.h"
 #include "host/PrivateCupsd.h"
+#include "host/SilentServer.h"
 #include "platform/qt/QtToolkit.h"
 
 // The dialog as a person and a program meet it, with the real plug-in.
@@ -86,6 +90,9 @@ TEST_F(PrintDialogTest, ShowsThePanelOfThePrinter) {
   for (int i = 0; i < panes->count(); ++i) names << panes->itemText(i);
   EXPECT_EQ(names, (QStringList{"Layout", "Printer Features", "Print Settings", "Summary"}));
   EXPECT_EQ(panes->currentText(), "Print Settings");
+  dialog.show();
+  // A second tray is installed in this printer; the panel sees so when it comes up.
+  EXPECT_TRUE(dialog.findChild<QComboBox*>("ibPaperSource")->isVisible());
 }
 
 TEST_F(PrintDialogTest, LeavesThePanelsOptionsOutOfTheFeatures) {
@@ -120,6 +127,30 @@ TEST_F(PrintDialogTest, SumsUpEveryPane) {
   EXPECT_TRUE(has(lines, "Pages per sheet: 2"));
   const std::string ironOn = *dialog.session()->marks().choiceText("MediaType");
   EXPECT_TRUE(has(lines, "Paper Type: " + ironOn));
+}
+
+TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  for (const char* pane : {"Layout", "Printer Features"}) {
+    turnTo(dialog, pane);
+    QCoreApplication::processEvents();
+    std::set<int> edges;
+    for (const char* name : {"printer", "PageSize", "pagesPerSheet", "Duplex", "featureGroup"})
+      if (const auto* control = dialog.findChild<QWidget*>(name); control->isVisible())
+        edges.insert(control->mapTo(&dialog, QPoint(0, 0)).x());
+    EXPECT_EQ(edges.size(), 1u) << pane;
+  }
+}
+
+TEST_F(PrintDialogTest, NamesPagesPerSheetThatCannotBe) {
+  JobRequest request = job();
+  request.options = {{"number-up", "3"}};
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  EXPECT_EQ(dialog.findChild<Note*>("note")->text(),
+            "A sheet can hold 1, 2, 4, 6, 9 or 16 pages, not “3”.");
 }
 
 TEST_F(PrintDialogTest, ShowsAPrinterWithoutItsPlugInAndSaysSo) {
@@ -172,6 +203,13 @@ TEST_F(PrintDialogTest, LosesNothingWhenTheJobCannotBeWritten) {
   EXPECT_EQ(dialog.findChild<Note*>("note")->text(), dialog.report());
 }
 
+// What a screen reader calls a control, by itself or by its label.
+bool hasName(QWidget& control) {
+  QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&control);
+  return !interface->text(QAccessible::Name).isEmpty() ||
+         !interface->relations(QAccessible::Label).isEmpty();
+}
+
 TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
   PrintDialog dialog(job());
   dialog.usePrinterWithoutQueue(samplePPD(), place.path());
@@ -182,10 +220,54 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
   while (stops.back() != "print" && stops.size() < 20) {
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     stops << dialog.focusWidget()->objectName();
+    EXPECT_TRUE(hasName(*dialog.focusWidget())) << stops.back().toStdString();
   }
   stops.removeAll("");
   EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "PageSize", "panes",
                                 "pagesPerSheet", "Duplex", "help", "cancel", "print"}));
+}
+
+TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {
+  const SilentServer server;
+  PrintDialog dialog(job());
+  dialog.usePrintServer();
+  dialog.show();
+  EXPECT_EQ(dialog.findChild<PrinterPopUp*>()->placeholderText(), "Looking for printers…");
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  press(dialog, "cancel");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::cancelled);
+}
+
+TEST_F(PrintDialogTest, TakesAJobBackWhileItIsOnItsWay) {
+  JobRequest request = job();
+  request.document = place.path() / "pipe";  // nobody ever fills it, so the job never ends
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  press(dialog, "print");
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  press(dialog, "cancel");
+  EXPECT_TRUE(dialog.isVisible());
+  auto* note = dialog.findChild<Note*>("note");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !note->text().isEmpty(); }, kPatience));
+  EXPECT_EQ(note->text(), "Printing was cancelled. The settings are as they were.");
+  EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
+}
+
+TEST_F(PrintDialogTest, ASecondCancelDoesNotWaitForTheFirst) {
+  JobRequest request = job();
+  request.document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  press(dialog, "print");
+  press(dialog, "cancel");
+  press(dialog, "cancel");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::cancelled);
 }
 
 TEST_F(PrintDialogTest, EscapeCancels) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <memory>
 #include <string>
 
@@ -15,11 +14,9 @@ namespace tavrin {
 // cancelled, whichever comes first.
 class PrintServer {
  public:
-  using Seconds = std::chrono::duration<double>;
-
   // Connects to the server that the environment and the configuration of the print system name.
   // Takes no longer than the patience. The flag must outlive the connection.
-  static Result<PrintServer> connect(const CancelFlag& cancel, Seconds patience);
+  static Result<PrintServer> connect(const CancelFlag& cancel, Patience patience);
   ~PrintServer();
   PrintServer(PrintServer&&) noexcept;
   PrintServer& operator=(PrintServer&&) noexcept;

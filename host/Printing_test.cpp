@@ -37,7 +37,7 @@ class PrintingTest : public testing::Test {
   }
   // The job's state as the server has it.
   static int jobState(int jobId) {
-    const auto server = PrintServer::connect(neverCancelled(), PrintServer::Seconds(5));
+    const auto server = PrintServer::connect(neverCancelled(), std::chrono::seconds(5));
     const IppPtr job = ask(server->http(), jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, jobId));
     return job ? integerIn(*job, "job-state") : 0;
   }
@@ -113,6 +113,14 @@ TEST_F(PrintingTest, AnUnknownPrinterIsNamed) {
   EXPECT_EQ(readPrinterState("nowhere").reason(),
             "The printer \"nowhere\" cannot be asked for its state: The printer or class does not "
             "exist.");
+}
+
+TEST_F(PrintingTest, AUserWhoMayNotPrintIsToldSo) {
+  cups.addQueue(kQueue, plainPPD());
+  cups.run({"lpadmin", "-p", kQueue, "-u", "allow:nobody-else"});
+  const auto submission = submitJob(request(), {});
+  ASSERT_FALSE(submission);
+  EXPECT_NE(submission.reason().find("the print server does not allow it"), std::string::npos);
 }
 
 TEST_F(PrintingTest, AnEmptyDocumentMakesNoJob) {

@@ -10,9 +10,9 @@
 namespace tavrin {
 
 // A print server of a test's own, on a socket in a folder of its own, with a back end that writes
-// down what it gets. Needs root and cupsd; without them it throws, so that no test passes that did
-// not print. While it lives, CUPS_SERVER names it and HOME is an empty folder; a thread that has
-// used libcups before it knows only the first of these.
+// down what it gets. Needs cupsd, and no rights; without it it throws, so that no test passes that
+// did not print. While it lives, CUPS_SERVER names it and HOME is an empty folder; a thread that
+// has used libcups before it knows only the first of these.
 class PrivateCupsd {
  public:
   PrivateCupsd();

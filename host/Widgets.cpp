@@ -13,6 +13,16 @@ namespace tavrin {
 namespace {
 
 constexpr int kLeastPopUpLetters = 16;
+constexpr int kMostLabelLetters = 24;
+
+std::vector<QWidget*> labelsOf(const QWidget& widget) {
+  std::vector<QWidget*> labels;
+  for (const QFormLayout* form : widget.findChildren<QFormLayout*>())
+    for (int row = 0; row < form->rowCount(); ++row)
+      if (QLayoutItem* label = form->itemAt(row, QFormLayout::LabelRole))
+        labels.push_back(label->widget());
+  return labels;
+}
 
 void addStops(QWidget& widget, std::vector<QWidget*>& stops);
 
@@ -50,6 +60,7 @@ QLabel* makeTextLabel(QWidget* parent) {
 QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control) {
   auto* title = makeChild<QLabel>(form.parentWidget());
   title->setTextFormat(Qt::PlainText);
+  title->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   title->setBuddy(&control);
   title->setText(label);
   form.addRow(title, &control);
@@ -63,6 +74,15 @@ QFormLayout* makeForm(QWidget* parent) {
   form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   return form;
+}
+
+void lineUpForms(const QWidget& widget) {
+  const int most = widget.fontMetrics().averageCharWidth() * kMostLabelLetters;
+  int width = 0;
+  for (const QWidget* label : labelsOf(widget))
+    if (const int wanted = label->sizeHint().width(); wanted <= most)
+      width = std::max(width, wanted);
+  for (QWidget* label : labelsOf(widget)) label->setMinimumWidth(width);
 }
 
 void letPopUpShrink(QComboBox& popUp) {

@@ -31,6 +31,10 @@ QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control);
 // window is too narrow for both.
 QFormLayout* makeForm(QWidget* parent);
 
+// Puts the colons of all forms in the widget in one line, so that the controls above and below
+// each other share an edge. A label longer than most, which a PPD may have, stays by itself.
+void lineUpForms(const QWidget& widget);
+
 // Lets a pop-up be narrower than its longest item, and its list be as wide as that item.
 void letPopUpShrink(QComboBox& popUp);
 

@@ -1,6 +1,7 @@
 // tavrin-print: the Print dialog as a command.
 
 #include <cstdlib>
+#include <fcntl.h>
 #include <iostream>
 #include <unistd.h>
 
@@ -9,6 +10,7 @@
 #include "host/CommandLine.h"
 #include "host/DesktopHelpViewer.h"
 #include "host/Document.h"
+#include "host/FileDescriptor.h"
 #include "host/PPDLoader.h"
 #include "host/PrintDialog.h"
 #include "host/Samples.h"
@@ -30,6 +32,17 @@ bool hasDisplay() {
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
     if (const char* value = std::getenv(name); value && *value) return true;
   return false;
+}
+
+// A pipe gives its contents once. As standard input they are kept, so that a job that failed can
+// be sent again.
+void takeForStandardInput(JobRequest& job) {
+  std::error_code none;
+  if (!std::filesystem::is_fifo(job.document, none)) return;
+  const FileDescriptor pipe(open(job.document.c_str(), O_RDONLY | O_NONBLOCK));
+  if (!pipe || dup2(pipe.get(), STDIN_FILENO) < 0) return;  // the dialog will say why
+  if (job.title.empty()) job.title = job.document.filename().string();
+  job.document = "-";
 }
 
 // Why the document cannot be printed whatever the printer; empty when it can. Standard input is
@@ -57,7 +70,6 @@ int report(const PrintDialog& dialog) {
 int show(const CommandLine& line, SharedPPD ppd, int& argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("tavrin-print");
-  QApplication::setApplicationDisplayName(QObject::tr("Print"));
   QtToolkit toolkit;
   Toolkit::install(&toolkit);
   DesktopHelpViewer helpViewer;
@@ -86,6 +98,7 @@ int print(CommandLine line, int& argc, char** argv) {
   }
   if (line.job.document == "-" && !line.namesDocument && isatty(STDIN_FILENO))
     return complain(kUsage, "No document was named. Name a file, or - to type the document.");
+  takeForStandardInput(line.job);
   if (const std::string problem = documentProblem(line.job.document); !problem.empty())
     return complain(kNotPrinted, problem);
   SharedPPD ppd;

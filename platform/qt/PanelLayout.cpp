@@ -24,6 +24,9 @@ namespace {
 // The height of the text that the points of an interface file are drawn for.
 constexpr double kDesignTextHeight = 15;
 
+// How narrow the design's distances get, at most, where the screen is narrow.
+constexpr double kNarrowestGaps = 0.25;
+
 bool isView(const QWidget& widget) { return widget.property(kFrame).isValid(); }
 
 QList<QWidget*> viewsIn(const QWidget& parent) {
@@ -114,6 +117,7 @@ void PanelLayout::addItem(QLayoutItem* item) { const std::unique_ptr<QLayoutItem
 
 void PanelLayout::invalidate() {
   hint.reset();
+  minimum.reset();
   QLayout::invalidate();
 }
 
@@ -168,6 +172,17 @@ EdgeRuler PanelLayout::rulerFor(const std::vector<Place>& places, double scale) 
   return EdgeRuler(frameOf(*parentWidget()).width, scale, spans);
 }
 
+// A ruler's width is a convex function of its scale, so that a scale in proportion fits.
+EdgeRuler PanelLayout::rulerWithin(const std::vector<Place>& places, double scale,
+                                   double width) const {
+  EdgeRuler full = rulerFor(places, scale);
+  full.widen(width);
+  if (full.width() <= width) return full;
+  const double least = rulerFor(places, scale * kNarrowestGaps).width();
+  const double part = std::clamp((width - least) / (full.width() - least), 0.0, 1.0);
+  return rulerFor(places, scale * std::lerp(kNarrowestGaps, 1.0, part));
+}
+
 // Down to the lowest visible control, and as much below it as is above the highest.
 double PanelLayout::usedHeight(const std::vector<Place>& places) const {
   const double height = frameOf(*parentWidget()).height;
@@ -181,15 +196,22 @@ double PanelLayout::usedHeight(const std::vector<Place>& places) const {
   return lowest > 0 ? std::min(height, lowest + highest) : height;
 }
 
+QSize PanelLayout::sizeWithGaps(double factor) const {
+  std::vector<Place> places;
+  collect(*parentWidget(), 0, 0, true, places);
+  const double scale = scaleFor(places);
+  return QSize(int(std::ceil(rulerFor(places, scale * factor).width())),
+               int(std::ceil(usedHeight(places) * scale)));
+}
+
 QSize PanelLayout::sizeHint() const {
-  if (!hint) {
-    std::vector<Place> places;
-    collect(*parentWidget(), 0, 0, true, places);
-    const double scale = scaleFor(places);
-    hint = QSize(int(std::ceil(rulerFor(places, scale).width())),
-                 int(std::ceil(usedHeight(places) * scale)));
-  }
+  if (!hint) hint = sizeWithGaps(1);
   return *hint;
+}
+
+QSize PanelLayout::minimumSize() const {
+  if (!minimum) minimum = sizeWithGaps(kNarrowestGaps);
+  return *minimum;
 }
 
 void PanelLayout::put(const Place& place, const EdgeRuler& ruler, double scale,
@@ -211,8 +233,7 @@ void PanelLayout::setGeometry(const QRect& area) {
   std::vector<Place> places;
   collect(*parentWidget(), 0, 0, true, places);
   const double scale = scaleFor(places);
-  EdgeRuler ruler = rulerFor(places, scale);
-  ruler.widen(area.width());
+  const EdgeRuler ruler = rulerWithin(places, scale, area.width());
   for (const Place& place : places) put(place, ruler, scale, area);
 }
 

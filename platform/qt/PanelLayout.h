@@ -19,9 +19,9 @@ void layoutChanged(QWidget& widget);
 
 // Lays out a whole panel, a view with views in it, from the frames that the core sets: points,
 // origin bottom left. A point is as many pixels as the font asks for; the columns of all views
-// share one ruler, so that a long text widens its column everywhere. Where visible views reach
-// above their parent, the parent shows their top; room that nothing uses at the bottom is not
-// shown.
+// share one ruler, so that a long text widens its column everywhere. On a narrow screen only the
+// room between the texts and controls gets narrower. Where visible views reach above their parent,
+// the parent shows their top; room that nothing uses at the bottom is not shown.
 class PanelLayout : public QLayout {
  public:
   // Takes over a view that has no layout of its own; belongs to the view. The frames of the views
@@ -31,7 +31,7 @@ class PanelLayout : public QLayout {
   explicit PanelLayout(QWidget* root);
 
   QSize sizeHint() const override;
-  QSize minimumSize() const override { return sizeHint(); }
+  QSize minimumSize() const override;
   void setGeometry(const QRect& area) override;
   void invalidate() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -55,10 +55,13 @@ class PanelLayout : public QLayout {
                std::vector<Place>& places) const;
   double scaleFor(const std::vector<Place>& places) const;
   EdgeRuler rulerFor(const std::vector<Place>& places, double scale) const;
+  EdgeRuler rulerWithin(const std::vector<Place>& places, double scale, double width) const;
+  QSize sizeWithGaps(double factor) const;
   double usedHeight(const std::vector<Place>& places) const;
   void put(const Place& place, const EdgeRuler& ruler, double scale, const QRect& area) const;
 
   mutable std::optional<QSize> hint;
+  mutable std::optional<QSize> minimum;
 };
 
 }  // namespace tavrin

@@ -19,6 +19,14 @@ struct Shape {
   double points;
   const char* suffix;
   Qt::LayoutDirection direction = Qt::LeftToRight;
+  bool narrow = false;  // as narrow as it gets
+
+  friend void PrintTo(const Shape& shape, std::ostream* out) {
+    *out << (shape.secondTray ? "two trays" : "one tray") << (shape.expanded ? ", expanded" : "")
+         << ", " << shape.points << " points" << shape.suffix
+         << (shape.direction == Qt::RightToLeft ? ", right to left" : "")
+         << (shape.narrow ? ", narrow" : "");
+  }
 };
 
 class PanelShapes : public testing::TestWithParam<Shape> {
@@ -34,7 +42,7 @@ class PanelShapes : public testing::TestWithParam<Shape> {
     panel.disclose(shape.expanded);
     layout.addWidget(&panel.widget());
     panel.widget().show();
-    host.adjustSize();
+    host.resize(shape.narrow ? host.minimumSizeHint() : host.sizeHint());
     host.show();
     QCoreApplication::processEvents();
   }
@@ -71,6 +79,19 @@ TEST_P(PanelShapes, NothingIsClipped) {
     if (!qobject_cast<const QComboBox*>(leaf)) {
       EXPECT_GE(leaf->width(), leaf->sizeHint().width()) << name;
     }
+  }
+}
+
+TEST_P(PanelShapes, FitsEveryWidthBetweenItsLeastAndItsHint) {
+  const int least = panel.widget().minimumSizeHint().width();
+  const int wanted = panel.widget().sizeHint().width();
+  EXPECT_LT(least, wanted);
+  for (int width = least; width < wanted; width += 7) {
+    panel.widget().resize(width, panel.widget().height());
+    panel.widget().layout()->activate();
+    for (const QWidget* leaf : leaves())
+      EXPECT_TRUE(panel.widget().rect().contains(placeOf(*leaf)))
+          << width << ": " << leaf->objectName().toStdString();
   }
 }
 
@@ -162,7 +183,9 @@ std::vector<Shape> shapes() {
                                 {tray, expanded, 16, ""},
                                 {tray, expanded, 9, " in a language half as long again"},
                                 {tray, expanded, 6, ""},
-                                {tray, expanded, 12, "", Qt::RightToLeft}})
+                                {tray, expanded, 12, "", Qt::RightToLeft},
+                                {tray, expanded, 9, "", Qt::LeftToRight, true},
+                                {tray, expanded, 16, "", Qt::RightToLeft, true}})
         all.push_back(look);
   return all;
 }
