@@ -46,7 +46,7 @@ struct SeenWindow {
 };
 
 // A panel's conflict windows on a toolkit without a screen.
-class ConflictWindowsTest : public ::testing::Test {
+class ConflictWindowsTest : public testing::Test {
  protected:
   ConflictWindowsTest() {
     NotificationCenter::defaultCenter().addObserver(

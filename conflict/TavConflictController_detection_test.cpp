@@ -9,7 +9,7 @@ namespace {
 
 using Codes = std::vector<int>;
 
-class Detection : public ::testing::Test {
+class Detection : public testing::Test {
  protected:
   FreshConflicts fresh;
   PrinterRoot root;

@@ -13,8 +13,8 @@
 namespace tavrin {
 namespace {
 
-using testing::LocaleEnvironment;
-using testing::xmlEntry;
+using test::LocaleEnvironment;
+using test::xmlEntry;
 
 class RecordingViewer final : public HelpViewer {
  public:
@@ -38,17 +38,17 @@ TEST(HelpViewer, IsTheOneThatTheProgramInstalled) {
   EXPECT_NE(&HelpViewer::current(), &viewer);
 }
 
-class HelpBookTest : public ::testing::Test {
+class HelpBookTest : public testing::Test {
  protected:
   std::filesystem::path write(const std::string& name, const std::string& title = "Page") {
     return folder.write("book/" + name, "<title>" + title + "</title>");
   }
   void writeInfo(const std::string& entries) {
-    folder.write("book/Contents/Info.plist", testing::xmlList("<dict>" + entries + "</dict>"));
+    folder.write("book/Contents/Info.plist", test::xmlList("<dict>" + entries + "</dict>"));
   }
   HelpBook book() const { return helpBookAt(folder.path() / "book"); }
 
-  testing::TemporaryFolder folder;
+  test::TemporaryFolder folder;
   LocaleEnvironment locale{{"LC_ALL", "de_DE.UTF-8"}};
 };
 
@@ -143,7 +143,7 @@ TEST_F(HelpBookTest, WithoutAFolderIsNoBook) {
 
 TEST_F(HelpBookTest, WithAnOversizeStartPageHasNoTitle) {
   const auto start = write("index.html", "Title");
-  std::ofstream(start, std::ios::app) << testing::repeated(" ", 1024 * 1024);
+  std::ofstream(start, std::ios::app) << test::repeated(" ", 1024 * 1024);
   EXPECT_EQ(book().startPage, start);
   EXPECT_EQ(book().name, "");
 }

@@ -22,7 +22,7 @@
 namespace tavrin {
 namespace {
 
-class TraceLog : public ::testing::Test {
+class TraceLog : public testing::Test {
  protected:
   // Runs the example in a child with its standard error in a file.
   template <class Example>
@@ -57,7 +57,7 @@ class TraceLog : public ::testing::Test {
     return stat(path(name).c_str(), &file) == 0 ? file.st_mode & 07777U : 0;
   }
 
-  testing::TemporaryFolder folder;
+  test::TemporaryFolder folder;
 };
 
 // A line at a place that does not matter.

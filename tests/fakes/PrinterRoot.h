@@ -56,7 +56,7 @@ class PrinterRoot {
     return folder.path() / "Library/Printers/Tavrin/Preferences";
   }
 
-  testing::TemporaryFolder folder;
+  test::TemporaryFolder folder;
 };
 
 }  // namespace tavrin

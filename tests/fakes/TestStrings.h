@@ -17,7 +17,7 @@ class TestStrings {
  public:
   explicit TestStrings(const Translations& translations) : before(plugInBundle()) {
     folder.write("Contents/Resources/de.lproj/Localizable.strings", table(translations));
-    const testing::LocaleEnvironment german{{"LC_ALL", "de_DE.UTF-8"}};
+    const test::LocaleEnvironment german{{"LC_ALL", "de_DE.UTF-8"}};
     setPlugInBundle(Bundle::atPath(folder.path()));
   }
   ~TestStrings() { setPlugInBundle(before); }
@@ -42,7 +42,7 @@ class TestStrings {
   }
 
   Bundle before;
-  testing::TemporaryFolder folder;
+  test::TemporaryFolder folder;
 };
 
 }  // namespace tavrin
