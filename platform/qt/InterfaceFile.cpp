@@ -1,6 +1,7 @@
 #include "platform/qt/InterfaceFile.h"
 
 #include <algorithm>
+#include <vector>
 
 #include <QSet>
 #include <QXmlStreamReader>
@@ -111,11 +112,12 @@ class Inspection {
         return false;
       case QXmlStreamReader::StartElement:
         text.clear();
-        if (xml.name() == u"widget") ++widgets;
-        return ++depth <= kDepthLimit && widgets <= kWidgetLimit && isAllowedElement(xml);
+        return ++depth <= kDepthLimit && isAllowedElement(xml) &&
+               (xml.name() != u"widget" || enterWidget());
       case QXmlStreamReader::EndElement:
         --depth;
         text.clear();
+        if (xml.name() == u"widget") open.pop_back();
         return true;
       case QXmlStreamReader::Characters:
         // A comment or a CDATA section cuts a text into pieces that the form builder joins again.
@@ -126,7 +128,21 @@ class Inspection {
     }
   }
 
+  // The form builder deletes what a scroll area shows when a second widget comes into it, and goes
+  // on using it.
+  bool enterWidget() {
+    if (!open.empty() && open.back().isScrollArea && ++open.back().children > 1) return false;
+    open.push_back({xml.attributes().value("class") == u"QScrollArea"});
+    return ++widgets <= kWidgetLimit;
+  }
+
+  struct OpenWidget {
+    bool isScrollArea;
+    int children = 0;
+  };
+
   QXmlStreamReader xml;
+  std::vector<OpenWidget> open;
   QString text;  // of the innermost element, so far
   int depth = 0;
   int widgets = 0;

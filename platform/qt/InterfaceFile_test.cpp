@@ -56,6 +56,19 @@ TEST(InterfaceFile, RefusesWhatExhaustsItsReader) {
                           "column=\"0\"/></layout>")));
 }
 
+TEST(InterfaceFile, RefusesASecondWidgetInAScrollArea) {
+  const auto area = [](const QByteArray& inside) {
+    return ui("<widget class=\"QScrollArea\" name=\"s\">" + inside + "</widget>");
+  };
+  const QByteArray child =
+      "<widget class=\"QWidget\" name=\"w\"><widget class=\"QLabel\" name=\"a\"/>"
+      "<widget class=\"QLabel\" name=\"b\"/></widget>";
+  EXPECT_TRUE(isSoundInterface(area(child)));
+  EXPECT_FALSE(isSoundInterface(area(child + child)));
+  EXPECT_FALSE(isSoundInterface(area("<layout class=\"QVBoxLayout\" name=\"l\"><item>" + child +
+                                     "</item><item>" + child + "</item></layout>")));
+}
+
 TEST(InterfaceFile, RefusesNumbersInPieces) {
   for (const char* number :
        {"9<!-- -->99999", "9<![CDATA[999]]>99", "9<?x?>99999", "<!---->999999"})
