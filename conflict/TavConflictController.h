@@ -50,7 +50,8 @@ class TavConflictController {
   bool isPhotoCartInstalled() const;
   bool isColorCartOnly() const;
 
-  // --- Windows (TavConflictController_windows.cpp) ---
+  // --- Windows (TavConflictController_windows.cpp, choices in TavConflictController_choices.cpp,
+  //     OK in TavConflictController_answers.cpp) ---
 
   // Shows one window after the other until no conflict is left; returns at once when there is
   // none, when a window is missing, and when the program ends meanwhile.
@@ -83,8 +84,14 @@ class TavConflictController {
 
   // --- Instructions (TavConflictController_instructions.cpp) ---
 
-  // Fills the Instructions window: 0 page set-up, 1 colour options, 2 layout, 3 cartridges. Any
-  // other kind only sets the title.
+  // What the Instructions window can tell.
+  enum InstructionKind : signed char {
+    pageSetUpSteps = 0,
+    colorSteps = 1,
+    layoutSteps = 2,
+    cartridgeSteps = 3
+  };
+  // Fills the Instructions window with an InstructionKind; any other kind only sets the title.
   void composeInstructionMsg(signed char kind);
 
  private:

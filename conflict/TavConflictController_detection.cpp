@@ -11,7 +11,6 @@
 namespace tavrin {
 namespace {
 
-const std::string kNSTransparency = "Transparency";
 const std::string kNSCardstock = "Greeting";
 const std::string kPreferencesPrefix = "/Library/Printers/Tavrin/Preferences/com.tavrin.prefs.";
 

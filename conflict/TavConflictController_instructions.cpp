@@ -7,8 +7,6 @@
 namespace tavrin {
 namespace {
 
-enum Kind { pageSetUp = 0, colorOptions = 1, layout = 2, cartridges = 3 };
-
 const std::vector<std::string> kPageSetUpSteps = {
     "1) If your application does not have File -> Page Setup, skip to step 7.",
     "2) Cancel the Print dialog.",
@@ -45,7 +43,7 @@ std::string joined(const std::vector<std::string>& steps) {
 }
 
 // The second step may name the printer: a translation says where.
-std::string cartridgeSteps(const OptString& modelName) {
+std::string stepsForCartridges(const OptString& modelName) {
   return localized(kFirstCartridgeStep) + "\n" +
          formatWithObject(localized(kUtilityStep), modelName) + "\n" + joined(kLastCartridgeSteps);
 }
@@ -54,17 +52,17 @@ std::string cartridgeSteps(const OptString& modelName) {
 
 void TavConflictController::composeInstructionMsg(signed char kind) {
   switch (kind) {
-    case pageSetUp:
+    case pageSetUpSteps:
       ibInstructionText->setStringValue(joined(kPageSetUpSteps));
       break;
-    case colorOptions:
+    case colorSteps:
       ibInstructionText->setStringValue(joined(kColorOptionsSteps));
       break;
-    case layout:
+    case layoutSteps:
       ibInstructionText->setStringValue(joined(kLayoutSteps));
       break;
-    case cartridges:
-      ibInstructionText->setStringValue(cartridgeSteps(PDETools().getModelName(mLocalPPD)));
+    case cartridgeSteps:
+      ibInstructionText->setStringValue(stepsForCartridges(PDETools().getModelName(mLocalPPD)));
       break;
     default:
       break;

@@ -52,7 +52,7 @@ class TavPDEController {
   // Absent when there is no such option or position.
   OptString selectedItemFromIndex(long index, const char* withKey, bool andFlag) const;
 
-  // --- View and controls (TavPDEController_view.cpp) ---
+  // --- View and first filling (TavPDEController_view.cpp) ---
 
   // The panel's root view, loaded and laid out on the first call; null when the interface file
   // cannot be loaded. It shares ownership of the whole view tree.
@@ -66,6 +66,8 @@ class TavPDEController {
 
   // Writes the controls' labels and titles.
   void localizeLabels();
+
+  // --- Following the model (TavPDEController_controls.cpp) ---
 
   // Brings every control in line with the model. Changes the model only by the mirror rule for a
   // paper type that was changed from outside.

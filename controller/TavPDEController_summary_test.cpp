@@ -72,7 +72,7 @@ class Help : public ControllerTest {
     return controller->shouldShowDefaultHelp();
   }
 
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   const std::filesystem::path root = folder.path();
   FakeHelpViewer viewer;
 };

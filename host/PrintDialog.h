@@ -46,7 +46,7 @@ class PrintDialog : public QDialog {
   // Looks for the print server's printers. The dialog can be shown at once.
   void usePrintServer();
   // Prints on this one printer, which has no queue: jobs become folders in the output folder.
-  void usePrinterWithoutQueue(SharedPPD ppd, std::filesystem::path output);
+  void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);
 
   Outcome outcome() const { return end; }
   // What became of the job, in sentences: the job's name, or why there is none. Empty before.

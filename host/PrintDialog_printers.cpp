@@ -48,7 +48,7 @@ void PrintDialog::usePrintServer() {
   browser.findPrinters();
 }
 
-void PrintDialog::usePrinterWithoutQueue(SharedPPD ppd, std::filesystem::path folder) {
+void PrintDialog::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path folder) {
   output = std::move(folder);
   Printer printer;
   printer.name = ppd->nickname ? ppd->nickname : ppd->modelname ? ppd->modelname : "";

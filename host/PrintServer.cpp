@@ -49,7 +49,7 @@ PrintServer& PrintServer::operator=(PrintServer&& other) noexcept {
 }
 
 Result<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience patience) {
-  PrintServer server(std::unique_ptr<Watch>(new Watch{cancel, patience}));
+  PrintServer server(std::make_unique<Watch>(Watch{cancel, patience}));
   server.watch->restart();
   server.connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
                                        cupsEncryption(), 1, static_cast<int>(patience.count()),

@@ -89,6 +89,7 @@ std::string nameOf(const std::string& option) {
 
 pid_t startProgram(const std::vector<std::string>& command) {
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
   pid_t process = -1;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
-#include <utility>
 #include <vector>
+
+#include "platform/qt/MakeChild.h"
 
 class QComboBox;
 class QFormLayout;
@@ -13,12 +13,6 @@ class QWidget;
 // What every pane of the dialog builds its widgets with.
 
 namespace tavrin {
-
-// Makes an object that its parent owns; the parent is the last argument of the constructor.
-template <class T, class... Args>
-T* makeChild(Args&&... args) {
-  return std::make_unique<T>(std::forward<Args>(args)...).release();
-}
 
 // A label that shows a text as it is, over several lines where there is no room.
 QLabel* makeTextLabel(QWidget* parent);

@@ -67,7 +67,7 @@ int report(const PrintDialog& dialog) {
   return kPrinted;
 }
 
-int show(const CommandLine& line, SharedPPD ppd, int& argc, char** argv) {
+int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("tavrin-print");
   QtToolkit toolkit;
@@ -79,7 +79,7 @@ int show(const CommandLine& line, SharedPPD ppd, int& argc, char** argv) {
     PrintDialog dialog(line.job);
     helpViewer.setComplaint([&](const std::string& sentence) { dialog.say(sentence); });
     if (ppd)
-      dialog.usePrinterWithoutQueue(std::move(ppd), line.output);
+      dialog.usePrinterWithoutQueue(ppd, line.output);
     else
       dialog.usePrintServer();
     dialog.exec();
@@ -111,7 +111,7 @@ int print(CommandLine line, int& argc, char** argv) {
     return complain(kNotPrinted,
                     "There is no display to show the dialog on. Set DISPLAY, or print "
                     "with lp.");
-  return show(line, std::move(ppd), argc, argv);
+  return show(line, ppd, argc, argv);
 }
 
 }  // namespace

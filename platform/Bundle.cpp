@@ -6,6 +6,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/FileName.h"
+
 namespace tavrin {
 namespace {
 
@@ -34,11 +36,6 @@ std::map<std::string, std::string> readStrings(const fs::path& bundle) {
     if (table && table->dictionary() != nullptr) addTexts(*table->dictionary(), strings);
   }
   return strings;
-}
-
-bool isPlainFileName(const std::string& name) {
-  return !name.empty() && name.front() != '.' && name.find('/') == std::string::npos &&
-         name.find('\0') == std::string::npos;
 }
 
 bool isRegularFile(const fs::path& file) {

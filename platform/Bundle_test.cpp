@@ -13,9 +13,9 @@
 namespace tavrin {
 namespace {
 
-using testing::LocaleEnvironment;
-using testing::xmlEntry;
-using testing::xmlList;
+using test::LocaleEnvironment;
+using test::xmlEntry;
+using test::xmlList;
 using Languages = std::vector<std::string>;
 
 std::string dictionary(const std::string& entries) {
@@ -68,14 +68,14 @@ TEST(UserLanguages, AreFitForFolderNames) {
   EXPECT_EQ(userLanguages(), Languages{"it"});
 }
 
-class BundleTest : public ::testing::Test {
+class BundleTest : public testing::Test {
  protected:
   void writeTable(const std::string& language, const std::string& bytes) {
     folder.write("Contents/Resources/" + language + ".lproj/Localizable.strings", bytes);
   }
   Bundle bundle() const { return Bundle::atPath(folder.path()); }
 
-  testing::TemporaryFolder folder;
+  test::TemporaryFolder folder;
   LocaleEnvironment locale{{"LC_ALL", "pt_BR.UTF-8"}};
 };
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Bundle.h"
+#include "platform/FileName.h"
 #include "platform/HtmlTitle.h"
 #include "platform/RegularFile.h"
 
@@ -68,12 +69,6 @@ fs::path startPageIn(const fs::path& folder) {
   return onlyPage(folder);
 }
 
-// A folder's own name: a bundle's information must not lead anywhere else.
-bool isFolderName(const std::string& name) {
-  return !name.empty() && name.front() != '.' && name.find('/') == std::string::npos &&
-         name.find('\0') == std::string::npos;
-}
-
 // Where a bundle keeps what depends on the language. English comes last, for books that have no
 // neutral pages.
 std::vector<fs::path> resourceFolders(const fs::path& bundle) {
@@ -91,7 +86,7 @@ std::vector<fs::path> resourceFolders(const fs::path& bundle) {
 fs::path findStartPage(const fs::path& folder, int depth = 1) {
   const OptString bookFolder = Bundle::atPath(folder).info("CFBundleHelpBookFolder");
   const std::vector<fs::path> resources = resourceFolders(folder);
-  if (bookFolder && isFolderName(*bookFolder) && depth < kBundleDepth) {
+  if (bookFolder && isPlainFileName(*bookFolder) && depth < kBundleDepth) {
     for (const fs::path& place : resources) {
       fs::path page = findStartPage(place / *bookFolder, depth + 1);
       if (!page.empty()) return page;
@@ -121,8 +116,12 @@ void HelpViewer::install(HelpViewer* viewer) { installedViewer() = viewer; }
 HelpBook helpBookAt(const fs::path& folder) {
   const OptString name = Bundle::atPath(folder).info("CFBundleHelpBookName");
   HelpBook book;
-  book.startPage = findStartPage(folder);
-  if (!book.startPage.empty()) book.folder = book.startPage.parent_path();
+  const fs::path page = findStartPage(folder);
+  // A folder of the book may be a link to anywhere.
+  if (!page.empty() && isInside(page, folder)) {
+    book.startPage = page;
+    book.folder = page.parent_path();
+  }
   book.name = name ? *name : titleOf(book.startPage);
   return book;
 }

@@ -13,8 +13,8 @@
 namespace tavrin {
 namespace {
 
-using testing::LocaleEnvironment;
-using testing::xmlEntry;
+using test::LocaleEnvironment;
+using test::xmlEntry;
 
 class RecordingViewer final : public HelpViewer {
  public:
@@ -38,17 +38,17 @@ TEST(HelpViewer, IsTheOneThatTheProgramInstalled) {
   EXPECT_NE(&HelpViewer::current(), &viewer);
 }
 
-class HelpBookTest : public ::testing::Test {
+class HelpBookTest : public testing::Test {
  protected:
   std::filesystem::path write(const std::string& name, const std::string& title = "Page") {
     return folder.write("book/" + name, "<title>" + title + "</title>");
   }
   void writeInfo(const std::string& entries) {
-    folder.write("book/Contents/Info.plist", testing::xmlList("<dict>" + entries + "</dict>"));
+    folder.write("book/Contents/Info.plist", test::xmlList("<dict>" + entries + "</dict>"));
   }
   HelpBook book() const { return helpBookAt(folder.path() / "book"); }
 
-  testing::TemporaryFolder folder;
+  test::TemporaryFolder folder;
   LocaleEnvironment locale{{"LC_ALL", "de_DE.UTF-8"}};
 };
 
@@ -108,6 +108,21 @@ TEST_F(HelpBookTest, FolderOfTheInformationIsAPlainName) {
   }
 }
 
+TEST_F(HelpBookTest, FolderOfTheInformationLiesInTheBook) {
+  writeInfo(xmlEntry("CFBundleHelpBookFolder", "Help"));
+  folder.write("elsewhere/index.html", "<title>Elsewhere</title>");
+  const auto resources = folder.path() / "book/Contents/Resources";
+  std::filesystem::create_directories(resources);
+  std::filesystem::create_directory_symlink(folder.path() / "elsewhere", resources / "Help");
+  EXPECT_EQ(book().startPage, "");
+  EXPECT_EQ(book().folder, "");
+  EXPECT_EQ(book().name, "");
+  std::filesystem::remove(resources / "Help");
+  const auto shared = write("Pages/index.html");
+  std::filesystem::create_directory_symlink(shared.parent_path(), resources / "Help");
+  EXPECT_EQ(book().startPage, resources / "Help/index.html");
+}
+
 TEST_F(HelpBookTest, ThatContainsItselfEnds) {
   writeInfo(xmlEntry("CFBundleHelpBookFolder", "Self"));
   std::filesystem::create_directories(folder.path() / "book/Contents/Resources");
@@ -128,7 +143,7 @@ TEST_F(HelpBookTest, WithoutAFolderIsNoBook) {
 
 TEST_F(HelpBookTest, WithAnOversizeStartPageHasNoTitle) {
   const auto start = write("index.html", "Title");
-  std::ofstream(start, std::ios::app) << testing::repeated(" ", 1024 * 1024);
+  std::ofstream(start, std::ios::app) << test::repeated(" ", 1024 * 1024);
   EXPECT_EQ(book().startPage, start);
   EXPECT_EQ(book().name, "");
 }

@@ -9,7 +9,7 @@ namespace tavrin {
 namespace {
 
 // Observers are known by one letter each, and the log shows who was told, in order.
-class NotificationCenterTest : public ::testing::Test {
+class NotificationCenterTest : public testing::Test {
  protected:
   NotificationCenter::Handler logs(char letter) {
     return [this, letter](const void*) { log += letter; };

@@ -14,7 +14,7 @@
 
 namespace {
 
-using tavrin::testing::HostileList;
+using tavrin::test::HostileList;
 
 // The peak memory (KiB) of a process that does nothing else. What is free in this process is given
 // back first, or the child would live on it unseen.
@@ -33,7 +33,7 @@ long peakMemory(Work work) {
 }
 
 void readList(benchmark::State& state, const HostileList& list) {
-  const tavrin::testing::TemporaryFolder folder;
+  const tavrin::test::TemporaryFolder folder;
   const auto file = folder.write("list.plist", list.bytes);
   const auto read = [&] { benchmark::DoNotOptimize(tavrin::readPropertyList(file)); };
   state.counters["MiB"] = static_cast<double>(peakMemory(read) - peakMemory([] {})) / 1024;
@@ -42,8 +42,8 @@ void readList(benchmark::State& state, const HostileList& list) {
 }
 
 int registerAll() {
-  auto lists = tavrin::testing::hostileLists();
-  for (auto& list : tavrin::testing::largeLists()) lists.push_back(list);
+  auto lists = tavrin::test::hostileLists();
+  for (auto& list : tavrin::test::largeLists()) lists.push_back(list);
   for (const HostileList& list : lists) {
     benchmark::RegisterBenchmark(list.name.c_str(), readList, list)->Unit(benchmark::kMillisecond);
   }

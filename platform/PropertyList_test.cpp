@@ -10,13 +10,13 @@
 namespace tavrin {
 namespace {
 
-using testing::binaryArray;
-using testing::binaryDictionary;
-using testing::binaryList;
-using testing::binaryText;
-using testing::repeated;
-using testing::xmlEntry;
-using testing::xmlList;
+using test::binaryArray;
+using test::binaryDictionary;
+using test::binaryList;
+using test::binaryText;
+using test::repeated;
+using test::xmlEntry;
+using test::xmlList;
 
 // The text of a list whose top is one.
 OptString textOf(const std::string& bytes) {
@@ -177,20 +177,20 @@ TEST(BinaryList, CutAnywhereIsNoListAndChangedAnywhereIsHarmless) {
 }
 
 TEST(PropertyList, HostileOnesAreRefused) {
-  for (const auto& [name, bytes] : testing::hostileLists()) {
+  for (const auto& [name, bytes] : test::hostileLists()) {
     EXPECT_FALSE(parsePropertyList(bytes)) << name;
   }
 }
 
 TEST(PropertyList, LargeOnesAreRead) {
-  for (const auto& [name, bytes] : testing::largeLists()) {
+  for (const auto& [name, bytes] : test::largeLists()) {
     EXPECT_LE(bytes.size(), kPropertyListSizeLimit) << name;
     EXPECT_TRUE(parsePropertyList(bytes)) << name;
   }
 }
 
 TEST(PropertyList, FileIsReadInBothForms) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   for (const std::string& bytes : {xmlList("<string>a</string>"), binaryList({binaryText("a")})}) {
     const auto list = readPropertyList(folder.write("list.plist", bytes));
     ASSERT_TRUE(list);
@@ -199,7 +199,7 @@ TEST(PropertyList, FileIsReadInBothForms) {
 }
 
 TEST(PropertyList, FileMayBeAsLargeAsTheLimit) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   std::string bytes = xmlList("<string>a</string>");
   bytes.resize(kPropertyListSizeLimit, ' ');
   EXPECT_TRUE(readPropertyList(folder.write("list.plist", bytes)));
@@ -207,7 +207,7 @@ TEST(PropertyList, FileMayBeAsLargeAsTheLimit) {
 }
 
 TEST(PropertyList, WhatIsNoFileIsNoList) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   ASSERT_EQ(mkfifo((folder.path() / "fifo").c_str(), 0600), 0);
   std::filesystem::create_symlink("/dev/zero", folder.path() / "device");
   for (const char* name : {"fifo", "device", ".", "missing"}) {

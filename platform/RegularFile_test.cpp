@@ -12,7 +12,7 @@ namespace tavrin {
 namespace {
 
 TEST(RegularFile, IsReadUpToItsLimit) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   const std::string bytes("a\0b", 3);
   const auto file = folder.write("file", bytes);
   EXPECT_EQ(readRegularFile(file, 3), bytes);
@@ -21,14 +21,14 @@ TEST(RegularFile, IsReadUpToItsLimit) {
 }
 
 TEST(RegularFile, MayBeReachedThroughALink) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   folder.write("file", "text");
   std::filesystem::create_symlink("file", folder.path() / "link");
   EXPECT_EQ(readRegularFile(folder.path() / "link", 10), "text");
 }
 
 TEST(RegularFile, IsNothingElse) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   const auto fifo = folder.path() / "fifo";
   ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
   std::filesystem::create_symlink("/dev/zero", folder.path() / "device");
@@ -41,7 +41,7 @@ TEST(RegularFile, IsNothingElse) {
 
 // Root reads everything, so the test becomes somebody else for a moment.
 TEST(RegularFile, IsAbsentWhenItMayNotBeRead) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   const auto file = folder.write("secret", "text");
   std::filesystem::permissions(file, std::filesystem::perms::none);
   const uid_t before = geteuid();

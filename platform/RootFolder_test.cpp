@@ -5,7 +5,7 @@
 namespace tavrin {
 namespace {
 
-class RootFolder : public ::testing::Test {
+class RootFolder : public testing::Test {
  protected:
   ~RootFolder() override { setRootFolder({}); }
 };

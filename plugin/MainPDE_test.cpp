@@ -15,7 +15,7 @@ namespace {
 
 using Pairs = std::vector<std::pair<std::string, OptString>>;
 
-class MainPDETest : public ::testing::Test {
+class MainPDETest : public testing::Test {
  protected:
   MainPDETest() { setRootFolder(root); }
   ~MainPDETest() override { setRootFolder({}); }
@@ -44,7 +44,7 @@ class MainPDETest : public ::testing::Test {
   // The value that the panel shows for a setting, by its label in the summary.
   OptString value(const std::string& label) { return panel->summaryInfo().at(label); }
 
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   const std::filesystem::path root = folder.path();
   FakeToolkit toolkit;
   FakeHelpViewer viewer;

@@ -14,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/testing/TemporaryFolder.h"
+
 // The log is one for the whole process and opens once, so each example runs in a process of its
 // own and leaves what it wrote in files.
 
@@ -22,13 +24,6 @@ namespace {
 
 class TraceLog : public testing::Test {
  protected:
-  TraceLog() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "tavrin-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) std::abort();
-    folder = pattern;
-  }
-  ~TraceLog() override { std::filesystem::remove_all(folder); }
-
   // Runs the example in a child with its standard error in a file.
   template <class Example>
   void inOtherProcess(Example example) {
@@ -45,7 +40,7 @@ class TraceLog : public testing::Test {
     ASSERT_EQ(WEXITSTATUS(status), 0);
   }
 
-  std::string path(const std::string& name) const { return (folder / name).string(); }
+  std::string path(const std::string& name) const { return (folder.path() / name).string(); }
 
   std::string content(const std::string& name) const {
     std::ifstream file(path(name), std::ios::binary);
@@ -62,7 +57,7 @@ class TraceLog : public testing::Test {
     return stat(path(name).c_str(), &file) == 0 ? file.st_mode & 07777U : 0;
   }
 
-  std::filesystem::path folder;
+  test::TemporaryFolder folder;
 };
 
 // A line at a place that does not matter.
@@ -193,7 +188,7 @@ TEST_F(TraceLog, WithoutAPathAllLinesGoToStandardError) {
 }
 
 TEST_F(TraceLog, AFileThatCannotBeOpenedMeansStandardErrorForGood) {
-  for (const std::string& unusable : {path("missing/log"), folder.string(), std::string()}) {
+  for (const std::string& unusable : {path("missing/log"), folder.path().string(), std::string()}) {
     inOtherProcess([&] {
       trace(unusable, "first");
       trace(path("log"), "second");
@@ -201,6 +196,29 @@ TEST_F(TraceLog, AFileThatCannotBeOpenedMeansStandardErrorForGood) {
     EXPECT_EQ(messages("stderr"), "first|second|") << unusable;
     EXPECT_FALSE(std::filesystem::exists(path("log")));
   }
+}
+
+TEST_F(TraceLog, ALinkInTheLogsPlaceIsNotFollowed) {
+  std::ofstream(path("private")) << "mine\n";
+  chmod(path("private").c_str(), 0600);
+  std::filesystem::create_symlink("private", path("log"));
+  std::filesystem::create_symlink("new", path("dangling"));
+  for (const char* name : {"log", "dangling"}) {
+    inOtherProcess([&] { trace(path(name), "x"); });
+    EXPECT_EQ(messages("stderr"), "x|") << name;
+  }
+  EXPECT_EQ(content("private"), "mine\n");
+  EXPECT_EQ(permissions("private"), 0600U);
+  EXPECT_FALSE(std::filesystem::exists(path("new")));
+}
+
+TEST_F(TraceLog, APipeThatNobodyReadsIsNotWaitedFor) {
+  ASSERT_EQ(mkfifo(path("log").c_str(), 0600), 0);
+  inOtherProcess([&] {
+    alarm(60);  // ends the example with a signal should it wait
+    trace(path("log"), "x");
+  });
+  EXPECT_EQ(messages("stderr"), "x|");
 }
 
 TEST_F(TraceLog, TheLogCanBeOpenedBeforehand) {

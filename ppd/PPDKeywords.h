@@ -30,6 +30,7 @@ inline const std::string HELP_KEY = "TavHelpPath";
 
 // Choice keywords that several parts of the panel test for.
 inline const std::string kNSIronOn = "IronOn";
+inline const std::string kNSTransparency = "Transparency";
 inline const std::string kNSBlack = "Black";
 
 // A label of the panel and of its summary.

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "host/PPDLoader.h"
+#include "platform/qt/MakeChild.h"
 #include "platform/qt/QtToolkit.h"
 #include "replay/WidgetState.h"
 
@@ -28,10 +29,9 @@ std::unique_ptr<ReplayHost> hostFor(const std::string& id, EventLog& log, PPDPtr
 // A window of the panel's own size.
 std::unique_ptr<QWidget> windowAround(QWidget& panel) {
   auto window = std::make_unique<QWidget>();
-  auto layout = std::make_unique<QVBoxLayout>(window.get());
+  auto* layout = makeChild<QVBoxLayout>(window.get());
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->addWidget(&panel);
-  layout.release();  // the window's
   return window;
 }
 

@@ -1,6 +1,7 @@
 #include "replay/ReplayCommand.h"
 
 #include <functional>
+#include <limits>
 #include <map>
 #include <set>
 
@@ -114,7 +115,21 @@ ReplayCommand commandFrom(const Json& line) {
 
 }  // namespace
 
+std::optional<std::string> nextLine(std::istream& script) {
+  std::string line;
+  for (char c = 0; line.size() <= kScriptLineLimit && script.get(c);) {
+    if (c == '\n') return line;
+    line += c;
+  }
+  if (line.empty()) return std::nullopt;
+  if (script) script.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+  return line;
+}
+
 Result<ReplayCommand> parseCommand(const std::string& line) {
+  if (line.size() > kScriptLineLimit)
+    return Failure{"The line is too long: a line has at most " + std::to_string(kScriptLineLimit) +
+                   " bytes. It begins: " + quoted(line) + "."};
   const Json parsed = Json::parse(line, nullptr, /*allow_exceptions=*/false);
   // The parser takes a NUL for the end of the line.
   const bool cut = line.find('\0') != std::string::npos;

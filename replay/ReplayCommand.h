@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <istream>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -67,9 +70,16 @@ struct ReplayCommand {
   std::vector<WindowAnswer> answers;
 };
 
+// Longer lines (bytes) are no commands.
+inline constexpr std::size_t kScriptLineLimit = 16 << 20;
+
+// Takes the next line of a script, without its end; absent behind the last one. Of a line that is
+// too long only the beginning is given, still too long, so that it does not fill the memory.
+std::optional<std::string> nextLine(std::istream& script);
+
 // Reads a line of a script. The reason of a failure names the offending word: a line that is no
-// JSON object, an unknown verb, a field that the verb does not take, lacks, or takes in another
-// form.
+// JSON object or too long, an unknown verb, a field that the verb does not take, lacks, or takes in
+// another form.
 Result<ReplayCommand> parseCommand(const std::string& line);
 
 // Every verb as scripts spell it.

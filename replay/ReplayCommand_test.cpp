@@ -1,5 +1,7 @@
 #include "replay/ReplayCommand.h"
 
+#include <sstream>
+
 #include <gtest/gtest.h>
 
 namespace tavrin {
@@ -129,6 +131,26 @@ TEST(ReplayCommand, RefusesATextThatACStringWouldCut) {
 
 TEST(ReplayCommand, ANameWithANulDoesNotCutTheReason) {
   EXPECT_TRUE(reasonFor(R"({"do":"state","a\u0000b":1})").ends_with("b\"."));
+}
+
+TEST(ReplayCommand, LinesEndWithALineEndOrTheScript) {
+  std::istringstream script("one\n\ntwo");
+  EXPECT_EQ(nextLine(script), "one");
+  EXPECT_EQ(nextLine(script), "");
+  EXPECT_EQ(nextLine(script), "two");
+  EXPECT_EQ(nextLine(script), std::nullopt);
+}
+
+TEST(ReplayCommand, ALineThatIsTooLongIsRefusedAndThenPassedOver) {
+  const std::string longest(kScriptLineLimit, ' ');
+  std::istringstream script(longest + "\n" + longest + longest + "\n{}\n");
+  EXPECT_EQ(nextLine(script), longest);
+  const auto tooLong = nextLine(script);
+  ASSERT_TRUE(tooLong);
+  EXPECT_EQ(tooLong->size(), longest.size() + 1);
+  EXPECT_TRUE(mentions(reasonFor(*tooLong), "too long"));
+  EXPECT_EQ(nextLine(script), "{}");
+  EXPECT_EQ(nextLine(script), std::nullopt);
 }
 
 TEST(ReplayCommand, ALongLineIsCutInTheReason) {

@@ -41,9 +41,9 @@ void write(const Json& reply) {
 
 int playScript(std::istream& script, Replayer& replayer, const WindowAnswers& windows) {
   bool allOk = true;
-  for (std::string line; std::getline(script, line);) {
-    if (isBlank(line)) continue;
-    const Json reply = replayer.play(line);
+  while (const auto line = nextLine(script)) {
+    if (line->size() <= kScriptLineLimit && isBlank(*line)) continue;
+    const Json reply = replayer.play(*line);
     write(reply);
     if (windows.ranOut()) return windowUnanswered;
     allOk = allOk && reply["ok"].get<bool>();

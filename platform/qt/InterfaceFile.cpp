@@ -1,8 +1,12 @@
 #include "platform/qt/InterfaceFile.h"
 
-#include <QFile>
+#include <algorithm>
+#include <vector>
+
 #include <QSet>
 #include <QXmlStreamReader>
+
+#include "platform/RegularFile.h"
 
 namespace tavrin {
 
@@ -12,6 +16,7 @@ constexpr int kDepthLimit = 40;
 constexpr int kWidgetLimit = 500;
 constexpr qsizetype kTextLimit = 4096;
 constexpr double kNumberLimit = 4000;
+constexpr int kCellLimit = 100;
 
 const QSet<QString>& widgetClasses() {
   static const QSet<QString> names{"QWidget",     "QDialog",        "QFrame",       "QLabel",
@@ -53,55 +58,107 @@ const QSet<QString>& properties() {
   return names;
 }
 
-bool isAllowedElement(QXmlStreamReader& xml, int& widgets) {
-  const QString name = xml.name().toString();
-  if (!elements().contains(name)) return false;
-  const auto attribute = [&](const char* key) {
-    return xml.attributes().value(QLatin1String(key)).toString();
-  };
-  if (name == "widget") return isKnownWidgetClass(attribute("class")) && ++widgets <= kWidgetLimit;
-  if (name == "layout") return layoutClasses().contains(attribute("class"));
-  if (name == "property") return properties().contains(attribute("name"));
-  for (const auto& [row, limit] :
-       {std::pair{"row", 100}, {"column", 100}, {"rowspan", 100}, {"colspan", 100}})
-    if (attribute(row).toInt() > limit || attribute(row).toInt() < 0) return false;
-  return true;
-}
-
-bool isAllowedText(const QStringView text) {
+bool isAllowedText(QStringView text) {
   if (text.size() > kTextLimit) return false;
   bool isNumber = false;
   const double number = text.trimmed().toDouble(&isNumber);
   return !isNumber || (number >= -kNumberLimit && number <= kNumberLimit);
 }
 
+// A layout's stretches and least sizes are lists of numbers.
+bool isAllowedAttribute(const QXmlStreamAttribute& attribute) {
+  for (const QStringView part : attribute.value().split(u','))
+    if (!isAllowedText(part)) return false;
+  return true;
+}
+
+// A grid has as many cells as the places and spans of its items ask for.
+bool isAllowedCell(const QXmlStreamAttributes& attributes) {
+  for (const char* name : {"row", "column", "rowspan", "colspan"}) {
+    const int number = attributes.value(QLatin1String(name)).toInt();
+    if (number < 0 || number > kCellLimit) return false;
+  }
+  return true;
+}
+
+bool isAllowedElement(const QXmlStreamReader& xml) {
+  const QString element = xml.name().toString();
+  const QXmlStreamAttributes attributes = xml.attributes();
+  if (!elements().contains(element)) return false;
+  if (!std::all_of(attributes.begin(), attributes.end(), isAllowedAttribute)) return false;
+  if (element == "widget") return isKnownWidgetClass(attributes.value("class").toString());
+  if (element == "layout") return layoutClasses().contains(attributes.value("class").toString());
+  if (element == "property") return properties().contains(attributes.value("name").toString());
+  return isAllowedCell(attributes);
+}
+
+// Looks at an interface file piece by piece.
+class Inspection {
+ public:
+  explicit Inspection(const QByteArray& bytes) : xml(bytes) {}
+
+  bool isSound() {
+    while (!xml.atEnd()) {
+      if (!takePiece(xml.readNext())) return false;
+    }
+    return !xml.hasError() && widgets > 0;
+  }
+
+ private:
+  bool takePiece(QXmlStreamReader::TokenType piece) {
+    switch (piece) {
+      case QXmlStreamReader::DTD:
+      case QXmlStreamReader::EntityReference:
+        return false;
+      case QXmlStreamReader::StartElement:
+        text.clear();
+        return ++depth <= kDepthLimit && isAllowedElement(xml) &&
+               (xml.name() != u"widget" || enterWidget());
+      case QXmlStreamReader::EndElement:
+        --depth;
+        text.clear();
+        if (xml.name() == u"widget") open.pop_back();
+        return true;
+      case QXmlStreamReader::Characters:
+        // A comment or a CDATA section cuts a text into pieces that the form builder joins again.
+        text += xml.text();
+        return isAllowedText(text);
+      default:
+        return true;
+    }
+  }
+
+  // The form builder deletes what a scroll area shows when a second widget comes into it, and goes
+  // on using it.
+  bool enterWidget() {
+    if (!open.empty() && open.back().isScrollArea && ++open.back().children > 1) return false;
+    open.push_back({xml.attributes().value("class") == u"QScrollArea"});
+    return ++widgets <= kWidgetLimit;
+  }
+
+  struct OpenWidget {
+    bool isScrollArea;
+    int children = 0;
+  };
+
+  QXmlStreamReader xml;
+  std::vector<OpenWidget> open;
+  QString text;  // of the innermost element, so far
+  int depth = 0;
+  int widgets = 0;
+};
+
 }  // namespace
 
 bool isKnownWidgetClass(const QString& name) { return widgetClasses().contains(name); }
 
-bool isSoundInterface(const QByteArray& bytes) {
-  QXmlStreamReader xml(bytes);
-  int depth = 0;
-  int widgets = 0;
-  while (!xml.atEnd()) {
-    const auto token = xml.readNext();
-    if (token == QXmlStreamReader::DTD || token == QXmlStreamReader::EntityReference) return false;
-    if (token == QXmlStreamReader::StartElement &&
-        (++depth > kDepthLimit || !isAllowedElement(xml, widgets)))
-      return false;
-    if (token == QXmlStreamReader::EndElement) --depth;
-    if (token == QXmlStreamReader::Characters && !isAllowedText(xml.text())) return false;
-  }
-  return !xml.hasError() && widgets > 0;
-}
+bool isSoundInterface(const QByteArray& bytes) { return Inspection(bytes).isSound(); }
 
 std::optional<QByteArray> readInterfaceFile(const std::filesystem::path& file) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return {};
-  QFile source(QString::fromStdString(file.string()));
-  if (!source.open(QIODevice::ReadOnly)) return {};
-  const QByteArray bytes = source.read(kInterfaceSizeLimit + 1);
-  if (bytes.size() > kInterfaceSizeLimit || !isSoundInterface(bytes)) return {};
+  const auto read = readRegularFile(file, kInterfaceSizeLimit);
+  if (!read) return {};
+  QByteArray bytes = QByteArray::fromStdString(*read);
+  if (!isSoundInterface(bytes)) return {};
   return bytes;
 }
 

@@ -1,14 +1,16 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 
 #include <QByteArray>
+#include <QString>
 
 namespace tavrin {
 
-// Larger interface files are refused.
-inline constexpr qint64 kInterfaceSizeLimit = 256 * 1024;
+// Larger interface files (bytes) are refused.
+inline constexpr std::size_t kInterfaceSizeLimit = 256 * 1024;
 
 // Reads an interface file and looks through it before a form builder sees it: an interface file is
 // data of a plug-in's bundle, which may be damaged or meant to harm. Absent unless it is a regular

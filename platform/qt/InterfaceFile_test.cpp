@@ -56,6 +56,38 @@ TEST(InterfaceFile, RefusesWhatExhaustsItsReader) {
                           "column=\"0\"/></layout>")));
 }
 
+TEST(InterfaceFile, RefusesASecondWidgetInAScrollArea) {
+  const auto area = [](const QByteArray& inside) {
+    return ui("<widget class=\"QScrollArea\" name=\"s\">" + inside + "</widget>");
+  };
+  const QByteArray child =
+      "<widget class=\"QWidget\" name=\"w\"><widget class=\"QLabel\" name=\"a\"/>"
+      "<widget class=\"QLabel\" name=\"b\"/></widget>";
+  EXPECT_TRUE(isSoundInterface(area(child)));
+  EXPECT_FALSE(isSoundInterface(area(child + child)));
+  EXPECT_FALSE(isSoundInterface(area("<layout class=\"QVBoxLayout\" name=\"l\"><item>" + child +
+                                     "</item><item>" + child + "</item></layout>")));
+}
+
+TEST(InterfaceFile, RefusesNumbersInPieces) {
+  for (const char* number :
+       {"9<!-- -->99999", "9<![CDATA[999]]>99", "9<?x?>99999", "<!---->999999"})
+    EXPECT_FALSE(isSoundInterface(
+        ui(QByteArray("<property name=\"maximum\"><number>") + number + "</number></property>")))
+        << number;
+  EXPECT_TRUE(
+      isSoundInterface(ui("<property name=\"maximum\"><number>9<!-- -->9</number></property>")));
+}
+
+TEST(InterfaceFile, RefusesLargeNumbersInAttributes) {
+  const auto grid = [](const QByteArray& attribute) {
+    return ui("<layout class=\"QGridLayout\" name=\"l\" " + attribute + "/>");
+  };
+  EXPECT_TRUE(isSoundInterface(grid("columnstretch=\"0,1\"")));
+  EXPECT_FALSE(isSoundInterface(grid("rowminimumheight=\"0,2000000000\"")));
+  EXPECT_FALSE(isSoundInterface(grid("columnstretch=\"2147483647, 1\"")));
+}
+
 class InterfaceFileOnDisk : public testing::Test {
  protected:
   std::filesystem::path write(const std::string& bytes) {

@@ -6,6 +6,7 @@
 
 #include "platform/qt/DisclosureTriangle.h"
 #include "platform/qt/InterfaceFile.h"
+#include "platform/qt/MakeChild.h"
 
 namespace tavrin {
 
@@ -20,7 +21,7 @@ class StandardWidgetLoader : public QUiLoader {
     if (!isKnownWidgetClass(className)) return nullptr;
     if (className != QStringLiteral("QToolButton"))
       return QUiLoader::createWidget(className, parent, name);
-    QWidget* triangle = std::make_unique<DisclosureTriangle>(parent).release();  // the parent's
+    QWidget* triangle = makeChild<DisclosureTriangle>(parent);
     triangle->setObjectName(name);
     return triangle;
   }

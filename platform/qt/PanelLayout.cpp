@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include <QComboBox>
 #include <QEvent>
@@ -13,6 +14,7 @@
 #include <QStyleOptionComboBox>
 #include <QWidget>
 
+#include "platform/qt/MakeChild.h"
 #include "platform/qt/WidgetProperties.h"
 
 namespace tavrin {
@@ -104,14 +106,14 @@ void layoutChanged(QWidget& widget) {
 
 void PanelLayout::takeOver(QWidget& root) {
   noteDesign(root, root.height());
-  auto* layout = std::make_unique<PanelLayout>(&root).release();  // the root's from now on
+  auto* layout = makeChild<PanelLayout>(&root);
   for (QWidget* view : root.findChildren<QWidget*>())
     if (isView(*view)) view->installEventFilter(layout);
 }
 
 PanelLayout::PanelLayout(QWidget* root) : QLayout(root) { setContentsMargins(0, 0, 0, 0); }
 
-void PanelLayout::addItem(QLayoutItem* item) { delete item; }
+void PanelLayout::addItem(QLayoutItem* item) { const std::unique_ptr<QLayoutItem> unwanted(item); }
 
 void PanelLayout::invalidate() {
   hint.reset();

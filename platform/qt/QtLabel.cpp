@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QStringList>
 
+#include "platform/qt/MakeChild.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
@@ -13,9 +14,7 @@ namespace {
 // Gives a button the clicks on its label.
 class ClickForwarder : public QObject {
  public:
-  explicit ClickForwarder(QLabel& owner) : QObject(&owner), label(owner) {
-    owner.installEventFilter(this);
-  }
+  explicit ClickForwarder(QLabel* owner) : QObject(owner), label(*owner) {}
 
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
@@ -48,7 +47,7 @@ QString asName(QString text) {
 
 QtLabel::QtLabel(QLabel& label) : QtViewOf(label) {
   label.setTextFormat(Qt::PlainText);
-  std::make_unique<ClickForwarder>(label).release();  // the label's from now on
+  label.installEventFilter(makeChild<ClickForwarder>(&label));
 }
 
 void QtLabel::setStringValue(const std::string& text) {

@@ -17,8 +17,6 @@ class QtLabel : public QtViewOf<Label, QLabel> {
 
  private:
   void nameBuddy();
-
-  QObject receiver;
 };
 
 }  // namespace tavrin

@@ -63,7 +63,7 @@ class QtControlOf : public QtViewOf<Kind, Widget> {
   using QtViewOf<Kind, Widget>::QtViewOf;
 
   bool isEnabled() const override {
-    return this->widget && this->widget->testAttribute(Qt::WA_ForceDisabled) == false;
+    return this->widget && !this->widget->testAttribute(Qt::WA_ForceDisabled);
   }
   void setEnabled(bool enabled) override {
     if (this->widget) this->widget->setEnabled(enabled);

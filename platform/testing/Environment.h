@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-namespace tavrin::testing {
+namespace tavrin::test {
 
 // The locale variables as a test wants them, everything else about the user's language unset; as
 // before when it ends.
@@ -33,4 +33,4 @@ class LocaleEnvironment {
   std::map<std::string, std::optional<std::string>> before;
 };
 
-}  // namespace tavrin::testing
+}  // namespace tavrin::test

@@ -5,7 +5,7 @@
 
 #include "platform/PropertyList.h"
 
-namespace tavrin::testing {
+namespace tavrin::test {
 namespace {
 
 std::string bigEndian(std::uint64_t value, std::size_t size) {
@@ -184,4 +184,4 @@ std::vector<HostileList> largeLists() {
   };
 }
 
-}  // namespace tavrin::testing
+}  // namespace tavrin::test

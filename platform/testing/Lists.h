@@ -6,7 +6,7 @@
 
 // Property lists for tests, sound and hostile ones.
 
-namespace tavrin::testing {
+namespace tavrin::test {
 
 // The text so many times.
 std::string repeated(const std::string& text, std::size_t times);
@@ -33,4 +33,4 @@ std::vector<HostileList> hostileLists();
 // Lists as large and as costly as they may be; those are read.
 std::vector<HostileList> largeLists();
 
-}  // namespace tavrin::testing
+}  // namespace tavrin::test

@@ -7,7 +7,7 @@
 #include <string>
 #include <system_error>
 
-namespace tavrin::testing {
+namespace tavrin::test {
 
 // A folder of a test's own that goes away with it.
 class TemporaryFolder {
@@ -38,4 +38,4 @@ class TemporaryFolder {
   std::filesystem::path folder;
 };
 
-}  // namespace tavrin::testing
+}  // namespace tavrin::test

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "platform/OptionalString.h"
 #include "platform/RootFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 // A printer installation in a folder of its own: while it lives, "/Library/Printers/..." is looked
 // up below it.
@@ -16,21 +15,15 @@ namespace tavrin {
 class PrinterRoot {
  public:
   PrinterRoot() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "tavrin-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) std::abort();
-    folder = pattern;
     std::filesystem::create_directories(preferences());
-    setRootFolder(folder);
+    setRootFolder(folder.path());
   }
-  ~PrinterRoot() {
-    setRootFolder({});
-    std::filesystem::remove_all(folder);
-  }
+  ~PrinterRoot() { setRootFolder({}); }
   PrinterRoot(const PrinterRoot&) = delete;
   PrinterRoot& operator=(const PrinterRoot&) = delete;
 
   std::filesystem::path file(const std::string& absolutePath) const {
-    return folder / std::filesystem::path(absolutePath).relative_path();
+    return folder.path() / std::filesystem::path(absolutePath).relative_path();
   }
   std::filesystem::path preferencesFile(const std::string& modelYear) const {
     return preferences() / ("com.tavrin.prefs." + modelYear + ".plist");
@@ -49,9 +42,9 @@ class PrinterRoot {
   }
 
   void writePreferences(const std::string& modelYear, const std::string& content) const {
-    std::ofstream(preferencesFile(modelYear)) << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                                                 "<plist version=\"1.0\">"
-                                              << content << "</plist>\n";
+    folder.write(preferencesFile(modelYear),
+                 "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + content +
+                     "</plist>\n");
   }
 
   void removePreferences(const std::string& modelYear) const {
@@ -60,10 +53,10 @@ class PrinterRoot {
 
  private:
   std::filesystem::path preferences() const {
-    return folder / "Library/Printers/Tavrin/Preferences";
+    return folder.path() / "Library/Printers/Tavrin/Preferences";
   }
 
-  std::filesystem::path folder;
+  test::TemporaryFolder folder;
 };
 
 }  // namespace tavrin

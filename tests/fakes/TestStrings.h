@@ -1,11 +1,10 @@
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <map>
 #include <string>
 
+#include "platform/testing/Environment.h"
+#include "platform/testing/TemporaryFolder.h"
 #include "ppd/PlugInBundle.h"
 
 // Gives the panel a strings table for its life.
@@ -17,21 +16,11 @@ using Translations = std::map<std::string, std::string>;
 class TestStrings {
  public:
   explicit TestStrings(const Translations& translations) : before(plugInBundle()) {
-    std::string pattern = (std::filesystem::temp_directory_path() / "tavrin-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) std::abort();
-    folder = pattern;
-    const std::filesystem::path table = folder / "Contents/Resources/de.lproj";
-    std::filesystem::create_directories(table);
-    write(table / "Localizable.strings", translations);
-    setenv("LC_ALL", "de_DE.UTF-8", 1);
-    unsetenv("LANGUAGE");
-    setPlugInBundle(Bundle::atPath(folder));
-    unsetenv("LC_ALL");
+    folder.write("Contents/Resources/de.lproj/Localizable.strings", table(translations));
+    const test::LocaleEnvironment german{{"LC_ALL", "de_DE.UTF-8"}};
+    setPlugInBundle(Bundle::atPath(folder.path()));
   }
-  ~TestStrings() {
-    setPlugInBundle(before);
-    std::filesystem::remove_all(folder);
-  }
+  ~TestStrings() { setPlugInBundle(before); }
   TestStrings(const TestStrings&) = delete;
   TestStrings& operator=(const TestStrings&) = delete;
 
@@ -43,17 +32,17 @@ class TestStrings {
     }
     return xml;
   }
-  static void write(const std::filesystem::path& file, const Translations& translations) {
-    std::ofstream out(file);
-    out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>\n";
+  static std::string table(const Translations& translations) {
+    std::string entries;
     for (const auto& [key, text] : translations) {
-      out << "<key>" << escaped(key) << "</key><string>" << escaped(text) << "</string>\n";
+      entries += "<key>" + escaped(key) + "</key><string>" + escaped(text) + "</string>\n";
     }
-    out << "</dict></plist>\n";
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>\n" + entries +
+           "</dict></plist>\n";
   }
 
   Bundle before;
-  std::filesystem::path folder;
+  test::TemporaryFolder folder;
 };
 
 }  // namespace tavrin

@@ -35,8 +35,8 @@ void drawPanel(const QString& file, const Look& look, bool tray, bool expanded) 
   panel.fill(tray, tray, look.suffix);
   panel.disclose(expanded);
   QWidget host;
-  auto* layout = new QVBoxLayout(&host);
-  layout->addWidget(&panel.widget());
+  QVBoxLayout layout(&host);
+  layout.addWidget(&panel.widget());
   panel.widget().show();
   host.adjustSize();
   host.show();
