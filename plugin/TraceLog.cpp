@@ -1,10 +1,9 @@
 #include "plugin/TraceLog.h"
 
 #include <ctime>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/time.h>
-#include <unistd.h>
+#include <vector>
 
 #include "ppd/TextEncoding.h"
 
@@ -12,25 +11,8 @@ namespace tavrin {
 
 std::FILE* gFileStream = nullptr;
 
-namespace {
-
-// Logs often lie in folders that are open to everybody, where somebody may have put a link to a
-// file of the user's, or a pipe that nobody reads, under the log's name: the one would be opened to
-// all, the other would be waited for.
-std::FILE* openForAppending(const char* path) {
-  constexpr int kFlags =
-      O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-  const int descriptor = open(path, kFlags, 0666);
-  if (descriptor < 0) return nullptr;
-  std::FILE* file = fdopen(descriptor, "a");
-  if (file == nullptr) close(descriptor);
-  return file;
-}
-
-}  // namespace
-
 void traceOpenLog(const char* path) {
-  std::FILE* file = path != nullptr ? openForAppending(path) : nullptr;
+  std::FILE* file = path != nullptr ? std::fopen(path, "a") : nullptr;
   if (file == nullptr) {
     gFileStream = stderr;
     return;

@@ -20,8 +20,7 @@ namespace tavrin {
 extern std::FILE* gFileStream;
 
 // Opens the log for appending, readable and writable for everybody, whatever the umask; without a
-// path (null), or where the file cannot be opened, the log is standard error. A symbolic link in
-// the file's place is not followed, and a FIFO not waited for.
+// path (null), or where the file cannot be opened, the log is standard error.
 void traceOpenLog(const char* path);
 
 namespace trace {

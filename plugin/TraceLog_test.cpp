@@ -198,29 +198,6 @@ TEST_F(TraceLog, AFileThatCannotBeOpenedMeansStandardErrorForGood) {
   }
 }
 
-TEST_F(TraceLog, ALinkInTheLogsPlaceIsNotFollowed) {
-  std::ofstream(path("private")) << "mine\n";
-  chmod(path("private").c_str(), 0600);
-  std::filesystem::create_symlink("private", path("log"));
-  std::filesystem::create_symlink("new", path("dangling"));
-  for (const char* name : {"log", "dangling"}) {
-    inOtherProcess([&] { trace(path(name), "x"); });
-    EXPECT_EQ(messages("stderr"), "x|") << name;
-  }
-  EXPECT_EQ(content("private"), "mine\n");
-  EXPECT_EQ(permissions("private"), 0600U);
-  EXPECT_FALSE(std::filesystem::exists(path("new")));
-}
-
-TEST_F(TraceLog, APipeThatNobodyReadsIsNotWaitedFor) {
-  ASSERT_EQ(mkfifo(path("log").c_str(), 0600), 0);
-  inOtherProcess([&] {
-    alarm(60);  // ends the example with a signal should it wait
-    trace(path("log"), "x");
-  });
-  EXPECT_EQ(messages("stderr"), "x|");
-}
-
 TEST_F(TraceLog, TheLogCanBeOpenedBeforehand) {
   inOtherProcess([&] {
     traceOpenLog(path("log").c_str());
