@@ -18,8 +18,6 @@ constexpr const char* kOption = "o";
 constexpr const char* kHelp = "help";
 constexpr const char* kVersion = "version";
 
-constexpr int kMostCopies = 9999;
-
 Failure failure(const QString& sentence) {
   return {(sentence + " See tavrin-print --help.").toStdString()};
 }

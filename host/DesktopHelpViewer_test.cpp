@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/TemporaryFolder.h"
 #include "platform/RootFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {
@@ -20,7 +20,7 @@ class DesktopHelpViewerTest : public testing::Test {
 
   std::string opened() const { return address.path().section('/', -1).toStdString(); }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
   QUrl address;
   bool opens = true;
   std::string complaint;

@@ -11,18 +11,12 @@
 
 #include "host/OptionControl.h"
 #include "host/PageRanges.h"
+#include "host/PrintOptions.h"
 #include "host/PrinterPopUp.h"
 #include "host/Widgets.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
-
-namespace {
-
-constexpr int kMostCopies = 9999;
-constexpr char kPaperSizeKeyword[] = "PageSize";
-
-}  // namespace
 
 GeneralArea::GeneralArea(QWidget* parent)
     : QWidget(parent),

@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "host/PanelHost.h"
-#include "host/TemporaryFolder.h"
 #include "host/TrustedBundles.h"
+#include "platform/testing/TemporaryFolder.h"
 #include "tests/fakes/FakePPD.h"
 
 namespace tavrin {
@@ -30,7 +30,7 @@ class PPDLoaderTest : public testing::Test {
     return ppd ? "" : ppd.reason();
   }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
 };
 
 TEST_F(PPDLoaderTest, LoadsAPPDAndMarksNothing) {

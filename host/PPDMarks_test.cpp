@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/FeaturesPane.h"
-#include "host/TemporaryFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 #include "tests/fakes/FakePPD.h"
 
 namespace tavrin {
@@ -78,7 +78,7 @@ TEST(FeatureSections, SplitAGroupThatNeverEnds) {
 }
 
 TEST(FeatureSections, LeaveOutWhatIsInstalled) {
-  const PPDPtr ppd = parsePPD(textOf(SAMPLE_PRINTERS "/tavrin-r420.ppd"));
+  const PPDPtr ppd = parsePPD(test::textOf(SAMPLE_PRINTERS "/tavrin-r420.ppd"));
   ASSERT_NE(ppdFindOption(ppd.get(), "Tray2Option"), nullptr);
   const auto found = keywords(featureSections(*ppd, {}));
   EXPECT_EQ(std::ranges::count(found, "Tray2Option"), 0);

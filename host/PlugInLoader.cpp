@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <dlfcn.h>
 
+#include "platform/FileName.h"
+
 namespace tavrin {
 
 namespace fs = std::filesystem;
@@ -22,17 +24,12 @@ Failure about(const fs::path& bundle, const std::string& problem) {
   return {"The plug-in " + quoted(bundle) + " " + problem};
 }
 
-bool isPlainName(const std::string& name) {
-  return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
-         name.find('\0') == std::string::npos;
-}
-
 Result<Description> describe(const Bundle& bundle) {
   if (!bundle.infoDictionary())
     return about(bundle.path(), "has no readable Contents/Info.plist. Install it again.");
   const auto text = [&](const char* key) { return bundle.info(key).value_or(""); };
   Description found{text("CFBundleExecutable"), text("NSPrincipalClass"), text(kPanelTypeKey)};
-  if (!isPlainName(found.executable))
+  if (!isPlainFileName(found.executable))
     return about(bundle.path(), "names no executable file. Install it again.");
   if (found.principalClass.empty())
     return about(bundle.path(), "names no principal class. Install it again.");

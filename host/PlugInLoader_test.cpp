@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/TemporaryFolder.h"
 #include "host/TrustedBundles.h"
+#include "platform/testing/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {
@@ -46,7 +46,7 @@ class PlugInLoaderTest : public testing::Test {
     return plugIn.reason().substr(std::min(start.size(), plugIn.reason().size()));
   }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
   fs::path bundle = place.path() / "A.plugin";
   fs::path moduleFile = bundle / "Contents/Linux/module.so";
 };
@@ -152,7 +152,7 @@ TEST_F(PlugInLoaderTest, SaysThatAPlugInDoesNotWantToWork) {
 }
 
 TEST(TrustedBundles, FindsABundleByTheLastPathComponentAlone) {
-  TemporaryFolder first, second;
+  test::TemporaryFolder first, second;
   fs::create_directory(first.path() / "A.plugin");
   fs::create_directory(second.path() / "A.plugin");
   fs::create_directory(second.path() / "B.plugin");
@@ -162,7 +162,7 @@ TEST(TrustedBundles, FindsABundleByTheLastPathComponentAlone) {
 }
 
 TEST(TrustedBundles, LooksNowhereElse) {
-  TemporaryFolder trusted, other;
+  test::TemporaryFolder trusted, other;
   fs::create_directory(other.path() / "A.plugin");
   const auto found = findPlugIn((other.path() / "A.plugin").string(), {trusted.path()});
   ASSERT_FALSE(found);
@@ -171,7 +171,7 @@ TEST(TrustedBundles, LooksNowhereElse) {
 }
 
 TEST(TrustedBundles, RefusesWhatIsNoBundleName) {
-  TemporaryFolder trusted;
+  test::TemporaryFolder trusted;
   fs::create_directories(trusted.path() / "sub/A.plugin");
   for (const char* name : {"", "/", "..", "A", "/x/..", ".plugin", "A.plugin/", "../A.plugin/.."})
     EXPECT_FALSE(findPlugIn(name, {trusted.path(), trusted.path() / "sub"})) << name;

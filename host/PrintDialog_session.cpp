@@ -40,7 +40,7 @@ void PrintDialog::beginSession(const SharedPPD& ppd) {
 void PrintDialog::makePanes() {
   std::vector<Pane*> panes{layoutPane};
   std::set<std::string> elsewhere = current->claimedKeywords();
-  elsewhere.insert({"PageSize", "PageRegion"});
+  elsewhere.insert({kPaperSizeKeyword, "PageRegion"});
   if (const ppd_option_t* twoSided = twoSidedOption(current->ppd()))
     elsewhere.insert(twoSided->keyword);
   featuresPane = makeChild<FeaturesPane>(current->marks(), elsewhere, switcher);

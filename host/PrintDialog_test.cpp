@@ -16,8 +16,8 @@
 #include "host/OptionControl.h"
 #include "host/PPDLoader.h"
 #include "host/PrinterPopUp.h"
-#include "host/PrivateCupsd.h"
-#include "host/SilentServer.h"
+#include "host/testing/PrivateCupsd.h"
+#include "host/testing/SilentServer.h"
 #include "platform/qt/QtToolkit.h"
 
 // The dialog as a person and a program meet it, with the real plug-in.
@@ -77,7 +77,7 @@ class PrintDialogTest : public testing::Test {
   }
 
   QtToolkit toolkit;
-  TemporaryFolder place;
+  test::TemporaryFolder place;
 };
 
 TEST_F(PrintDialogTest, ShowsThePanelOfThePrinter) {
@@ -155,7 +155,7 @@ TEST_F(PrintDialogTest, NamesPagesPerSheetThatCannotBe) {
 
 TEST_F(PrintDialogTest, ShowsAPrinterWithoutItsPlugInAndSaysSo) {
   place.write("lost.ppd", [] {
-    std::string text = textOf(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
+    std::string text = test::textOf(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
     const std::string name = "TavrinPrintSettings.plugin";
     return text.replace(text.find(name), name.size(), "Lost.plugin");
   }());
@@ -184,7 +184,7 @@ TEST_F(PrintDialogTest, WritesTheJobOfAPrinterWithoutAQueueToAFolder) {
   fs::path ticket;
   for (const auto& entry : fs::recursive_directory_iterator(place.path()))
     if (entry.path().filename() == "ticket.json") ticket = entry.path();
-  const auto json = nlohmann::json::parse(textOf(ticket));
+  const auto json = nlohmann::json::parse(test::textOf(ticket));
   EXPECT_EQ(json.at("title"), "Card");
   EXPECT_EQ(json.at("options").at("MediaType"), "IronOn");
   EXPECT_EQ(json.at("options").at("QuietMode"), "True");

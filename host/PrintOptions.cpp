@@ -76,7 +76,7 @@ bool markValue(ppd_file_s& ppd, ppd_option_t& option, const std::string& value) 
 
 // A general option of the print system says the same as a mark of the PPD and could contradict it.
 void removeWhatMarksSay(OptionList& options, const OptionList& marked) {
-  if (optionValue(marked, "PageSize")) remove(options, "media");
+  if (optionValue(marked, kPaperSizeKeyword)) remove(options, "media");
   if (optionValue(marked, "Duplex")) remove(options, "sides");
 }
 

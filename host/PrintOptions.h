@@ -14,6 +14,10 @@ namespace tavrin {
 // Job options in the order in which they were given: name and value, as in lp's "-o NAME=VALUE".
 using OptionList = std::vector<std::pair<std::string, std::string>>;
 
+inline constexpr int kMostCopies = 9999;  // of a job
+// The PPD's option for the size of the paper.
+inline constexpr char kPaperSizeKeyword[] = "PageSize";
+
 // What is to be printed, and how.
 struct JobRequest {
   std::string printer;   // the queue; empty for a printer without one

@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "host/JobRunner.h"
-#include "host/PrivateCupsd.h"
+#include "host/testing/PrivateCupsd.h"
 #include "tests/fakes/FakePPD.h"
 
 namespace tavrin {
@@ -113,7 +113,7 @@ class PrinterBrowserTest : public BackgroundTest {
                                                                   "application/pdf 0 -\""})));
   }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
   PrivateCupsd cups;
 };
 
@@ -165,7 +165,7 @@ TEST_F(PrinterBrowserTest, AJobRunsBesideTheWindow) {
 }
 
 TEST_F(BackgroundTest, ACancelledJobSaysSo) {
-  TemporaryFolder place;
+  test::TemporaryFolder place;
   const auto fifo = place.path() / "fifo";
   ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
   JobRunner runner;

@@ -1,15 +1,10 @@
 #include "host/PrinterSession.h"
 
 #include "host/LayoutPane.h"
+#include "host/PrintOptions.h"
 #include "host/TrustedBundles.h"
 
 namespace tavrin {
-
-namespace {
-
-constexpr char kPaperSizeKeyword[] = "PageSize";
-
-}  // namespace
 
 PrinterSession::PrinterSession(SharedPPD ppd)
     : file(std::move(ppd)), ppdMarks(*file), host(file.get(), &settings, &format) {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "host/FakePanel.h"
 #include "host/LayoutPane.h"
 #include "host/PanelPane.h"
+#include "host/testing/FakePanel.h"
 #include "tests/fakes/FakePPD.h"
 
 namespace tavrin {

@@ -9,7 +9,7 @@
 #include "host/PPDLoader.h"
 #include "host/PanelHost.h"
 #include "host/PrintServer.h"
-#include "host/PrivateCupsd.h"
+#include "host/testing/PrivateCupsd.h"
 #include "tests/fakes/FakePPD.h"
 
 // The way of a job to the back end, through a real print server.
@@ -42,7 +42,7 @@ class PrintingTest : public testing::Test {
     return job ? integerIn(*job, "job-state") : 0;
   }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
   PrivateCupsd cups;
 };
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/TemporaryFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 // The program itself, where it needs no display: what it says and how it ends.
 
@@ -51,7 +51,7 @@ TEST(Program, RefusesWrongUsage) {
 }
 
 TEST(Program, NamesADocumentThatCannotBePrinted) {
-  const TemporaryFolder place;
+  const test::TemporaryFolder place;
   place.write("empty.pdf", "");
   expectRefusal("--sample " + (place.path() / "missing.pdf").string(), 3, "missing.pdf");
   expectRefusal("--sample " + (place.path() / "empty.pdf").string(), 3, "empty.pdf");
@@ -59,7 +59,7 @@ TEST(Program, NamesADocumentThatCannotBePrinted) {
 }
 
 TEST(Program, NamesABrokenPrinterDescription) {
-  const TemporaryFolder place;
+  const test::TemporaryFolder place;
   const std::string ppd = place.write("broken.ppd", "*PPD-Adobe: \"4.3\"\nno keyword\n").string();
   expectRefusal("--ppd " + ppd + " " SAMPLE_DOCUMENT, 3, "broken.ppd");
   expectRefusal("--ppd " + (place.path() / "gone.ppd").string() + " " SAMPLE_DOCUMENT, 3,

@@ -1,4 +1,4 @@
-#include "host/SilentServer.h"
+#include "host/testing/SilentServer.h"
 
 #include <chrono>
 #include <functional>
@@ -8,7 +8,7 @@
 
 #include "host/Destinations.h"
 #include "host/JobSubmitter.h"
-#include "host/TemporaryFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {
@@ -34,7 +34,7 @@ class SilentServerTest : public testing::Test {
     EXPECT_TRUE(cancel);
   }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
   SilentServer server;
   const std::string silence = ": the print server at " + server.path() +
                               " does not answer. Check that it runs, then try again.";

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "host/TemporaryFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {
@@ -33,7 +33,7 @@ class DocumentTest : public testing::Test {
     return document ? "" : document.reason();
   }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
 };
 
 TEST_F(DocumentTest, ReadsAFileToItsEnd) {
@@ -75,7 +75,7 @@ class TicketFolderTest : public testing::Test {
         std::distance(fs::directory_iterator(output), fs::directory_iterator()));
   }
 
-  TemporaryFolder place;
+  test::TemporaryFolder place;
   fs::path output = [this] {
     fs::create_directory(place.path() / "out");
     return place.path() / "out";
@@ -88,8 +88,8 @@ TEST_F(TicketFolderTest, HoldsTheDocumentAndItsTicket) {
   const auto folder = writeTicketFolder(output, request, options);
   ASSERT_TRUE(folder) << folder.reason();
   EXPECT_EQ(*folder, output / "Holiday");
-  EXPECT_EQ(textOf(*folder / "card.pdf"), "%PDF-1.4 card");
-  EXPECT_EQ(textOf(*folder / "ticket.json"), R"({
+  EXPECT_EQ(test::textOf(*folder / "card.pdf"), "%PDF-1.4 card");
+  EXPECT_EQ(test::textOf(*folder / "ticket.json"), R"({
   "title": "Holiday",
   "document": "card.pdf",
   "format": "application/pdf",
@@ -111,7 +111,7 @@ TEST_F(TicketFolderTest, OverwritesNothing) {
   EXPECT_EQ(*writeTicketFolder(output, request, options), output / "Holiday-3");
   EXPECT_EQ(*writeTicketFolder(output, request, options), output / "Holiday-4");
   EXPECT_TRUE(fs::is_empty(output / "Holiday"));
-  EXPECT_EQ(textOf(output / "Holiday-2"), "a file");
+  EXPECT_EQ(test::textOf(output / "Holiday-2"), "a file");
 }
 
 TEST_F(TicketFolderTest, StaysInTheOutputFolder) {
@@ -127,7 +127,7 @@ TEST_F(TicketFolderTest, TakesADocumentThatIsNamedLikeTheTicket) {
   request.document = place.write("ticket.json", "%PDF-1.4 odd");
   const auto folder = writeTicketFolder(output, request, options);
   ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(textOf(*folder / "document-ticket.json"), "%PDF-1.4 odd");
+  EXPECT_EQ(test::textOf(*folder / "document-ticket.json"), "%PDF-1.4 odd");
 }
 
 TEST_F(TicketFolderTest, LeavesNothingBehindWhenCancelled) {

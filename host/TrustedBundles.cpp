@@ -4,6 +4,8 @@
 
 #include <cups/ppd.h>
 
+#include "platform/FileName.h"
+
 namespace tavrin {
 
 namespace fs = std::filesystem;
@@ -37,8 +39,8 @@ fs::path userFolder() {
 // written on another system, but its paths have slashes all the same.
 std::string bundleName(const std::string& extension) {
   const std::string name = extension.substr(extension.rfind('/') + 1);
-  const bool good = name.size() > sizeof(kSuffix) - 1 && name.ends_with(kSuffix) &&
-                    name.front() != '.' && name.find('\0') == std::string::npos;
+  const bool good =
+      name.size() > sizeof(kSuffix) - 1 && name.ends_with(kSuffix) && isPlainFileName(name);
   return good ? name : std::string();
 }
 

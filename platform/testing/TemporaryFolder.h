@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -37,5 +38,11 @@ class TemporaryFolder {
  private:
   std::filesystem::path folder;
 };
+
+// The whole text of a file; empty when it cannot be read.
+inline std::string textOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 }  // namespace tavrin::test

@@ -1,4 +1,4 @@
-#include "host/SilentServer.h"
+#include "host/testing/SilentServer.h"
 
 #include <cstdlib>
 #include <stdexcept>

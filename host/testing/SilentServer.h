@@ -3,7 +3,7 @@
 #include <string>
 
 #include "host/FileDescriptor.h"
-#include "host/TemporaryFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 namespace tavrin {
 
@@ -30,7 +30,7 @@ class SilentServer {
   FileDescriptor nextCaller() const;
   static bool readByte(const FileDescriptor& caller);
 
-  TemporaryFolder folder;
+  test::TemporaryFolder folder;
   FileDescriptor server;
 };
 

@@ -5,7 +5,7 @@
 #include <sys/types.h>
 #include <vector>
 
-#include "host/TemporaryFolder.h"
+#include "platform/testing/TemporaryFolder.h"
 
 namespace tavrin {
 
@@ -49,7 +49,7 @@ class PrivateCupsd {
   void start();
   void stop();
 
-  TemporaryFolder scratch;
+  test::TemporaryFolder scratch;
   pid_t server = -1;
 };
 

@@ -1,4 +1,4 @@
-#include "host/PrivateCupsd.h"
+#include "host/testing/PrivateCupsd.h"
 
 #include <algorithm>
 #include <chrono>
@@ -179,7 +179,7 @@ int PrivateCupsd::CapturedJob::named(const std::string& name) const {
 PrivateCupsd::CapturedJob PrivateCupsd::waitForJob(int jobId) const {
   const fs::path base = folder() / "out" / ("job-" + std::to_string(jobId));
   waitUntil([&] { return fs::exists(base.string() + ".data"); }, "job " + std::to_string(jobId));
-  std::istringstream lines(textOf(base.string() + ".args"));
+  std::istringstream lines(test::textOf(base.string() + ".args"));
   CapturedJob job;
   std::string options;
   std::getline(lines, job.user);
@@ -187,7 +187,7 @@ PrivateCupsd::CapturedJob PrivateCupsd::waitForJob(int jobId) const {
   std::getline(lines, job.copies);
   std::getline(lines, options);
   job.options = splitOptions(options);
-  job.data = textOf(base.string() + ".data");
+  job.data = test::textOf(base.string() + ".data");
   return job;
 }
 
