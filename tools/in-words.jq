@@ -48,11 +48,12 @@ def action($state):
   else empty end;
 
 # What a conflict window says, and its choices.
-def window_text: .window as $window | .labels as $labels
+def window_text: .window as $window | .labels as $labels | .buttons as $buttons
   | [("A", "B", "C", "D") | $labels["ibLabel\(.)_\($window)"] | values | "    " + .]
   + [("First", "Second", "Third") as $choice
+     | (if $buttons["ib\($choice)Button_\($window)"].on then "(*)" else "( )" end) as $mark
      | [("A", "B") | $labels["ibLabel\(.)_\($choice)Button_\($window)"] | values | select(. != "")]
-     | select(. != []) | "      ( ) " + join(", ")]
+     | select(. != []) | "      \($mark) " + join(", ")]
   | join("\n");
 
 def happened:
