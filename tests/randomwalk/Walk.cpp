@@ -292,11 +292,14 @@ void Walk::answerConflict(FakeInterface& windows, const std::string& name) {
   windows.press("ibOkButton_" + name, "clickOkButton_" + name + ":");
 }
 
-// The step's next answer without the choices that the window lacks; when there is none left, the
-// first choice.
+// The step's next answer without the choices that the window lacks; when there is none left, one
+// choice after the other. The first alone may lead nowhere: a host can report iron-on paper to the
+// panel of a printer without paper types, and then the mirror image that was switched off comes on
+// again at once.
 Answer Walk::nextAnswer(const std::string& window) {
-  if (answered >= step->answers.size()) return {{1}, Answer::End::ok};
-  Answer answer = step->answers[answered++];
+  const bool given = answered < step->answers.size();
+  Answer answer =
+      given ? step->answers[answered++] : Answer{{1 + windowsOfStep % 3}, Answer::End::ok};
   std::erase_if(answer.choices, [&](int number) { return number > choicesOfWindow(window); });
   return answer;
 }
