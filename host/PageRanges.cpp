@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace tavrin {
@@ -13,6 +14,7 @@ namespace tavrin {
 namespace {
 
 constexpr int kLastPage = std::numeric_limits<int>::max();
+const QRegularExpression kTwoNumbers("\\d \\d");
 
 struct Range {
   int first;
@@ -67,7 +69,10 @@ std::string written(const Range& range) {
 }  // namespace
 
 Result<std::string> checkedPageRanges(const QString& text) {
-  QString bare = text;
+  QString bare = text.simplified();
+  if (bare.contains(kTwoNumbers))
+    return failure(
+        say("“%1” has no comma between two pages. Write them like this: 1-3,5.").arg(bare));
   // An en dash comes from pasted text.
   bare.remove(' ').replace(QChar(0x2013), '-');
   if (bare.isEmpty()) return failure(say("Write which pages to print, for example 1-3,5."));
