@@ -18,6 +18,7 @@ namespace {
 
 constexpr char kTicketName[] = "ticket.json";
 constexpr int kMostFolders = 10000;
+constexpr std::size_t kLongestName = 100;  // bytes
 
 Failure cannotWrite(const fs::path& output) {
   return {"The job cannot be written to the folder \"" + output.string() +
@@ -53,9 +54,14 @@ class HiddenFolder {
   fs::path folder;
 };
 
+// Whether it is a character's second or later byte.
+bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
 // A folder's name for a title: no path, nothing hidden, not too long.
 std::string folderName(const std::string& title) {
-  std::string name = title.substr(0, 100);
+  std::size_t end = std::min(title.size(), kLongestName);
+  while (end > 0 && end < title.size() && isContinuation(title[end])) --end;
+  std::string name = title.substr(0, end);
   for (char& c : name)
     if (c == '/' || static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = '_';
   if (name.empty() || name.front() == '.') name.insert(0, "job");
@@ -156,6 +162,11 @@ Result<fs::path> writeTicketFolder(const fs::path& output, const JobRequest& req
                                    const ProgressCallback& progress) {
   auto document = Document::open(request.document, cancel);
   if (!document) return Failure{document.reason()};
+  std::error_code problem;
+  if (fs::create_directories(output, problem); problem) {
+    errno = problem.value();
+    return cannotWrite(output);
+  }
   HiddenFolder folder(output);
   if (!folder) return cannotWrite(output);
   const auto copied = copyDocument(

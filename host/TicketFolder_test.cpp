@@ -15,6 +15,8 @@ namespace fs = std::filesystem;
 
 TEST(Document, KnowsFormatsByTheirFirstBytes) {
   EXPECT_EQ(formatOf("%PDF-1.4"), "application/pdf");
+  EXPECT_EQ(formatOf("\r\n\n%PDF-1.4"), "application/pdf");
+  EXPECT_EQ(formatOf("\n"), "text/plain");
   EXPECT_EQ(formatOf("%!PS-Adobe"), "application/postscript");
   EXPECT_EQ(formatOf("\xFF\xD8\xFF\xE0"), "image/jpeg");
   EXPECT_EQ(formatOf("\x89PNG\r\n\x1A\n..."), "image/png");
@@ -123,6 +125,20 @@ TEST_F(TicketFolderTest, StaysInTheOutputFolder) {
   EXPECT_EQ(writeTicketFolder(output, request, options)->parent_path(), output);
 }
 
+TEST_F(TicketFolderTest, CutsALongTitleBetweenCharacters) {
+  request.title = "x";
+  for (int i = 0; i < 100; ++i) request.title += "ü";
+  const auto folder = writeTicketFolder(output, request, options);
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(folder->filename().string(), request.title.substr(0, 99));
+}
+
+TEST_F(TicketFolderTest, MakesTheOutputFolder) {
+  const auto folder = writeTicketFolder(output / "new" / "jobs", request, options);
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(*folder, output / "new" / "jobs" / "Holiday");
+}
+
 TEST_F(TicketFolderTest, TakesADocumentThatIsNamedLikeTheTicket) {
   request.document = place.write("ticket.json", "%PDF-1.4 odd");
   const auto folder = writeTicketFolder(output, request, options);
@@ -145,12 +161,12 @@ TEST_F(TicketFolderTest, LeavesNothingBehindWhenItFails) {
   EXPECT_EQ(entries(), 0u);
 }
 
-TEST_F(TicketFolderTest, NamesAnOutputFolderThatIsNotThere) {
-  const auto folder = writeTicketFolder(output / "nowhere", request, options);
+TEST_F(TicketFolderTest, NamesAnOutputFolderThatCannotBe) {
+  const auto file = place.write("out/file", "in the way");
+  const auto folder = writeTicketFolder(file, request, options);
   ASSERT_FALSE(folder);
-  EXPECT_EQ(folder.reason(), "The job cannot be written to the folder \"" +
-                                 (output / "nowhere").string() +
-                                 "\": No such file or directory. Choose another folder.");
+  EXPECT_EQ(folder.reason(), "The job cannot be written to the folder \"" + file.string() +
+                                 "\": Not a directory. Choose another folder.");
 }
 
 TEST_F(TicketFolderTest, TellsHowFarItIs) {
