@@ -166,6 +166,10 @@ std::string stateText(const PrinterState& state) {
   // "paused" is what stopped means.
   for (const std::string& reason : state.reasons)
     if (reason != "paused") reasons.push_back(reasonText(reason));
+  // "Paused" is all that the server says of a printer that somebody stopped.
+  const bool isExplained = !state.message.empty() && state.message != "Paused";
+  if (reasons.empty() && state.activity == Activity::stopped && isExplained)
+    reasons.push_back(state.message);
   std::string words = activityText(state.activity);
   if (!state.acceptsJobs) words += ", not accepting jobs";
   if (!reasons.empty()) words += ": " + joined(reasons);

@@ -27,8 +27,7 @@ struct Signature {
   const char* format;
 };
 
-constexpr std::array<Signature, 13> kSignatures{{
-    {"%PDF-", "application/pdf"},
+constexpr std::array<Signature, 12> kSignatures{{
     {"%!", "application/postscript"},
     {"\xFF\xD8\xFF", "image/jpeg"},
     {"\x89PNG\r\n\x1A\n", "image/png"},
@@ -57,6 +56,9 @@ bool isBitmap(std::string_view start) {
 }  // namespace
 
 std::string formatOf(std::string_view start) {
+  // The print system, too, takes a PDF that begins with empty lines.
+  if (const auto first = start.find_first_not_of("\r\n"); first != start.npos)
+    if (start.substr(first).starts_with("%PDF-")) return "application/pdf";
   for (const Signature& signature : kSignatures)
     if (start.starts_with(signature.start)) return signature.format;
   if (isBitmap(start)) return "image/x-portable-anymap";

@@ -10,6 +10,10 @@ namespace tavrin {
 
 namespace {
 
+// Options that say what the document is; the job has none of them.
+constexpr char kFormatOption[] = "document-format";
+constexpr char kRawOption[] = "raw";
+
 constexpr Patience kShortPatience = std::chrono::seconds(3);
 
 // One job on its way to its queue.
@@ -55,13 +59,20 @@ Result<int> Delivery::create(PrintServer& server) {
   return jobId;
 }
 
+// As lp has it: what the options say, else what the document looks like.
+std::string formatOf(const JobRequest& request, const Document& document) {
+  if (const OptString raw = optionValue(request.options, kRawOption); raw && *raw != "false")
+    return "application/vnd.cups-raw";
+  return optionValue(request.options, kFormatOption).value_or(document.format());
+}
+
 bool Delivery::startDocument(PrintServer& server) {
   const IppPtr start = printerRequest(IPP_OP_SEND_DOCUMENT, request.printer);
   ippAddInteger(start.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
   ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
                document.name().c_str());
   ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
-               document.format().c_str());
+               formatOf(request, document).c_str());
   ippAddBoolean(start.get(), IPP_TAG_OPERATION, "last-document", 1);
   return cupsSendRequest(server.http(), start.get(), "/", CUPS_LENGTH_VARIABLE) ==
          HTTP_STATUS_CONTINUE;
@@ -73,9 +84,9 @@ Result<bool> Delivery::sendBytes(PrintServer& server, const ProgressCallback& pr
     const auto bytes = document.read(buffer, cancel);
     if (!bytes) return Failure{bytes.reason()};
     if (*bytes == 0) return !cancel;
+    server.refresh();  // it was the document that kept it waiting
     if (cupsWriteRequestData(server.http(), buffer.data(), *bytes) != HTTP_STATUS_CONTINUE)
       return failure(server);
-    server.refresh();
     sent.done += *bytes;
     if (progress) progress(sent);
   }
@@ -132,7 +143,11 @@ Result<Submission> submitJob(const JobRequest& request, const OptionList& option
   auto server = PrintServer::connect(cancel, patience);
   if (!server) return Failure{server.reason()};
 
-  const CupsOptions array(options);
+  OptionList ofJob = options;
+  std::erase_if(ofJob, [](const auto& option) {
+    return option.first == kFormatOption || option.first == kRawOption;
+  });
+  const CupsOptions array(ofJob);
   Delivery delivery(request, array, *document, cancel);
   submission.cancelled = cancel;
   if (submission.cancelled) return submission;
@@ -143,8 +158,8 @@ Result<Submission> submitJob(const JobRequest& request, const OptionList& option
   submission.jobId = *jobId;
   const auto sent = delivery.send(*server, progress);
   if (sent && *sent) {
-    compare(*server, options, submission);
-    return submission;
+    compare(*server, ofJob, submission);
+    if (!cancel) return submission;
   }
   { const PrintServer closed = std::move(*server); }  // it may be in the middle of the document
   const std::string leftover = takeBack(request, *jobId);

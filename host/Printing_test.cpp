@@ -93,6 +93,21 @@ TEST_F(PrintingTest, AMirrorOptionIsSentOnceHoweverItWasSpelled) {
   EXPECT_TRUE(captured.has("noMirror"));
 }
 
+TEST_F(PrintingTest, TheOptionsMaySayWhatTheDocumentIs) {
+  cups.addQueue(kQueue, plainPPD());
+  JobRequest job = request("Dear Ada");  // text, which the queue would lay out
+  job.options = {{"document-format", "application/pdf"}};
+  auto submission = submitJob(job, job.options);
+  ASSERT_TRUE(submission) << submission.reason();
+  EXPECT_EQ(submission->missingOptions, std::vector<std::string>{});
+  EXPECT_EQ(cups.waitForJob(submission->jobId).data, "Dear Ada");
+  job.options = {{"raw", "true"}};
+  submission = submitJob(job, job.options);
+  ASSERT_TRUE(submission) << submission.reason();
+  EXPECT_EQ(submission->missingOptions, std::vector<std::string>{});
+  EXPECT_EQ(cups.waitForJob(submission->jobId).data, "Dear Ada");
+}
+
 TEST_F(PrintingTest, NamesAnOptionThatDidNotArrive) {
   cups.addQueue(kQueue, plainPPD());
   const auto submission = submitJob(request(), {{"MediaType", "IronOn"}, {"job-state", "9"}});
@@ -138,6 +153,8 @@ TEST_F(PrintingTest, AStoppedQueueKeepsTheJob) {
   ASSERT_TRUE(state) << state.reason();
   EXPECT_EQ(state->activity, PrinterState::Activity::stopped);
   EXPECT_EQ(stateText(*state), "Stopped");
+  cups.run({"cupsdisable", "-r", "Filter failed", kQueue});
+  EXPECT_EQ(stateText(*readPrinterState(kQueue)), "Stopped: Filter failed");
   const auto submission = submitJob(request(), {});
   ASSERT_TRUE(submission) << submission.reason();
   EXPECT_EQ(jobState(submission->jobId), IPP_JSTATE_PENDING);
