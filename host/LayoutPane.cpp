@@ -6,15 +6,13 @@
 #include <QFormLayout>
 
 #include "host/OptionControl.h"
+#include "host/PrintOptions.h"
 #include "host/Widgets.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
 namespace {
-
-// Makers of printer software agree on the meaning but not on the name.
-constexpr std::array kTwoSidedKeywords{"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
 
 constexpr int kTwoSidedRow = 1;
 

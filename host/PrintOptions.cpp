@@ -77,7 +77,16 @@ bool markValue(ppd_file_s& ppd, ppd_option_t& option, const std::string& value) 
 // A general option of the print system says the same as a mark of the PPD and could contradict it.
 void removeWhatMarksSay(OptionList& options, const OptionList& marked) {
   if (optionValue(marked, kPaperSizeKeyword)) remove(options, "media");
-  if (optionValue(marked, "Duplex")) remove(options, "sides");
+  for (const char* keyword : kTwoSidedKeywords)
+    if (optionValue(marked, keyword)) remove(options, "sides");
+}
+
+// What was asked for in an option of the PPD before the person took every mark of it away.
+void removeUnmarked(OptionList& options, ppd_file_s& ppd, const OptionList& marked) {
+  std::erase_if(options, [&](const auto& option) {
+    const auto& [name, value] = option;
+    return ppdFindOption(&ppd, name.c_str()) && !optionValue(marked, name) && !isCustom(value);
+  });
 }
 
 std::string shellQuoted(const std::string& text) {
@@ -143,6 +152,7 @@ OptionList jobOptions(const JobRequest& request, ppd_file_s* ppd) {
   if (ppd) {
     const OptionList marked = markedOptions(*ppd);
     removeWhatMarksSay(options, marked);
+    removeUnmarked(options, *ppd, marked);
     for (const auto& [name, value] : marked) setOption(options, name, value);
   }
   remove(options, "copies");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -17,6 +18,10 @@ using OptionList = std::vector<std::pair<std::string, std::string>>;
 inline constexpr int kMostCopies = 9999;  // of a job
 // The PPD's option for the size of the paper.
 inline constexpr char kPaperSizeKeyword[] = "PageSize";
+
+// Its options for printing on both sides: makers of printer software agree on the meaning but not
+// on the name.
+inline constexpr std::array kTwoSidedKeywords{"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
 
 // What is to be printed, and how.
 struct JobRequest {
@@ -49,7 +54,8 @@ OptionList markedOptions(ppd_file_s& ppd);
 std::vector<std::string> markOptions(ppd_file_s& ppd, const OptionList& options);
 
 // All options of the job as they are sent: the request's own, the PPD's marked choices over them
-// (a null PPD has none), then copies and page ranges where they say something.
+// (a null PPD has none), then copies and page ranges where they say something. An option of the PPD
+// in which nothing is marked is not sent.
 OptionList jobOptions(const JobRequest& request, ppd_file_s* ppd);
 
 // The name that the job gets: its title, else the document's.

@@ -92,6 +92,19 @@ TEST(PrintOptions, PutsTheMarksOverTheRequest) {
   EXPECT_EQ(optionValue(options, "page-ranges"), "1-3,5");
 }
 
+TEST(PrintOptions, SendsNothingWhereEveryMarkWasTakenAway) {
+  const PPDPtr ppd = familyPPD();
+  JobRequest request;
+  request.options = {{"Staple", "Right,Top"}, {"job-hold-until", "night"}};
+  ppd_choice_t* byDefault = ppdFindMarkedChoice(ppd.get(), "Staple");
+  ASSERT_NE(byDefault, nullptr);
+  byDefault->marked = 0;
+  cupsArrayRemove(ppd->marked, byDefault);
+  const OptionList options = jobOptions(request, ppd.get());
+  EXPECT_EQ(optionValue(options, "Staple"), std::nullopt);
+  EXPECT_EQ(optionValue(options, "job-hold-until"), "night");
+}
+
 TEST(PrintOptions, KeepsTheRequestOfAPrinterWithoutAPPD) {
   JobRequest request;
   request.options = {{"media", "Letter"}};
