@@ -38,6 +38,8 @@ JobRequest jobFrom(const QCommandLineParser& parser) {
   for (const QString& text : parser.values(kOption))
     for (const auto& [name, value] : parseOptions(text.toStdString()))
       setOption(job.options, name, value);
+  // Said outright, one copy too goes before what is saved for the printer.
+  if (parser.isSet(kCopies)) setOption(job.options, "copies", std::to_string(job.copies));
   if (const QStringList documents = parser.positionalArguments(); !documents.isEmpty())
     job.document = documents.front().toStdString();
   return job;
@@ -69,6 +71,9 @@ QString disagreement(const QCommandLineParser& parser) {
     return QString("“%1” is not a number of copies; it goes from 1 to %2.")
         .arg(wrong)
         .arg(kMostCopies);
+  for (const char* name : {kPrinter, kPPD, kOutput})
+    if (parser.isSet(name) && parser.value(name).isEmpty())
+      return QString("%1%2 needs a value.").arg(*(name + 1) ? "--" : "-", name);
   if (parser.isSet(kPPD) + parser.isSet(kSample) + parser.isSet(kPrinter) > 1)
     return "Only one of -d, --ppd and --sample can be given.";
   if (parser.isSet(kOutput) && !parser.isSet(kPPD) && !parser.isSet(kSample))

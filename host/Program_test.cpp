@@ -17,9 +17,9 @@ struct Run {
   std::string text;  // standard output and standard error
 };
 
-Run run(const std::string& arguments) {
-  const std::string command = "unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM; " TAVRIN_PRINT " " +
-                              arguments + " 2>&1 </dev/null";
+Run run(const std::string& arguments, const std::string& environment = "") {
+  const std::string command = "unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM; " + environment +
+                              " " TAVRIN_PRINT " " + arguments + " 2>&1 </dev/null";
   const auto close = [](FILE*) {};
   const std::unique_ptr<FILE, decltype(close)> pipe(popen(command.c_str(), "r"), close);
   Run result;
@@ -48,6 +48,8 @@ TEST(Program, RefusesWrongUsage) {
   expectRefusal("--frobnicate", 2, "'frobnicate'. See tavrin-print --help.");
   expectRefusal("-n none a.pdf", 2, "none");
   expectRefusal("a.pdf b.pdf", 2, "one document");
+  expectRefusal("--ppd '' a.pdf", 2, "--ppd needs a value.");
+  expectRefusal("-d '' a.pdf", 2, "-d needs a value.");
 }
 
 TEST(Program, NamesADocumentThatCannotBePrinted) {
@@ -62,11 +64,17 @@ TEST(Program, NamesABrokenPrinterDescription) {
   const test::TemporaryFolder place;
   const std::string ppd = place.write("broken.ppd", "*PPD-Adobe: \"4.3\"\nno keyword\n").string();
   expectRefusal("--ppd " + ppd + " " SAMPLE_DOCUMENT, 3, "broken.ppd");
+  expectRefusal("--ppd " + ppd + " " SAMPLE_DOCUMENT, 3, "line 2");
   expectRefusal("--ppd " + (place.path() / "gone.ppd").string() + " " SAMPLE_DOCUMENT, 3,
                 "gone.ppd");
 }
 
-TEST(Program, SaysThatThereIsNoDisplay) { expectRefusal("--sample", 3, "There is no display"); }
+TEST(Program, SaysThatThereIsNoDisplay) {
+  expectRefusal("--sample", 3, "There is no display");
+  const auto dead = run("--sample", "DISPLAY=:99999 QT_QPA_PLATFORM=xcb");
+  EXPECT_EQ(dead.status, 3);
+  EXPECT_NE(dead.text.find("tavrin-print: There is no display"), std::string::npos) << dead.text;
+}
 
 }  // namespace
 }  // namespace tavrin

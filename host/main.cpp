@@ -21,6 +21,9 @@ namespace {
 
 using namespace tavrin;
 
+constexpr char kNoDisplay[] =
+    "There is no display to show the dialog on. Set DISPLAY, or print with lp.";
+
 enum ExitStatus { kPrinted = 0, kCancelled = 1, kUsage = 2, kNotPrinted = 3 };
 
 int complain(ExitStatus status, const std::string& sentence) {
@@ -45,6 +48,12 @@ void takeForStandardInput(JobRequest& job) {
   job.document = "-";
 }
 
+// Where the display cannot be reached, Qt would end the program without a word of its own.
+void complainAndLeave(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  std::cerr << text.toStdString() << "\n";
+  if (type == QtFatalMsg) std::_Exit(complain(kNotPrinted, kNoDisplay));
+}
+
 // Why the document cannot be printed whatever the printer; empty when it can. Standard input is
 // not looked at before it is printed.
 std::string documentProblem(const std::filesystem::path& document) {
@@ -59,7 +68,7 @@ int report(const PrintDialog& dialog) {
     case PrintDialog::Outcome::failed:
       return complain(kNotPrinted, text);
     case PrintDialog::Outcome::cancelled:
-      return kCancelled;
+      return text.empty() ? kCancelled : complain(kCancelled, text);
     case PrintDialog::Outcome::printed:
       break;
   }
@@ -68,7 +77,9 @@ int report(const PrintDialog& dialog) {
 }
 
 int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) {
+  qInstallMessageHandler(complainAndLeave);
   QApplication application(argc, argv);
+  qInstallMessageHandler(nullptr);
   QApplication::setApplicationName("tavrin-print");
   QtToolkit toolkit;
   Toolkit::install(&toolkit);
@@ -107,10 +118,7 @@ int print(CommandLine line, int& argc, char** argv) {
     if (!loaded) return complain(kNotPrinted, loaded.reason());
     ppd = std::move(*loaded);
   }
-  if (!hasDisplay())
-    return complain(kNotPrinted,
-                    "There is no display to show the dialog on. Set DISPLAY, or print "
-                    "with lp.");
+  if (!hasDisplay()) return complain(kNotPrinted, kNoDisplay);
   return show(line, ppd, argc, argv);
 }
 
