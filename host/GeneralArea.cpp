@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QSpinBox>
 
 #include "host/OptionControl.h"
@@ -36,6 +37,7 @@ void GeneralArea::addCopiesRow() {
   copiesBox->setObjectName("copies");
   copiesBox->setAccessibleName(tr("Copies"));
   copiesBox->setRange(1, kMostCopies);
+  connect(copiesBox, &QSpinBox::valueChanged, this, [this] { copiesByHand = true; });
   auto* row = makeChild<QWidget>(this);
   auto* line = makeChild<QHBoxLayout>(row);
   line->setContentsMargins(0, 0, 0, 0);
@@ -59,17 +61,27 @@ void GeneralArea::addPagesRow() {
   line->addWidget(rangeEdit, 1);
   addRow(*form, tr("Pages:"), *row);
   form->addRow(nullptr, rangeProblem);
-  connect(rangeEdit, &QLineEdit::textEdited, this, [this] { somePages->setChecked(true); });
+  connect(rangeEdit, &QLineEdit::textEdited, this, [this] {
+    pagesByHand = true;
+    somePages->setChecked(true);
+  });
+  for (QRadioButton* button : {allPages, somePages})
+    connect(button, &QRadioButton::clicked, this, [this] { pagesByHand = true; });
   connect(rangeEdit, &QLineEdit::editingFinished, this, &GeneralArea::showRangeProblem);
   connect(somePages, &QRadioButton::toggled, this, &GeneralArea::showRangeProblem);
   connect(somePages, &QRadioButton::clicked, rangeEdit, [this] { rangeEdit->setFocus(); });
 }
 
-void GeneralArea::setCopies(int copies) { copiesBox->setValue(copies); }
+void GeneralArea::suggestCopies(int copies) {
+  if (copiesByHand) return;
+  const QSignalBlocker quiet(copiesBox);
+  copiesBox->setValue(copies);
+}
 
 int GeneralArea::copies() const { return copiesBox->value(); }
 
-void GeneralArea::setPageRanges(const QString& ranges) {
+void GeneralArea::suggestPageRanges(const QString& ranges) {
+  if (pagesByHand) return;
   rangeEdit->setText(ranges);
   (ranges.isEmpty() ? allPages : somePages)->setChecked(true);
   showRangeProblem();

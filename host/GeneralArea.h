@@ -26,12 +26,12 @@ class GeneralArea : public QWidget {
 
   PrinterPopUp& printers() { return *printerPopUp; }
 
-  // Between 1 and 9999; another number becomes the nearest of them.
-  void setCopies(int copies);
+  // What the program or the printer would have. Both stay without effect once the person has
+  // changed the field. A number of copies that cannot be becomes the nearest that can; the empty
+  // text stands for all pages.
+  void suggestCopies(int copies);
+  void suggestPageRanges(const QString& ranges);
   int copies() const;
-
-  // The empty text stands for all pages.
-  void setPageRanges(const QString& ranges);
   // What the person wrote, in the print system's form ("1-3,5"), empty for all pages; or why it
   // means no pages.
   Result<std::string> pageRanges() const;
@@ -55,6 +55,8 @@ class GeneralArea : public QWidget {
   QRadioButton* somePages;
   QLineEdit* rangeEdit;
   QLabel* rangeProblem;
+  bool copiesByHand = false;
+  bool pagesByHand = false;
   PPDMarks* marks = nullptr;
   QWidget* papers = nullptr;
 };

@@ -68,13 +68,13 @@ TEST(LayoutPane, TakesASuggestionUntilThePersonPicks) {
 TEST(GeneralArea, TellsWhatIsWrongWithThePages) {
   GeneralArea area(nullptr);
   EXPECT_EQ(*area.pageRanges(), "");
-  area.setPageRanges("5,1-3");
+  area.suggestPageRanges("5,1-3");
   EXPECT_EQ(*area.pageRanges(), "1-3,5");
-  area.setPageRanges("5-1");
+  area.suggestPageRanges("5-1");
   ASSERT_FALSE(area.pageRanges());
   area.focusPageRanges();
   EXPECT_FALSE(area.findChild<QLabel*>("pageRangeProblem")->isHidden());
-  area.setPageRanges("5");
+  area.suggestPageRanges("5");
   EXPECT_TRUE(area.findChild<QLabel*>("pageRangeProblem")->isHidden());
 }
 

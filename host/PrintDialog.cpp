@@ -84,10 +84,11 @@ void PrintDialog::build() {
 
 // What the fields of the dialog hold, they hold in place of the options.
 void PrintDialog::fillIn() {
-  const OptString copies = optionValue(request.options, "copies");
-  general->setCopies(request.copies > 1 || !copies ? request.copies : integerValue(copies));
-  const OptString ranges = optionValue(request.options, "page-ranges");
-  general->setPageRanges(
+  const OptionList options = startOptions();
+  const OptString copies = optionValue(options, "copies");
+  general->suggestCopies(request.copies > 1 || !copies ? request.copies : integerValue(copies));
+  const OptString ranges = optionValue(options, "page-ranges");
+  general->suggestPageRanges(
       shownLine(request.pageRanges.empty() ? ranges.value_or("") : request.pageRanges));
 }
 
@@ -96,6 +97,7 @@ void PrintDialog::connectParts() {
   connect(buttons, &JobButtons::cancelled, this, &PrintDialog::reject);
   connect(buttons, &JobButtons::closed, this, &PrintDialog::accept);
   connect(buttons, &JobButtons::printWanted, this, &PrintDialog::print);
+  connect(note, &Note::wayOutTaken, this, &PrintDialog::usePrintServer);
   connect(layoutPane, &LayoutPane::pagesPerSheetChanged, this, [this](int pages) {
     if (current) current->setPagesPerSheet(pages);
   });
@@ -179,10 +181,16 @@ SummaryPane::Sections PrintDialog::allLines() const {
 
 void PrintDialog::reject() {
   if (buttons->state() == JobButtons::State::done) return accept();
-  if (buttons->state() != JobButtons::State::printing || buttons->isCancelling())
-    return QDialog::reject();
+  if (buttons->state() != JobButtons::State::printing) return leave(note->warning());
+  if (buttons->isCancelling())
+    return leave(tr("The job may still be on its way. See whether it is in the queue: lpstat -o"));
   buttons->showCancelling();
   runner.cancel();
+}
+
+void PrintDialog::leave(const QString& lastWords) {
+  if (end == Outcome::cancelled) reportText = lastWords;
+  QDialog::reject();
 }
 
 }  // namespace tavrin

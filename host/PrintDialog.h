@@ -49,7 +49,8 @@ class PrintDialog : public QDialog {
   void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);
 
   Outcome outcome() const { return end; }
-  // What became of the job, in sentences: the job's name, or why there is none. Empty before.
+  // What became of the job, in sentences: the job's name, or why there is none. Empty before, and
+  // for a person who left of their own accord.
   const QString& report() const { return reportText; }
 
   // A sentence of the program's for the person; it interrupts nothing.
@@ -76,6 +77,7 @@ class PrintDialog : public QDialog {
   void fit();
   void stayOnScreen();
   void showHelp();
+  void leave(const QString& lastWords);
   void showConflicts();
   std::vector<std::pair<QString, std::vector<std::pair<QString, QString>>>> allLines() const;
 
@@ -108,6 +110,7 @@ class PrintDialog : public QDialog {
   JobRequest request;
   std::filesystem::path output;  // empty while jobs go to queues
   std::string queueOfSession;
+  std::string chosen;  // the queue or instance that the fields are filled in for
   std::unique_ptr<PrinterSession> current;
 
   FittingScrollArea* scroll;

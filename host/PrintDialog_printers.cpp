@@ -54,6 +54,7 @@ void PrintDialog::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::
   printer.name = ppd->nickname ? ppd->nickname : ppd->modelname ? ppd->modelname : "";
   general->printers().setPrinters({printer}, destinationName(printer));
   general->printers().setStateText(printer.name, tr("jobs go to a folder"));
+  chosen = destinationName(printer);
   takePPD(ppd);
 }
 
@@ -75,7 +76,12 @@ void PrintDialog::noPrinters(const QString& reason) {
 
 void PrintDialog::choosePrinter() {
   const Printer& printer = *general->printers().selected();
+  // Picking what is picked already changes nothing.
+  if (const std::string last = std::exchange(chosen, destinationName(printer));
+      current && chosen == last)
+    return;
   note->clear();
+  fillIn();
   if (current && queueOfSession == printer.name) {
     note->say(markPrinter());
     return switcher->showAgain();
@@ -101,6 +107,7 @@ void PrintDialog::takePPD(const SharedPPD& ppd) {
 
 // A printer without a PPD still prints; only its own settings cannot be shown.
 void PrintDialog::goWithoutPPD(const QString& reason) {
+  if (current) return;
   note->say(tr("%1 The document can be printed all the same, with the printer's usual settings.")
                 .arg(reason));
   buttons->setState(JobButtons::State::ready);

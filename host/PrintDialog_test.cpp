@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -296,7 +297,7 @@ TEST_F(PrintDialogTest, PrintsOnTheChosenQueueAndInstance) {
   PrivateCupsd cups;
   cups.addQueue("plain", fs::path(SAMPLE_PRINTERS) / "tavrin-s120.ppd");
   cups.addQueue("photo", fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
-  cups.run({"lpoptions", "-p", "photo/iron", "-o", "MediaType=IronOn"});
+  cups.run({"lpoptions", "-p", "photo/iron", "-o", "MediaType=IronOn", "-o", "copies=2"});
   JobRequest request = job();
   request.printer = "plain";
   PrintDialog dialog(request);
@@ -308,7 +309,10 @@ TEST_F(PrintDialogTest, PrintsOnTheChosenQueueAndInstance) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return sessions.count() == 2; }, kPatience));
   EXPECT_NE(dialog.session()->marks().choice("MediaType"), "IronOn");
 
+  auto* copies = dialog.findChild<QSpinBox*>("copies");
+  EXPECT_EQ(copies->value(), 1);
   pickPrinter(dialog, "photo/iron");
+  EXPECT_EQ(copies->value(), 2);
   EXPECT_EQ(dialog.session()->marks().choice("MediaType"), "IronOn");
   EXPECT_TRUE(
       has(summaryOf(dialog), "Paper Type: " + *dialog.session()->marks().choiceText("MediaType")))
@@ -317,8 +321,34 @@ TEST_F(PrintDialogTest, PrintsOnTheChosenQueueAndInstance) {
   press(dialog, "print");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.report().isEmpty(); }, kPatience));
   ASSERT_EQ(dialog.outcome(), PrintDialog::Outcome::printed) << dialog.report().toStdString();
-  EXPECT_TRUE(dialog.report().startsWith("Job photo-1 was sent.")) << dialog.report().toStdString();
-  EXPECT_TRUE(cups.waitForJob(1).has("MediaType=IronOn"));
+  EXPECT_EQ(dialog.report(), "Job photo-1 was sent.");
+  const auto captured = cups.waitForJob(1);
+  EXPECT_TRUE(captured.has("MediaType=IronOn"));
+  EXPECT_EQ(captured.copies, "2");
+}
+
+TEST_F(PrintDialogTest, PickingThePrinterAgainKeepsWhatWasChosen) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.session()->marks().choose("MediaType", "IronOn");
+  pickPrinter(dialog, dialog.findChild<PrinterPopUp*>()->currentText());
+  EXPECT_EQ(dialog.session()->marks().choice("MediaType"), "IronOn");
+}
+
+TEST_F(PrintDialogTest, LooksAgainForPrinters) {
+  SilentServer server;
+  server.stop();
+  PrintDialog dialog(job());
+  dialog.show();
+  dialog.usePrintServer();
+  auto* note = dialog.findChild<Note*>("note");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !note->text().isEmpty(); }, kPatience));
+  EXPECT_TRUE(note->text().contains("cannot be reached"));
+  QTest::mouseClick(note->findChild<QPushButton*>(), Qt::LeftButton);
+  EXPECT_EQ(note->text(), "");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !note->text().isEmpty(); }, kPatience));
+  dialog.reject();
+  EXPECT_TRUE(dialog.report().contains("cannot be reached")) << "why nothing was printed";
 }
 
 TEST_F(PrintDialogTest, AsksForAnotherPrinterWhereTheNamedOneIsUnknown) {
