@@ -1,6 +1,7 @@
 #include "host/FeaturesPane.h"
 
 #include <algorithm>
+#include <strings.h>
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -21,6 +22,13 @@ constexpr std::size_t kMostRows = 60;
 // What is built into the printer is its administrator's to say, and no part of a job.
 constexpr char kInstalledGroup[] = "InstallableOptions";
 
+// libcups finds an option in any letter case.
+struct IgnoringCase {
+  bool operator()(const std::string& a, const std::string& b) const {
+    return strcasecmp(a.c_str(), b.c_str()) < 0;
+  }
+};
+
 void addPages(std::vector<PPDSection>& pages, const PPDSection& section) {
   for (std::size_t first = 0; first < section.options.size(); first += kMostRows) {
     const auto from = section.options.begin() + static_cast<std::ptrdiff_t>(first);
@@ -37,9 +45,9 @@ void addPages(std::vector<PPDSection>& pages, const PPDSection& section) {
 std::vector<PPDSection> featureSections(const ppd_file_t& ppd,
                                         const std::set<std::string>& shownElsewhere) {
   std::vector<PPDSection> pages;
-  std::set<std::string> seen = shownElsewhere;
+  std::set<std::string, IgnoringCase> seen(shownElsewhere.begin(), shownElsewhere.end());
   for (PPDSection section : sectionsOf(ppd)) {
-    if (section.keyword == kInstalledGroup) continue;
+    if (strcasecmp(section.keyword.c_str(), kInstalledGroup) == 0) continue;
     std::erase_if(section.options, [&](const ppd_option_t* option) {
       return option->num_choices == 0 || !seen.insert(option->keyword).second;
     });

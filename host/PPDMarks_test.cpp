@@ -64,7 +64,7 @@ TEST(FeatureSections, LeaveOutWhatIsShownElsewhere) {
   const PPDPtr ppd = makePPD({paperTypeOption(), mirrorOption(), pickMany()});
   EXPECT_EQ(keywords(featureSections(*ppd, {"MediaType"})),
             (std::vector<std::string>{"Mirror", "Finish"}));
-  EXPECT_TRUE(featureSections(*ppd, {"MediaType", "Mirror", "Finish"}).empty());
+  EXPECT_TRUE(featureSections(*ppd, {"MediaType", "mirror", "FINISH"}).empty());
 }
 
 TEST(FeatureSections, SplitAGroupThatNeverEnds) {
