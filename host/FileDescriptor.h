@@ -5,7 +5,7 @@
 
 namespace tavrin {
 
-// The owner of an open file; false when opening failed.
+// The owner of an open file.
 class FileDescriptor {
  public:
   FileDescriptor() = default;
@@ -17,6 +17,7 @@ class FileDescriptor {
   }
   ~FileDescriptor() { close(); }
 
+  // False when opening failed, and once it is closed.
   explicit operator bool() const { return file >= 0; }
   int get() const { return file; }
   // Closes the file now; false when that fails, which for a written file means that bytes are

@@ -8,6 +8,8 @@
 #include "host/PrintOptions.h"
 #include "platform/Result.h"
 
+// A job's way to its queue and back: sent, then read again to see what arrived.
+
 namespace tavrin {
 
 // How a job went to its queue.

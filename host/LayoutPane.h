@@ -9,6 +9,8 @@
 class QComboBox;
 class QFormLayout;
 
+// The pane for how pages lie on the sheets.
+
 namespace tavrin {
 
 // The numbers of pages on a sheet that the print system can lay out.

@@ -6,6 +6,8 @@
 #include "platform/Result.h"
 #include "ppd/CupsHandles.h"
 
+// The one way in which the programs get a printer's PPD: loaded, checked and mended.
+
 namespace tavrin {
 
 // Larger files are refused, as they lie there and as they unpack.

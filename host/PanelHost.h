@@ -6,6 +6,8 @@
 
 #include "platform/PrintDialogExtension.h"
 
+// The dialog's side of the talk with a panel.
+
 namespace tavrin {
 
 // Marks a choice in a PPD; nothing happens, and the answer is false, where the PPD is null or has

@@ -8,6 +8,8 @@
 #include "platform/PrintDialogExtension.h"
 #include "platform/Result.h"
 
+// From a bundle's folder to a plug-in that runs in this process.
+
 namespace tavrin {
 
 // The key of a bundle's Info.plist that holds the type of the panels that its plug-in makes.

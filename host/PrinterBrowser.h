@@ -10,6 +10,8 @@
 #include "host/Background.h"
 #include "host/Destinations.h"
 
+// The print server's printers (Destinations.h) for a window that must not wait.
+
 namespace tavrin {
 
 // A PPD that several may hold.
