@@ -1,8 +1,28 @@
+#include <initializer_list>
+
 #include "conflict/TavConflictController.h"
 
 // The choice buttons of the windows: what is selected goes with what they show.
 
 namespace tavrin {
+namespace {
+
+struct Choice {
+  bool& isSelected;
+  Outlet<Button>& button;
+};
+
+// Follows a choice button that was clicked; one that is off now changes nothing.
+void select(const Button& sender, bool& isSelected, std::initializer_list<Choice> others) {
+  if (sender.intValue() != 1) return;
+  isSelected = true;
+  for (const Choice& other : others) {
+    other.isSelected = false;
+    other.button->setState(0);
+  }
+}
+
+}  // namespace
 
 void TavConflictController::selectFirstMsgOne() {
   isFirstButton_MsgOneClicked = true;
@@ -22,66 +42,49 @@ void TavConflictController::selectFirstMsgFive() {
 }
 
 void TavConflictController::clickFirstButton_MsgOne(Button& sender) {
-  if (sender.intValue() != 1) return;
-  selectFirstMsgOne();
-  ibSecondButton_MsgOne->setState(0);
-  ibThirdButton_MsgOne->setState(0);
+  select(sender, isFirstButton_MsgOneClicked,
+         {{isSecondButton_MsgOneClicked, ibSecondButton_MsgOne},
+          {isThirdButton_MsgOneClicked, ibThirdButton_MsgOne}});
 }
 
 void TavConflictController::clickSecondButton_MsgOne(Button& sender) {
-  if (sender.intValue() != 1) return;
-  isFirstButton_MsgOneClicked = false;
-  isSecondButton_MsgOneClicked = true;
-  isThirdButton_MsgOneClicked = false;
-  ibFirstButton_MsgOne->setState(0);
-  ibThirdButton_MsgOne->setState(0);
+  select(sender, isSecondButton_MsgOneClicked,
+         {{isFirstButton_MsgOneClicked, ibFirstButton_MsgOne},
+          {isThirdButton_MsgOneClicked, ibThirdButton_MsgOne}});
 }
 
 void TavConflictController::clickThirdButton_MsgOne(Button& sender) {
-  if (sender.intValue() != 1) return;
-  isFirstButton_MsgOneClicked = false;
-  isSecondButton_MsgOneClicked = false;
-  isThirdButton_MsgOneClicked = true;
-  ibFirstButton_MsgOne->setState(0);
-  ibSecondButton_MsgOne->setState(0);
+  select(sender, isThirdButton_MsgOneClicked,
+         {{isFirstButton_MsgOneClicked, ibFirstButton_MsgOne},
+          {isSecondButton_MsgOneClicked, ibSecondButton_MsgOne}});
 }
 
 void TavConflictController::clickFirstButton_MsgTwo(Button& sender) {
-  if (sender.intValue() != 1) return;
-  selectFirstMsgTwo();
-  ibSecondButton_MsgTwo->setState(0);
-  ibThirdButton_MsgTwo->setState(0);
+  select(sender, isFirstButton_MsgTwoClicked,
+         {{isSecondButton_MsgTwoClicked, ibSecondButton_MsgTwo},
+          {isThirdButton_MsgTwoClicked, ibThirdButton_MsgTwo}});
 }
 
 void TavConflictController::clickSecondButton_MsgTwo(Button& sender) {
-  if (sender.intValue() != 1) return;
-  isFirstButton_MsgTwoClicked = false;
-  isSecondButton_MsgTwoClicked = true;
-  isThirdButton_MsgTwoClicked = false;
-  ibFirstButton_MsgTwo->setState(0);
-  ibThirdButton_MsgTwo->setState(0);
+  select(sender, isSecondButton_MsgTwoClicked,
+         {{isFirstButton_MsgTwoClicked, ibFirstButton_MsgTwo},
+          {isThirdButton_MsgTwoClicked, ibThirdButton_MsgTwo}});
 }
 
 void TavConflictController::clickThirdButton_MsgTwo(Button& sender) {
-  if (sender.intValue() != 1) return;
-  isFirstButton_MsgTwoClicked = false;
-  isSecondButton_MsgTwoClicked = false;
-  isThirdButton_MsgTwoClicked = true;
-  ibFirstButton_MsgTwo->setState(0);
-  ibSecondButton_MsgTwo->setState(0);
+  select(sender, isThirdButton_MsgTwoClicked,
+         {{isFirstButton_MsgTwoClicked, ibFirstButton_MsgTwo},
+          {isSecondButton_MsgTwoClicked, ibSecondButton_MsgTwo}});
 }
 
 void TavConflictController::clickFirstButton_MsgFive(Button& sender) {
-  if (sender.intValue() != 1) return;
-  selectFirstMsgFive();
-  ibSecondButton_MsgFive->setState(0);
+  select(sender, isFirstButton_MsgFiveClicked,
+         {{isSecondButton_MsgFiveClicked, ibSecondButton_MsgFive}});
 }
 
 void TavConflictController::clickSecondButton_MsgFive(Button& sender) {
-  if (sender.intValue() != 1) return;
-  isFirstButton_MsgFiveClicked = false;
-  isSecondButton_MsgFiveClicked = true;
-  ibFirstButton_MsgFive->setState(0);
+  select(sender, isSecondButton_MsgFiveClicked,
+         {{isFirstButton_MsgFiveClicked, ibFirstButton_MsgFive}});
 }
 
 }  // namespace tavrin
