@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/FileDescriptor.h"
+#include "platform/Utf8.h"
 
 namespace tavrin {
 
@@ -46,24 +47,12 @@ Failure parseFailure(const std::string& name) {
   return about(name, "cannot be read" + place + ": " + ppdErrorString(status));
 }
 
-// How many bytes the character has that starts with this one; 0 for a byte inside a character.
-std::size_t characterLength(unsigned char first) {
-  if (first < 0x80) return 1;
-  if (first < 0xC0) return 0;
-  return first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-}
-
 // libcups cuts a long text at the end of its field, be it inside a character.
 void trim(std::span<char> field) {
   const std::size_t length = strnlen(field.data(), field.size());
   if (length + 1 < field.size()) return;
-  std::size_t start = length;
-  while (start > 0 && length - start < 4 &&
-         characterLength(static_cast<unsigned char>(field[start - 1])) == 0)
-    --start;
-  if (start == 0) return;
-  const std::size_t whole = characterLength(static_cast<unsigned char>(field[start - 1]));
-  if (start - 1 + whole > length) field[start - 1] = '\0';
+  const std::size_t whole = wholeCharacters({field.data(), length}).size();
+  if (whole < length) field[whole] = '\0';
 }
 
 void trimTexts(ppd_group_t& group) {

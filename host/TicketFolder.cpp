@@ -10,6 +10,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "platform/Utf8.h"
+
 namespace tavrin {
 
 namespace fs = std::filesystem;
@@ -54,14 +56,9 @@ class HiddenFolder {
   fs::path folder;
 };
 
-// Whether it is a character's second or later byte.
-bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
-
 // A folder's name for a title: no path, nothing hidden, not too long.
 std::string folderName(const std::string& title) {
-  std::size_t end = std::min(title.size(), kLongestName);
-  while (end > 0 && end < title.size() && isContinuation(title[end])) --end;
-  std::string name = title.substr(0, end);
+  std::string name(wholeCharacters(std::string_view(title).substr(0, kLongestName)));
   for (char& c : name)
     if (c == '/' || static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = '_';
   if (name.empty() || name.front() == '.') name.insert(0, "job");

@@ -1,5 +1,6 @@
 #include "platform/Utf8.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -43,6 +44,17 @@ bool isUtf8(std::string_view bytes) {
     bytes.remove_prefix(length);
   }
   return true;
+}
+
+std::string_view wholeCharacters(std::string_view bytes) {
+  std::size_t continuations = 0;
+  while (continuations < std::min<std::size_t>(3, bytes.size()) &&
+         isContinuation(static_cast<unsigned char>(bytes[bytes.size() - 1 - continuations])))
+    ++continuations;
+  if (continuations == bytes.size()) return bytes;
+  const std::size_t lead = bytes.size() - 1 - continuations;
+  const bool isCut = lead + sequenceLength(static_cast<unsigned char>(bytes[lead])) > bytes.size();
+  return isCut ? bytes.substr(0, lead) : bytes;
 }
 
 }  // namespace tavrin

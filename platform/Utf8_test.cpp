@@ -27,5 +27,20 @@ TEST(Utf8, RefusesOverlongFormsSurrogatesAndWhatIsBeyondUnicode) {
   }
 }
 
+TEST(Utf8, DropsACharacterThatWasCut) {
+  for (const std::string_view character : {"\u00FC", "\u65E5", "\U0001F5A8"}) {
+    const std::string text = "a" + std::string(character);
+    EXPECT_EQ(wholeCharacters(text), text);
+    for (std::size_t most = 1; most < text.size(); ++most)
+      EXPECT_EQ(wholeCharacters(std::string_view(text).substr(0, most)), "a") << text << most;
+    EXPECT_EQ(wholeCharacters(character.substr(0, 1)), "");
+  }
+}
+
+TEST(Utf8, LeavesWhatIsNoCutCharacterAlone) {
+  for (const std::string_view bytes : {"", "abc", "\x80", "\x80\x80\x80\x80\x80", "a\xFF", "a\xC0"})
+    EXPECT_EQ(wholeCharacters(bytes), bytes);
+}
+
 }  // namespace
 }  // namespace tavrin
