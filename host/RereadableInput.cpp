@@ -37,7 +37,10 @@ RereadableInput& RereadableInput::standardInput() {
 Result<std::size_t> RereadableInput::read(std::uint64_t offset, std::span<char> buffer,
                                           const CancelFlag& cancel) {
   const std::lock_guard lock(mutex);
-  if (offset >= keptBytes) return readOn(buffer, cancel);
+  if (offset >= takenBytes) return readOn(buffer, cancel);
+  if (offset >= keptBytes)
+    return Failure{
+        "cannot be sent again, as there was no room for a copy of it: run the command once more"};
   const auto there = std::min<std::uint64_t>(buffer.size(), keptBytes - offset);
   const ssize_t bytes = pread(fileno(kept.get()), buffer.data(), there, static_cast<off_t>(offset));
   if (bytes <= 0) return because("cannot be read again");
@@ -45,18 +48,23 @@ Result<std::size_t> RereadableInput::read(std::uint64_t offset, std::span<char> 
 }
 
 Result<std::size_t> RereadableInput::readOn(std::span<char> buffer, const CancelFlag& cancel) {
-  if (!kept) kept.reset(std::tmpfile());
-  if (!kept) return because("cannot be kept in a temporary file");
   const auto bytes = readWhenThere(input, buffer, cancel);
   if (!bytes) return bytes;
-  for (std::size_t done = 0; done < *bytes;) {
-    const ssize_t written = pwrite(fileno(kept.get()), buffer.data() + done, *bytes - done,
-                                   static_cast<off_t>(keptBytes));
-    if (written < 0) return because("cannot be kept in a temporary file");
-    done += static_cast<std::size_t>(written);
-    keptBytes += static_cast<std::uint64_t>(written);
-  }
+  keep(buffer.first(*bytes));
+  takenBytes += *bytes;
   return bytes;
+}
+
+void RereadableInput::keep(std::span<const char> bytes) {
+  if (keptBytes < takenBytes) return;  // behind a gap nothing can be read again
+  if (!kept) kept.reset(std::tmpfile());
+  while (kept && !bytes.empty()) {
+    const ssize_t written =
+        pwrite(fileno(kept.get()), bytes.data(), bytes.size(), static_cast<off_t>(keptBytes));
+    if (written <= 0) return;
+    keptBytes += static_cast<std::uint64_t>(written);
+    bytes = bytes.subspan(static_cast<std::size_t>(written));
+  }
 }
 
 }  // namespace tavrin

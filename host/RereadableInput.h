@@ -17,7 +17,8 @@ namespace tavrin {
 Result<std::size_t> readWhenThere(int descriptor, std::span<char> buffer, const CancelFlag& cancel);
 
 // A pipe that can be read again from its start: what has come is kept in a nameless temporary
-// file, so that a job that failed can be sent once more. Any thread may read.
+// file, so that a job that failed can be sent once more. Where there is no room for that, it can
+// still be read once. Any thread may read.
 class RereadableInput {
  public:
   // Borrows the open file.
@@ -26,7 +27,7 @@ class RereadableInput {
   static RereadableInput& standardInput();
 
   // Reads the bytes that follow the first `offset` bytes, as far as they have come; waits when
-  // none have. As readWhenThere.
+  // none have. As readWhenThere; the reason also when bytes are wanted again that were not kept.
   Result<std::size_t> read(std::uint64_t offset, std::span<char> buffer, const CancelFlag& cancel);
 
  private:
@@ -35,11 +36,13 @@ class RereadableInput {
   };
 
   Result<std::size_t> readOn(std::span<char> buffer, const CancelFlag& cancel);
+  void keep(std::span<const char> bytes);
 
   std::mutex mutex;
   int input;
   std::unique_ptr<std::FILE, Close> kept;
-  std::uint64_t keptBytes = 0;
+  std::uint64_t takenBytes = 0;  // from the pipe, so far
+  std::uint64_t keptBytes = 0;   // of them: the first ones, all of them unless keeping failed
 };
 
 }  // namespace tavrin

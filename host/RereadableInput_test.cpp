@@ -1,8 +1,10 @@
 #include "host/RereadableInput.h"
 
 #include <array>
+#include <csignal>
 #include <fcntl.h>
 #include <string>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -57,6 +59,49 @@ TEST_F(RereadableInputTest, WaitsUntilItIsCancelled) {
   EXPECT_EQ(read(input, 0, 100, cancelled), "");
   send("still there");
   EXPECT_EQ(read(input, 0), "still there");
+}
+
+// As on a full disk: no file of this process may grow beyond so many bytes.
+class LargestFile {
+ public:
+  explicit LargestFile(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{bytes, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+  }
+  ~LargestFile() {
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handlerBefore);
+  }
+  LargestFile(const LargestFile&) = delete;
+  LargestFile& operator=(const LargestFile&) = delete;
+
+ private:
+  rlimit before{};
+  void (*handlerBefore)(int) = nullptr;
+};
+
+TEST_F(RereadableInputTest, IsReadOnceWhereItCannotBeKept) {
+  RereadableInput input(out.get());
+  std::string first, second, third;
+  {
+    const LargestFile full(4);
+    send("a photo");
+    first = read(input, 0);
+    send(" of us");
+    second = read(input, 7);
+  }
+  send(" all");
+  third = read(input, 13);
+  EXPECT_EQ(first + second + third, "a photo of us all");
+  EXPECT_EQ(read(input, 0), "a ph");
+  EXPECT_EQ(
+      read(input, 4),
+      "cannot be sent again, as there was no room for a copy of it: run the command once more");
+  EXPECT_EQ(
+      read(input, 13),
+      "cannot be sent again, as there was no room for a copy of it: run the command once more");
 }
 
 TEST_F(RereadableInputTest, SaysWhyItCannotBeRead) {
