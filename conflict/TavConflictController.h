@@ -6,8 +6,8 @@
 
 #include <cups/ppd.h>
 
-#include "platform/PrintJob.h"
-#include "platform/Toolkit.h"
+#include "platform/contract/PrintJob.h"
+#include "platform/toolkit/Toolkit.h"
 #include "ppd/PDEModel.h"
 
 namespace tavrin {

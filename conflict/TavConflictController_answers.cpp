@@ -1,6 +1,6 @@
 #include "conflict/ConflictFlags.h"
 #include "conflict/TavConflictController.h"
-#include "platform/NotificationCenter.h"
+#include "platform/toolkit/NotificationCenter.h"
 #include "ppd/PDETools.h"
 #include "ppd/PPDKeywords.h"
 

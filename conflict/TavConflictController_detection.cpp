@@ -2,9 +2,9 @@
 
 #include "conflict/ConflictFlags.h"
 #include "conflict/TavConflictController.h"
-#include "platform/NotificationCenter.h"
-#include "platform/PropertyList.h"
-#include "platform/RootFolder.h"
+#include "platform/files/PropertyList.h"
+#include "platform/files/RootFolder.h"
+#include "platform/toolkit/NotificationCenter.h"
 #include "ppd/PDETools.h"
 #include "ppd/PPDKeywords.h"
 

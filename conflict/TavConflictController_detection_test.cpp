@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "conflict/ConflictTest.h"
+#include "tests/fixtures/ConflictTest.h"
 
 namespace tavrin {
 namespace {

@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "conflict/ConflictWindowsTest.h"
-#include "tests/fakes/TestStrings.h"
+#include "tests/fixtures/ConflictWindowsTest.h"
+#include "tests/fixtures/TestStrings.h"
 
 namespace tavrin {
 namespace {

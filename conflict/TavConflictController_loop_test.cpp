@@ -1,4 +1,4 @@
-#include "conflict/ConflictWindowsTest.h"
+#include "tests/fixtures/ConflictWindowsTest.h"
 
 // The loop over the windows: its order, what it keeps and resets, and how it ends.
 

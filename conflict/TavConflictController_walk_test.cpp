@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "conflict/ConflictTest.h"
+#include "tests/fixtures/ConflictTest.h"
 
 // Every combination of settings, paper, layout, cartridges and flags against the rules written
 // down a second time, as tables.

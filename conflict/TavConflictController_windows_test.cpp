@@ -1,4 +1,4 @@
-#include "conflict/ConflictWindowsTest.h"
+#include "tests/fixtures/ConflictWindowsTest.h"
 
 // Each conflict's window: its texts, and what each of its choices leaves behind.
 

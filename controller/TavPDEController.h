@@ -8,8 +8,8 @@
 #include <cups/ppd.h>
 
 #include "conflict/TavConflictController.h"
-#include "platform/PrintJob.h"
-#include "platform/Toolkit.h"
+#include "platform/contract/PrintJob.h"
+#include "platform/toolkit/Toolkit.h"
 #include "ppd/PDEModel.h"
 #include "ppd/PDETools.h"
 

@@ -1,9 +1,9 @@
 #include <dirent.h>
 
 #include "controller/TavPDEController.h"
-#include "platform/Bundle.h"
-#include "platform/HelpViewer.h"
-#include "platform/RootFolder.h"
+#include "platform/files/Bundle.h"
+#include "platform/files/RootFolder.h"
+#include "platform/toolkit/HelpViewer.h"
 #include "ppd/PPDKeywords.h"
 #include "ppd/PlugInBundle.h"
 

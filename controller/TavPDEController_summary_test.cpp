@@ -1,9 +1,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "controller/ControllerTest.h"
-#include "platform/RootFolder.h"
-#include "platform/testing/TemporaryFolder.h"
+#include "platform/files/RootFolder.h"
+#include "tests/fixtures/ControllerTest.h"
+#include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {

@@ -1,4 +1,4 @@
-#include "controller/ControllerTest.h"
+#include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {
 namespace {

@@ -1,6 +1,6 @@
 #include "controller/PanelDefaults.h"
 #include "controller/TavPDEController.h"
-#include "platform/NotificationCenter.h"
+#include "platform/toolkit/NotificationCenter.h"
 #include "ppd/PPDKeywords.h"
 #include "ppd/PlugInBundle.h"
 #include "ppd/TVExtendedPopUpButton.h"

@@ -1,5 +1,5 @@
-#include "controller/ControllerTest.h"
-#include "platform/NotificationCenter.h"
+#include "platform/toolkit/NotificationCenter.h"
+#include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {
 namespace {

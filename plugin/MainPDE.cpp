@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <system_error>
 
-#include "platform/HelpViewer.h"
-#include "platform/NotificationCenter.h"
-#include "platform/RootFolder.h"
+#include "platform/files/RootFolder.h"
+#include "platform/toolkit/HelpViewer.h"
+#include "platform/toolkit/NotificationCenter.h"
 #include "ppd/PDETools.h"
 #include "ppd/PPDKeywords.h"
 #include "ppd/PlugInBundle.h"

@@ -7,8 +7,8 @@
 #include <cups/ppd.h>
 
 #include "controller/TavPDEController.h"
-#include "platform/Bundle.h"
-#include "platform/PrintDialogExtension.h"
+#include "platform/contract/PrintDialogExtension.h"
+#include "platform/files/Bundle.h"
 #include "ppd/TextEncoding.h"
 
 namespace tavrin {

@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/RootFolder.h"
-#include "platform/testing/TemporaryFolder.h"
+#include "platform/files/RootFolder.h"
 #include "tests/fakes/FakeJob.h"
 #include "tests/fakes/FakePPD.h"
 #include "tests/fakes/FakeToolkit.h"
+#include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {

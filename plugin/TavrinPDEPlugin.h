@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PrintDialogExtension.h"
+#include "platform/contract/PrintDialogExtension.h"
 
 namespace tavrin {
 

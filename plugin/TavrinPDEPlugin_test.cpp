@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/Bundle.h"
+#include "platform/files/Bundle.h"
 #include "tests/fakes/FakeJob.h"
 
 namespace tavrin {

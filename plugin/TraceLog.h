@@ -9,7 +9,7 @@
 #include <tuple>
 #include <type_traits>
 
-#include "platform/OptionalString.h"
+#include "platform/text/OptionalString.h"
 
 // A diagnostic log: one stream for the process and a routine that writes a line with the time and
 // the place it was called from. Nothing in the plug-in calls it in normal use.

@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/testing/TemporaryFolder.h"
+#include "tests/fixtures/TemporaryFolder.h"
 
 // The log is one for the whole process and opens once, so each example runs in a process of its
 // own and leaves what it wrote in files.

@@ -1,6 +1,6 @@
 #include <cstring>
 
-#include "platform/PrintDialogExtension.h"
+#include "platform/contract/PrintDialogExtension.h"
 #include "plugin/TavrinPDEPlugin.h"
 
 // The one function that the module exports.

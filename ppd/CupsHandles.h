@@ -13,6 +13,8 @@ struct PPDCloser {
   void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
 };
 using PPDPtr = std::unique_ptr<ppd_file_t, PPDCloser>;
+// A PPD that several may hold.
+using SharedPPD = std::shared_ptr<ppd_file_t>;
 
 struct HttpCloser {
   void operator()(http_t* http) const { httpClose(http); }

@@ -4,7 +4,7 @@
 
 #include <cups/ppd.h>
 
-#include "platform/OptionalString.h"
+#include "platform/text/OptionalString.h"
 
 namespace tavrin {
 

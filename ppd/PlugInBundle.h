@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Bundle.h"
+#include "platform/files/Bundle.h"
 
 namespace tavrin {
 

@@ -1,5 +1,7 @@
 #include "ppd/TVExtendedPopUpButton.h"
 
+#include "ppd/PPDRecords.h"
+
 namespace tavrin {
 
 void addItemsFromPPD(PopUpButton& popUp, ppd_file_t* ppd, const char* forKey,
@@ -7,8 +9,7 @@ void addItemsFromPPD(PopUpButton& popUp, ppd_file_t* ppd, const char* forKey,
   popUp.removeAllItems();
   const ppd_option_t* option = ppdFindOption(ppd, forKey);
   if (option == nullptr) return;
-  for (int i = 0; i < option->num_choices; ++i) {
-    const ppd_choice_t& choice = option->choices[i];
+  for (const ppd_choice_t& choice : choicesOf(*option)) {
     const std::string value = decode(choice.choice, kASCIIEncoding).value_or("");
     popUp.addItem(decode(choice.text, encoding).value_or(value), value);
   }

@@ -2,7 +2,7 @@
 
 #include <cups/ppd.h>
 
-#include "platform/Toolkit.h"
+#include "platform/toolkit/Toolkit.h"
 #include "ppd/TextEncoding.h"
 
 namespace tavrin {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/OptionalString.h"
+#include "platform/text/OptionalString.h"
 
 namespace tavrin {
 

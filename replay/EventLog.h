@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/HelpViewer.h"
-#include "platform/OptionalString.h"
+#include "platform/text/OptionalString.h"
+#include "platform/toolkit/HelpViewer.h"
 #include "replay/Json.h"
 
 namespace tavrin {

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-#include "platform/Result.h"
+#include "platform/text/Result.h"
 
 namespace tavrin {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Result.h"
+#include "platform/text/Result.h"
 #include "replay/Json.h"
 #include "replay/PanelSession.h"
 #include "replay/ReplayCommand.h"

@@ -3,7 +3,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include "host/PPDLoader.h"
+#include "host/printer/PPDLoader.h"
 #include "platform/qt/MakeChild.h"
 #include "platform/qt/QtToolkit.h"
 #include "replay/WidgetState.h"

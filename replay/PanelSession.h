@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "platform/PrintDialogExtension.h"
-#include "platform/Result.h"
+#include "platform/contract/PrintDialogExtension.h"
+#include "platform/text/Result.h"
 #include "replay/EventLog.h"
 #include "replay/Json.h"
 #include "replay/ReplayCommand.h"

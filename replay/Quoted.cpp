@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/Utf8.h"
+#include "platform/text/Utf8.h"
 
 namespace tavrin {
 

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/OptionalString.h"
-#include "platform/Result.h"
+#include "platform/text/OptionalString.h"
+#include "platform/text/Result.h"
 
 namespace tavrin {
 

@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "host/printer/MarkedOptions.h"
 #include "replay/Quoted.h"
 
 namespace tavrin {
@@ -20,13 +21,9 @@ void ReplayHost::mark(const std::string& key, const std::string& choice) {
             << "; nothing is marked.\n";
 }
 
-// libcups has no call for this: a mark is a flag of the choice and an entry in the PPD's list.
 void ReplayHost::unmark(const std::string& key) {
   ppd_option_t* option = ppdFindOption(ppd.get(), key.c_str());
-  for (int i = 0; option && i < option->num_choices; ++i) {
-    option->choices[i].marked = 0;
-    cupsArrayRemove(ppd->marked, &option->choices[i]);
-  }
+  if (option) tavrin::unmark(*ppd, *option);
 }
 
 }  // namespace tavrin

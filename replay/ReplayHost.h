@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "host/HostJob.h"
-#include "host/PanelHost.h"
+#include "host/panels/HostJob.h"
+#include "host/panels/PanelHost.h"
 #include "ppd/CupsHandles.h"
 #include "replay/EventLog.h"
 

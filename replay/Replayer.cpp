@@ -6,7 +6,7 @@
 
 #include <QApplication>
 
-#include "platform/Bundle.h"
+#include "platform/files/Bundle.h"
 #include "replay/PanelCommands.h"
 #include "replay/Quoted.h"
 

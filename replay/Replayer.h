@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/PrintDialogExtension.h"
-#include "platform/Result.h"
+#include "platform/contract/PrintDialogExtension.h"
+#include "platform/text/Result.h"
 #include "replay/EventLog.h"
 #include "replay/Json.h"
 #include "replay/PanelSession.h"

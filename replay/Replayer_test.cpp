@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-#include "host/PlugInLoader.h"
-#include "host/TrustedBundles.h"
+#include "host/panels/PlugInLoader.h"
+#include "host/panels/TrustedBundles.h"
 #include "platform/qt/QtToolkit.h"
 
 namespace tavrin {

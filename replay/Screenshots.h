@@ -6,7 +6,7 @@
 
 #include <QImage>
 
-#include "platform/Result.h"
+#include "platform/text/Result.h"
 
 class QWidget;
 

@@ -6,9 +6,9 @@
 #include <QApplication>
 #include <QFile>
 
-#include "host/PlugInLoader.h"
-#include "host/TrustedBundles.h"
-#include "platform/RootFolder.h"
+#include "host/panels/PlugInLoader.h"
+#include "host/panels/TrustedBundles.h"
+#include "platform/files/RootFolder.h"
 #include "platform/qt/QtToolkit.h"
 #include "replay/Options.h"
 #include "replay/Replayer.h"

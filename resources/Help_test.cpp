@@ -7,7 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/HelpViewer.h"
+#include "platform/files/HelpBook.h"
+#include "platform/toolkit/HelpViewer.h"
 
 namespace tavrin {
 namespace {

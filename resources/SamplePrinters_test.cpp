@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/PropertyList.h"
+#include "platform/files/PropertyList.h"
 #include "ppd/CupsHandles.h"
 #include "ppd/PDETools.h"
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/PropertyList.h"
+#include "platform/files/PropertyList.h"
 
 namespace tavrin {
 namespace {

@@ -6,7 +6,7 @@
 #include <QSet>
 #include <QXmlStreamReader>
 
-#include "platform/RegularFile.h"
+#include "platform/files/RegularFile.h"
 
 namespace tavrin {
 

@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/qt/WidgetProperties.h"
-#include "platform/qt/testing/TestPanel.h"
+#include "tests/fixtures/TestPanel.h"
 
 namespace tavrin {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <QLayout>
 
-#include "platform/Toolkit.h"
 #include "platform/qt/EdgeRuler.h"
+#include "platform/toolkit/Toolkit.h"
 
 namespace tavrin {
 

@@ -9,7 +9,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "platform/Toolkit.h"
+#include "platform/toolkit/Toolkit.h"
 
 namespace tavrin {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/Bundle.h"
+#include "platform/files/Bundle.h"
 #include "platform/qt/InterfaceLoader.h"
 #include "platform/qt/QtLoadedInterface.h"
 #include "platform/qt/QtView.h"

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <functional>
 
-#include "platform/Toolkit.h"
 #include "platform/qt/ModalRuns.h"
+#include "platform/toolkit/Toolkit.h"
 
 class QWidget;
 

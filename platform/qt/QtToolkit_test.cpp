@@ -9,9 +9,9 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
-#include "platform/Bundle.h"
+#include "platform/files/Bundle.h"
 #include "platform/qt/WidgetProperties.h"
-#include "platform/qt/testing/TestPanel.h"
+#include "tests/fixtures/TestPanel.h"
 
 namespace tavrin {
 namespace {

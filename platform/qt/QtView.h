@@ -7,9 +7,9 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "platform/Toolkit.h"
 #include "platform/qt/PanelLayout.h"
 #include "platform/qt/WidgetProperties.h"
+#include "platform/toolkit/Toolkit.h"
 
 namespace tavrin {
 

@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <QPointer>
 
-#include "platform/Toolkit.h"
+#include "platform/toolkit/Toolkit.h"
 
 namespace tavrin {
 

@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/HelpViewer.h"
-#include "platform/PrintDialogExtension.h"
-#include "platform/PrintJob.h"
+#include "platform/contract/PrintDialogExtension.h"
+#include "platform/contract/PrintJob.h"
+#include "platform/toolkit/HelpViewer.h"
 
 // The rest of what surrounds a panel: a job, a host and a help viewer that remember.
 

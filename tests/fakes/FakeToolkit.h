@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Toolkit.h"
+#include "platform/toolkit/Toolkit.h"
 
 // A toolkit without a screen: loading an interface makes one fake object for every outlet that the
 // owner offers, under the outlet's name. A test looks at the objects and works them as a user

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/PrintDialogExtension.h"
+#include "platform/contract/PrintDialogExtension.h"
 #include "ppd/CupsHandles.h"
 #include "tests/fakes/FakeJob.h"
 #include "tests/fakes/FakeToolkit.h"

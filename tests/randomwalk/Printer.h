@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/OptionalString.h"
+#include "platform/text/OptionalString.h"
 
 namespace tavrin::walk {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/OptionalString.h"
+#include "platform/text/OptionalString.h"
 #include "tests/randomwalk/Printer.h"
 
 namespace tavrin::walk {

@@ -1,9 +1,9 @@
 #include "tests/randomwalk/Walk.h"
 
 #include "conflict/TavConflictController.h"
-#include "platform/NotificationCenter.h"
+#include "platform/toolkit/NotificationCenter.h"
 #include "ppd/PPDKeywords.h"
-#include "tests/fakes/FreshConflicts.h"
+#include "tests/fixtures/FreshConflicts.h"
 #include "tests/randomwalk/Invariants.h"
 
 namespace tavrin::walk {

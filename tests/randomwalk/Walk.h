@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "tests/fakes/FakeToolkit.h"
-#include "tests/fakes/PrinterRoot.h"
+#include "tests/fixtures/PrinterRoot.h"
 #include "tests/randomwalk/PanelUnderTest.h"
 #include "tests/randomwalk/Step.h"
 #include "tests/randomwalk/WindowRules.h"

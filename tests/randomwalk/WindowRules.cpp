@@ -1,6 +1,6 @@
 #include "tests/randomwalk/WindowRules.h"
 
-#include "tests/fakes/FreshConflicts.h"
+#include "tests/fixtures/FreshConflicts.h"
 
 namespace tavrin::walk {
 namespace {

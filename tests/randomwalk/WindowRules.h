@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/OptionalString.h"
+#include "platform/text/OptionalString.h"
 #include "tests/randomwalk/Step.h"
 
 // What a conflict window's answer must leave behind, written down a second time.

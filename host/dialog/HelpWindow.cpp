@@ -1,0 +1,72 @@
+#include "host/dialog/HelpWindow.h"
+
+#include <QDialogButtonBox>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include "host/panes/Widgets.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kWidthInLetters = 60;
+constexpr int kHeightInLines = 24;
+
+struct Entry {
+  const char* term;
+  const char* text;
+};
+
+constexpr Entry kEntries[] = {
+    {QT_TRANSLATE_NOOP("HelpWindow", "Printer"),
+     QT_TRANSLATE_NOOP("HelpWindow",
+                       "Which printer prints. Below it stands what the printer is doing. Where a "
+                       "printer has saved sets of options, each set is an entry of its own.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "Copies, Pages, Paper size"),
+     QT_TRANSLATE_NOOP("HelpWindow",
+                       "How often, which pages and on which paper. Write pages and ranges with "
+                       "commas between them: 1-3,5 prints pages 1, 2, 3 and 5; 7- prints from "
+                       "page 7 to the end.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "Layout"),
+     QT_TRANSLATE_NOOP("HelpWindow",
+                       "How many pages of the document share one sheet, and whether both sides of "
+                       "the paper are printed.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "Printer Features"),
+     QT_TRANSLATE_NOOP("HelpWindow", "Everything else that this printer can be told.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "Print Settings"),
+     QT_TRANSLATE_NOOP("HelpWindow",
+                       "The settings that the maker of the printer added to this dialog. While "
+                       "they are shown, the help button shows the printer's own help.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "Summary"),
+     QT_TRANSLATE_NOOP("HelpWindow", "All settings in one list, to look over before printing.")},
+};
+
+QString helpText() {
+  QString text;
+  for (const Entry& entry : kEntries)
+    text += QString("<h3>%1</h3><p>%2</p>")
+                .arg(HelpWindow::tr(entry.term).toHtmlEscaped(),
+                     HelpWindow::tr(entry.text).toHtmlEscaped());
+  return text;
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent) {
+  setWindowTitle(tr("Help for Printing"));
+  auto* column = makeChild<QVBoxLayout>(this);
+  auto* text = makeChild<QTextBrowser>(this);
+  text->setAccessibleName(windowTitle());
+  text->setHtml(helpText());
+  text->setMinimumSize(fontMetrics().averageCharWidth() * kWidthInLetters / 2,
+                       fontMetrics().height() * kHeightInLines / 3);
+  column->addWidget(text);
+  auto* buttons = makeChild<QDialogButtonBox>(QDialogButtonBox::Close, this);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  column->addWidget(buttons);
+  resize(fontMetrics().averageCharWidth() * kWidthInLetters,
+         fontMetrics().height() * kHeightInLines);
+}
+
+}  // namespace tavrin

@@ -1,0 +1,371 @@
+#include "host/dialog/PrintDialog.h"
+
+#include <sys/stat.h>
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "host/dialog/Note.h"
+#include "host/dialog/PrinterPopUp.h"
+#include "host/panes/FeaturesPane.h"
+#include "host/panes/OptionControl.h"
+#include "host/printer/PPDLoader.h"
+#include "platform/qt/QtToolkit.h"
+#include "tests/servers/PrivateCupsd.h"
+#include "tests/servers/SilentServer.h"
+
+// The dialog as a person and a program meet it, with the real plug-in.
+
+namespace tavrin {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kPatience = 20'000;  // milliseconds, on a machine that has much to do
+
+class PrintDialogTest : public testing::Test {
+ protected:
+  PrintDialogTest() { Toolkit::install(&toolkit); }
+  ~PrintDialogTest() override { Toolkit::install(nullptr); }
+
+  static SharedPPD samplePPD(const char* name = "tavrin-r420.ppd") {
+    Result<PPDPtr> ppd = loadPPD(fs::path(SAMPLE_PRINTERS) / name);
+    EXPECT_TRUE(ppd) << ppd.reason();
+    return std::move(*ppd);
+  }
+  static JobRequest job() {
+    JobRequest request;
+    request.document = SAMPLE_DOCUMENT;
+    return request;
+  }
+  static void press(PrintDialog& dialog, const char* button) {
+    QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
+  }
+  static void turnTo(PrintDialog& dialog, const char* pane) {
+    dialog.findChild<QComboBox*>("panes")->setCurrentText(pane);
+  }
+  static void pick(QComboBox* popUp, const char* choice) {
+    ASSERT_NE(popUp, nullptr);
+    const int index = popUp->findData(choice);
+    ASSERT_GE(index, 0) << choice;
+    popUp->setCurrentIndex(index);
+    emit popUp->activated(index);
+  }
+  static void pickPrinter(PrintDialog& dialog, const QString& name) {
+    auto* printers = dialog.findChild<PrinterPopUp*>();
+    const int row = printers->findText(name, Qt::MatchStartsWith);
+    ASSERT_GE(row, 0) << name.toStdString();
+    printers->setCurrentIndex(row);
+    emit printers->activated(row);
+  }
+  static std::vector<std::string> summaryOf(PrintDialog& dialog) {
+    turnTo(dialog, "Summary");
+    std::vector<std::string> lines;
+    auto* list = dialog.findChild<QTreeWidget*>("summary");
+    for (QTreeWidgetItemIterator item(list); *item; ++item)
+      lines.push_back(((*item)->text(0) + ": " + (*item)->text(1)).toStdString());
+    return lines;
+  }
+  static bool has(const std::vector<std::string>& lines, const std::string& line) {
+    return std::ranges::find(lines, line) != lines.end();
+  }
+
+  QtToolkit toolkit;
+  test::TemporaryFolder place;
+};
+
+TEST_F(PrintDialogTest, ShowsThePanelOfThePrinter) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  ASSERT_NE(dialog.session(), nullptr);
+  EXPECT_EQ(dialog.session()->panels().size(), 1u);
+  auto* panes = dialog.findChild<QComboBox*>("panes");
+  QStringList names;
+  for (int i = 0; i < panes->count(); ++i) names << panes->itemText(i);
+  EXPECT_EQ(names, (QStringList{"Layout", "Printer Features", "Print Settings", "Summary"}));
+  EXPECT_EQ(panes->currentText(), "Print Settings");
+  dialog.show();
+  // A second tray is installed in this printer; the panel sees so when it comes up.
+  EXPECT_TRUE(dialog.findChild<QComboBox*>("ibPaperSource")->isVisible());
+}
+
+TEST_F(PrintDialogTest, LeavesThePanelsOptionsOutOfTheFeatures) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  const auto claimed = dialog.session()->claimedKeywords();
+  EXPECT_TRUE(claimed.contains("MediaType"));
+  turnTo(dialog, "Printer Features");
+  auto* features = dialog.findChild<FeaturesPane*>();
+  std::set<std::string> shown;
+  auto* groups = features->findChild<QComboBox*>("featureGroup");
+  for (int i = 0; i < groups->count(); ++i) {
+    groups->setCurrentIndex(i);
+    for (const QWidget* control : features->findChildren<QWidget*>())
+      shown.insert(control->objectName().toStdString());
+  }
+  EXPECT_TRUE(shown.contains("QuietMode"));
+  EXPECT_TRUE(shown.contains("Borderless"));
+  for (const std::string& key : claimed) EXPECT_FALSE(shown.contains(key)) << key;
+  for (const char* key : {"PageSize", "PageRegion", "Duplex"}) EXPECT_FALSE(shown.contains(key));
+}
+
+TEST_F(PrintDialogTest, SumsUpEveryPane) {
+  JobRequest request = job();
+  request.options = {{"MediaType", "IronOn"}, {"number-up", "2"}, {"page-ranges", "2-3"}};
+  request.copies = 3;
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  const auto lines = summaryOf(dialog);
+  EXPECT_TRUE(has(lines, "Copies: 3"));
+  EXPECT_TRUE(has(lines, "Pages: 2-3"));
+  EXPECT_TRUE(has(lines, "Pages per sheet: 2"));
+  const std::string ironOn = *dialog.session()->marks().choiceText("MediaType");
+  EXPECT_TRUE(has(lines, "Paper Type: " + ironOn));
+}
+
+TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  for (const char* pane : {"Layout", "Printer Features"}) {
+    turnTo(dialog, pane);
+    QCoreApplication::processEvents();
+    std::set<int> edges;
+    for (const char* name : {"printer", "PageSize", "pagesPerSheet", "Duplex", "featureGroup"})
+      if (const auto* control = dialog.findChild<QWidget*>(name); control->isVisible())
+        edges.insert(control->mapTo(&dialog, QPoint(0, 0)).x());
+    EXPECT_EQ(edges.size(), 1u) << pane;
+  }
+}
+
+TEST_F(PrintDialogTest, NamesPagesPerSheetThatCannotBe) {
+  JobRequest request = job();
+  request.options = {{"number-up", "3"}};
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  EXPECT_EQ(dialog.findChild<Note*>("note")->text(),
+            "A sheet can hold 1, 2, 4, 6, 9 or 16 pages, not “3”.");
+}
+
+TEST_F(PrintDialogTest, ShowsAPrinterWithoutItsPlugInAndSaysSo) {
+  place.write("lost.ppd", [] {
+    std::string text = test::textOf(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
+    const std::string name = "TavrinPrintSettings.plugin";
+    return text.replace(text.find(name), name.size(), "Lost.plugin");
+  }());
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(std::move(*loadPPD(place.path() / "lost.ppd")), place.path());
+  EXPECT_TRUE(dialog.session()->panels().empty());
+  EXPECT_TRUE(dialog.findChild<Note*>("note")->text().contains("Lost.plugin"));
+  EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
+}
+
+TEST_F(PrintDialogTest, WritesTheJobOfAPrinterWithoutAQueueToAFolder) {
+  JobRequest request = job();
+  request.title = "Card";
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  dialog.session()->marks().choose("MediaType", "IronOn");
+  turnTo(dialog, "Printer Features");
+  dialog.session()->marks().choose("QuietMode", "True");
+  QSignalSpy finished(&dialog, &QDialog::finished);
+  press(dialog, "print");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.report().isEmpty(); }, kPatience));
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::printed);
+  press(dialog, "print");  // it says Done now
+  EXPECT_EQ(finished.count(), 1);
+  fs::path ticket;
+  for (const auto& entry : fs::recursive_directory_iterator(place.path()))
+    if (entry.path().filename() == "ticket.json") ticket = entry.path();
+  const auto json = nlohmann::json::parse(test::textOf(ticket));
+  EXPECT_EQ(json.at("title"), "Card");
+  EXPECT_EQ(json.at("options").at("MediaType"), "IronOn");
+  EXPECT_EQ(json.at("options").at("QuietMode"), "True");
+}
+
+TEST_F(PrintDialogTest, LosesNothingWhenTheJobCannotBeWritten) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.write("a file", "in the way"));
+  dialog.session()->marks().choose("MediaType", "IronOn");
+  dialog.show();
+  press(dialog, "print");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.report().isEmpty(); }, kPatience));
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::failed);
+  EXPECT_EQ(dialog.session()->marks().choice("MediaType"), "IronOn");
+  EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  EXPECT_EQ(dialog.findChild<Note*>("note")->text(), dialog.report());
+}
+
+// What a screen reader calls a control, by itself or by its label.
+bool hasName(QWidget& control) {
+  QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&control);
+  return !interface->text(QAccessible::Name).isEmpty() ||
+         !interface->relations(QAccessible::Label).isEmpty();
+}
+
+TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  turnTo(dialog, "Layout");
+  dialog.show();
+  dialog.findChild<QWidget*>("printer")->setFocus();
+  QStringList stops{"printer"};
+  while (stops.back() != "print" && stops.size() < 20) {
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    stops << dialog.focusWidget()->objectName();
+    EXPECT_TRUE(hasName(*dialog.focusWidget())) << stops.back().toStdString();
+  }
+  stops.removeAll("");
+  EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "PageSize", "panes",
+                                "pagesPerSheet", "Duplex", "help", "cancel", "print"}));
+}
+
+TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {
+  const SilentServer server;
+  PrintDialog dialog(job());
+  dialog.usePrintServer();
+  dialog.show();
+  EXPECT_EQ(dialog.findChild<PrinterPopUp*>()->placeholderText(), "Looking for printers…");
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  press(dialog, "cancel");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::cancelled);
+}
+
+TEST_F(PrintDialogTest, TakesAJobBackWhileItIsOnItsWay) {
+  JobRequest request = job();
+  request.document = place.path() / "pipe";  // nobody ever fills it, so the job never ends
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  press(dialog, "print");
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  press(dialog, "cancel");
+  EXPECT_TRUE(dialog.isVisible());
+  auto* note = dialog.findChild<Note*>("note");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !note->text().isEmpty(); }, kPatience));
+  EXPECT_EQ(note->text(), "Printing was cancelled. The settings are as they were.");
+  EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
+}
+
+TEST_F(PrintDialogTest, ASecondCancelDoesNotWaitForTheFirst) {
+  JobRequest request = job();
+  request.document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  PrintDialog dialog(request);
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  press(dialog, "print");
+  press(dialog, "cancel");
+  press(dialog, "cancel");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::cancelled);
+}
+
+TEST_F(PrintDialogTest, EscapeCancels) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.outcome(), PrintDialog::Outcome::cancelled);
+  EXPECT_TRUE(fs::is_empty(place.path()));
+}
+
+TEST_F(PrintDialogTest, ShowsConflictsThatThePrinterDeclares) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  auto* conflict = dialog.findChild<Note*>("conflictNote");
+  EXPECT_TRUE(conflict->isHidden());
+  dialog.session()->marks().choose("MediaType", "IronOn");
+  dialog.session()->marks().choose("Duplex", "DuplexNoTumble");
+  EXPECT_TRUE(conflict->text().contains("Two-Sided")) << conflict->text().toStdString();
+  dialog.session()->marks().choose("Duplex", "None");
+  EXPECT_TRUE(conflict->isHidden());
+}
+
+TEST_F(PrintDialogTest, PrintsOnTheChosenQueueAndInstance) {
+  PrivateCupsd cups;
+  cups.addQueue("plain", fs::path(SAMPLE_PRINTERS) / "tavrin-s120.ppd");
+  cups.addQueue("photo", fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
+  cups.run({"lpoptions", "-p", "photo/iron", "-o", "MediaType=IronOn", "-o", "copies=2"});
+  JobRequest request = job();
+  request.printer = "plain";
+  PrintDialog dialog(request);
+  QSignalSpy sessions(&dialog, &PrintDialog::sessionChanged);
+  dialog.show();
+  dialog.usePrintServer();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return sessions.count() == 1; }, kPatience));
+  pickPrinter(dialog, "photo ");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return sessions.count() == 2; }, kPatience));
+  EXPECT_NE(dialog.session()->marks().choice("MediaType"), "IronOn");
+
+  auto* copies = dialog.findChild<QSpinBox*>("copies");
+  EXPECT_EQ(copies->value(), 1);
+  pickPrinter(dialog, "photo/iron");
+  EXPECT_EQ(copies->value(), 2);
+  EXPECT_EQ(dialog.session()->marks().choice("MediaType"), "IronOn");
+  EXPECT_TRUE(
+      has(summaryOf(dialog), "Paper Type: " + *dialog.session()->marks().choiceText("MediaType")))
+      << "the panel has taken the instance's paper type";
+
+  press(dialog, "print");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.report().isEmpty(); }, kPatience));
+  ASSERT_EQ(dialog.outcome(), PrintDialog::Outcome::printed) << dialog.report().toStdString();
+  EXPECT_EQ(dialog.report(), "Job photo-1 was sent.");
+  const auto captured = cups.waitForJob(1);
+  EXPECT_TRUE(captured.has("MediaType=IronOn"));
+  EXPECT_EQ(captured.copies, "2");
+}
+
+TEST_F(PrintDialogTest, PickingThePrinterAgainKeepsWhatWasChosen) {
+  PrintDialog dialog(job());
+  dialog.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.session()->marks().choose("MediaType", "IronOn");
+  pickPrinter(dialog, dialog.findChild<PrinterPopUp*>()->currentText());
+  EXPECT_EQ(dialog.session()->marks().choice("MediaType"), "IronOn");
+}
+
+TEST_F(PrintDialogTest, LooksAgainForPrinters) {
+  SilentServer server;
+  server.stop();
+  PrintDialog dialog(job());
+  dialog.show();
+  dialog.usePrintServer();
+  auto* note = dialog.findChild<Note*>("note");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !note->text().isEmpty(); }, kPatience));
+  EXPECT_TRUE(note->text().contains("cannot be reached"));
+  QTest::mouseClick(note->findChild<QPushButton*>(), Qt::LeftButton);
+  EXPECT_EQ(note->text(), "");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !note->text().isEmpty(); }, kPatience));
+  dialog.reject();
+  EXPECT_TRUE(dialog.report().contains("cannot be reached")) << "why nothing was printed";
+}
+
+TEST_F(PrintDialogTest, AsksForAnotherPrinterWhereTheNamedOneIsUnknown) {
+  PrivateCupsd cups;
+  cups.addQueue("plain", fs::path(SAMPLE_PRINTERS) / "tavrin-s120.ppd");
+  JobRequest request = job();
+  request.printer = "cellar";
+  PrintDialog dialog(request);
+  dialog.show();
+  dialog.usePrintServer();
+  auto* note = dialog.findChild<Note*>("note");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return note->text().contains("cellar"); }, kPatience));
+  EXPECT_FALSE(dialog.findChild<QPushButton*>("print")->isEnabled());
+  pickPrinter(dialog, "plain");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return dialog.session() != nullptr; }, kPatience));
+  EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
+}
+
+}  // namespace
+}  // namespace tavrin

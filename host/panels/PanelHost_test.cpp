@@ -1,0 +1,97 @@
+#include "host/panels/PanelHost.h"
+
+#include <gtest/gtest.h>
+
+#include "host/panels/HostJob.h"
+#include "tests/fakes/FakePPD.h"
+
+namespace tavrin {
+namespace {
+
+class PanelHostTest : public testing::Test {
+ protected:
+  OptString marked(const char* key) const {
+    const ppd_choice_t* choice = ppdFindMarkedChoice(ppd.get(), key);
+    return choice ? OptString(choice->choice) : std::nullopt;
+  }
+
+  PPDPtr ppd = makePPD({paperTypeOption(), mirrorOption()});
+  HostPrintSettings settings;
+  HostPageFormat format;
+  PanelHost host{ppd.get(), &settings, &format};
+};
+
+TEST_F(PanelHostTest, HandsOutWhatItWasGiven) {
+  EXPECT_EQ(host.ppdFile(), ppd.get());
+  EXPECT_EQ(host.printSettings(), &settings);
+  EXPECT_EQ(host.pageFormat(), &format);
+}
+
+TEST_F(PanelHostTest, MarksTheChoiceAndTells) {
+  OptString told;
+  host.onWillChange = [&](const std::string& key, const OptString& choice) {
+    EXPECT_EQ(key, "MediaType");
+    EXPECT_EQ(marked("MediaType"), "IronOn");  // marked by then
+    told = choice;
+  };
+  EXPECT_TRUE(host.willChangePPDOptionKeyValue("MediaType", "IronOn"));
+  EXPECT_EQ(told, "IronOn");
+}
+
+TEST_F(PanelHostTest, MarksThePrintersMirrorOption) {
+  EXPECT_TRUE(host.willChangePPDOptionKeyValue("Mirror", "True"));
+  EXPECT_EQ(marked("Mirror"), "True");
+}
+
+TEST_F(PanelHostTest, KeepsThePrintersOwnSpelling) {
+  EXPECT_TRUE(host.willChangePPDOptionKeyValue("mediatype", "ironon"));
+  EXPECT_EQ(marked("MediaType"), "IronOn");
+}
+
+TEST_F(PanelHostTest, WritesDownButDoesNotMarkWhatThePrinterLacks) {
+  const OptString before = marked("MediaType");
+  EXPECT_FALSE(host.willChangePPDOptionKeyValue("MediaType", std::nullopt));
+  EXPECT_FALSE(host.willChangePPDOptionKeyValue("MediaType", "Parchment"));
+  EXPECT_FALSE(host.willChangePPDOptionKeyValue("Scent", "Rose"));
+  EXPECT_EQ(marked("MediaType"), before);
+  const std::vector<PanelHost::Handover> expected{
+      {"MediaType", std::nullopt}, {"MediaType", "Parchment"}, {"Scent", "Rose"}};
+  EXPECT_EQ(host.handedOver(), expected);
+  host.forgetHandedOver();
+  EXPECT_TRUE(host.handedOver().empty());
+}
+
+TEST_F(PanelHostTest, WorksWithoutAPPD) {
+  PanelHost bare(nullptr, nullptr, nullptr);
+  EXPECT_FALSE(bare.willChangePPDOptionKeyValue("MediaType", "IronOn"));
+}
+
+TEST_F(PanelHostTest, TellsOfAnotherSize) {
+  int resizes = 0;
+  host.panelViewDidResize();  // nobody listens yet
+  host.onResize = [&] { ++resizes; };
+  host.panelViewDidResize();
+  EXPECT_EQ(resizes, 1);
+}
+
+TEST(HostJob, KeepsSettingsByKey) {
+  HostPrintSettings settings;
+  EXPECT_EQ(settings.value(kPMLayoutColumns), std::nullopt);
+  settings.setValue(kPMLayoutColumns, "2");
+  EXPECT_EQ(settings.value(kPMLayoutColumns), "2");
+  settings.setValue(kPMLayoutColumns, std::nullopt);
+  EXPECT_EQ(settings.value(kPMLayoutColumns), std::nullopt);
+}
+
+TEST(HostJob, HasAPaperOnceItIsSet) {
+  HostPageFormat format;
+  EXPECT_EQ(format.paper(), nullptr);
+  format.setPaper("A4");
+  ASSERT_NE(format.paper(), nullptr);
+  EXPECT_EQ(format.paper()->ppdPaperName(), "A4");
+  format.setPaper(std::nullopt);
+  EXPECT_EQ(format.paper(), nullptr);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "platform/contract/PrintDialogExtension.h"
+#include "platform/files/Bundle.h"
+#include "platform/text/Result.h"
+
+// From a bundle's folder to a plug-in that runs in this process.
+
+namespace tavrin {
+
+// The key of a bundle's Info.plist that holds the type of the panels that its plug-in makes.
+inline constexpr char kPanelTypeKey[] = "TavrinPanelType";
+
+// A plug-in in this process. Its code stays until the process ends, so that nothing that it made
+// can outlive it.
+struct LoadedPlugIn {
+  std::unique_ptr<const Bundle> bundle;
+  std::string panelType;                 // what Info.plist says
+  std::unique_ptr<PDEPlugIn> principal;  // never null, knows its bundle
+};
+
+// Loads the plug-in of a bundle folder, runs its code and makes its principal object. The folder
+// is trusted to hold code that may run; it is refused all the same when anybody on the machine can
+// write to it. The reason names the bundle and what is wrong with it.
+Result<LoadedPlugIn> loadPlugIn(const std::filesystem::path& bundleFolder);
+
+}  // namespace tavrin

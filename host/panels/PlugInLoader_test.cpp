@@ -1,0 +1,205 @@
+#include "host/panels/PlugInLoader.h"
+
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+#include "host/panels/TrustedBundles.h"
+#include "tests/fakes/FakePPD.h"
+#include "tests/fixtures/TemporaryFolder.h"
+
+namespace tavrin {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A bundle that is sound until a test breaks it.
+class PlugInLoaderTest : public testing::Test {
+ protected:
+  PlugInLoaderTest() {
+    describe("module.so", "SoundPlugIn");
+    useModule(SOUND_MODULE);
+  }
+
+  void describe(const std::string& executable, const std::string& principalClass,
+                const std::string& panelType = kPrintDialogPanelType) {
+    std::string entries;
+    const auto add = [&](const std::string& key, const std::string& text) {
+      if (!text.empty()) entries += "<key>" + key + "</key><string>" + text + "</string>";
+    };
+    add("CFBundleExecutable", executable);
+    add("NSPrincipalClass", principalClass);
+    add(kPanelTypeKey, panelType);
+    place.write(
+        "A.plugin/Contents/Info.plist",
+        "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>" + entries + "</dict></plist>");
+  }
+  void useModule(const fs::path& module) const {
+    fs::create_directories(moduleFile.parent_path());
+    fs::copy_file(module, moduleFile, fs::copy_options::overwrite_existing);
+  }
+  // Why the bundle is not loaded, without the plug-in's name in front; empty when it is loaded.
+  std::string problem() const {
+    const auto plugIn = loadPlugIn(bundle);
+    if (plugIn) return "";
+    const std::string start = "The plug-in \"" + bundle.string() + "\" ";
+    EXPECT_TRUE(plugIn.reason().starts_with(start)) << plugIn.reason();
+    return plugIn.reason().substr(std::min(start.size(), plugIn.reason().size()));
+  }
+
+  test::TemporaryFolder place;
+  fs::path bundle = place.path() / "A.plugin";
+  fs::path moduleFile = bundle / "Contents/Linux/module.so";
+};
+
+TEST_F(PlugInLoaderTest, LoadsASoundBundle) {
+  const auto plugIn = loadPlugIn(bundle);
+  ASSERT_TRUE(plugIn) << plugIn.reason();
+  EXPECT_NE(plugIn->principal, nullptr);
+  EXPECT_EQ(plugIn->panelType, kPrintDialogPanelType);
+  EXPECT_EQ(plugIn->bundle->path(), bundle);
+}
+
+TEST_F(PlugInLoaderTest, SaysThatThereIsNoBundle) {
+  const auto plugIn = loadPlugIn("/nowhere/A.plugin");
+  ASSERT_FALSE(plugIn);
+  EXPECT_EQ(plugIn.reason(), "There is no plug-in bundle \"/nowhere/A.plugin\".");
+}
+
+TEST_F(PlugInLoaderTest, SaysThatTheInformationIsMissingOrDamaged) {
+  place.write("A.plugin/Contents/Info.plist", "<plist><dict><key>");
+  EXPECT_EQ(problem(), "has no readable Contents/Info.plist. Install it again.");
+  fs::remove(bundle / "Contents/Info.plist");
+  EXPECT_EQ(problem(), "has no readable Contents/Info.plist. Install it again.");
+}
+
+TEST_F(PlugInLoaderTest, SaysWhatTheInformationLacks) {
+  describe("", "SoundPlugIn");
+  EXPECT_EQ(problem(), "names no executable file. Install it again.");
+  describe("module.so", "");
+  EXPECT_EQ(problem(), "names no principal class. Install it again.");
+  describe("module.so", "SoundPlugIn", "");
+  EXPECT_EQ(problem(), "does not say which panels it has. Install it again.");
+}
+
+TEST_F(PlugInLoaderTest, TakesOnlyAPlainNameForTheExecutable) {
+  for (const char* name : {"../Linux/module.so", "/lib/module.so", "..", "."}) {
+    describe(name, "SoundPlugIn");
+    EXPECT_EQ(problem(), "names no executable file. Install it again.") << name;
+  }
+}
+
+TEST_F(PlugInLoaderTest, SaysThatTheExecutableIsMissing) {
+  fs::remove(moduleFile);
+  EXPECT_EQ(problem(), "lacks its executable file, Contents/Linux/module.so. Install it again.");
+  fs::create_directory(moduleFile);
+  EXPECT_EQ(problem(), "lacks its executable file, Contents/Linux/module.so. Install it again.");
+}
+
+TEST_F(PlugInLoaderTest, RefusesAnExecutableOutsideOfTheBundle) {
+  fs::remove(moduleFile);
+  fs::create_symlink(SOUND_MODULE, moduleFile);
+  EXPECT_EQ(problem(), "has an executable file that lies outside of it. Install it again.");
+}
+
+TEST_F(PlugInLoaderTest, RefusesWhatEverybodyCanWriteTo) {
+  for (const fs::path& path : {bundle, bundle / "Contents", bundle / "Contents/Info.plist",
+                               moduleFile.parent_path(), moduleFile}) {
+    fs::permissions(path, fs::perms::others_write, fs::perm_options::add);
+    EXPECT_EQ(problem(), "is not safe to load: every user can write to \"" + path.string() +
+                             "\". Take that permission away with chmod o-w.");
+    fs::permissions(path, fs::perms::others_write, fs::perm_options::remove);
+  }
+  EXPECT_EQ(problem(), "");
+}
+
+TEST_F(PlugInLoaderTest, TellsWhyTheLoaderRefusesAModule) {
+  useModule(UNRESOLVED_MODULE);
+  EXPECT_TRUE(problem().starts_with("does not load: ")) << problem();
+  EXPECT_NE(problem().find("functionThatNobodyHas"), std::string::npos) << problem();
+  place.write("A.plugin/Contents/Linux/module.so", "no module");
+  EXPECT_TRUE(problem().starts_with("does not load: ")) << problem();
+}
+
+TEST_F(PlugInLoaderTest, SaysThatAModuleHasNoEntryPoint) {
+  useModule(NO_ENTRY_MODULE);
+  EXPECT_EQ(problem(),
+            "is no plug-in for this program: its executable file lacks the function "
+            "tavrinPDEPrincipalObject.");
+}
+
+TEST_F(PlugInLoaderTest, SaysBothInterfaceVersions) {
+  useModule(NEWER_MODULE);
+  EXPECT_EQ(problem(), "was built against interface version " +
+                           std::to_string(kPDEInterfaceVersion + 1) +
+                           ", this program has version " + std::to_string(kPDEInterfaceVersion) +
+                           ". Install the plug-in that belongs to this program.");
+}
+
+TEST_F(PlugInLoaderTest, SaysThatThePrincipalClassIsMissing) {
+  describe("module.so", "OtherPlugIn");
+  EXPECT_EQ(problem(), "lacks its principal class, \"OtherPlugIn\". Install it again.");
+}
+
+TEST_F(PlugInLoaderTest, DoesNotBelieveAModuleThatMadeNothing) {
+  useModule(UNWILLING_MODULE);
+  describe("module.so", "NeverMade");
+  EXPECT_EQ(problem(), "lacks its principal class, \"NeverMade\". Install it again.");
+}
+
+TEST_F(PlugInLoaderTest, SaysThatAPlugInDoesNotWantToWork) {
+  useModule(UNWILLING_MODULE);
+  EXPECT_EQ(problem(), "cannot work on this machine.");
+}
+
+TEST(TrustedBundles, FindsABundleByTheLastPathComponentAlone) {
+  test::TemporaryFolder first, second;
+  fs::create_directory(first.path() / "A.plugin");
+  fs::create_directory(second.path() / "A.plugin");
+  fs::create_directory(second.path() / "B.plugin");
+  const std::vector folders{first.path(), second.path()};
+  EXPECT_EQ(*findPlugIn("/Library/Printers/X/A.plugin", folders), first.path() / "A.plugin");
+  EXPECT_EQ(*findPlugIn("B.plugin", folders), second.path() / "B.plugin");
+}
+
+TEST(TrustedBundles, LooksNowhereElse) {
+  test::TemporaryFolder trusted, other;
+  fs::create_directory(other.path() / "A.plugin");
+  const auto found = findPlugIn((other.path() / "A.plugin").string(), {trusted.path()});
+  ASSERT_FALSE(found);
+  EXPECT_EQ(found.reason(), "The plug-in \"A.plugin\" is not installed; it was looked for in " +
+                                trusted.path().string() + ".");
+}
+
+TEST(TrustedBundles, RefusesWhatIsNoBundleName) {
+  test::TemporaryFolder trusted;
+  fs::create_directories(trusted.path() / "sub/A.plugin");
+  for (const char* name : {"", "/", "..", "A", "/x/..", ".plugin", "A.plugin/", "../A.plugin/.."})
+    EXPECT_FALSE(findPlugIn(name, {trusted.path(), trusted.path() / "sub"})) << name;
+}
+
+TEST(TrustedBundles, TrustsTheProgramsFolderThenTheUsers) {
+  setenv("XDG_DATA_HOME", "/data", 1);
+  const auto folders = trustedPlugInFolders();
+  ASSERT_EQ(folders.size(), 2u);
+  EXPECT_EQ(folders[0].filename(), "tavrin");
+  EXPECT_EQ(folders[0].parent_path().filename(), "lib");
+  EXPECT_EQ(folders[1], "/data/tavrin/plugins");
+
+  setenv("XDG_DATA_HOME", "relative", 1);
+  setenv("HOME", "/home/ada", 1);
+  EXPECT_EQ(trustedPlugInFolders()[1], "/home/ada/.local/share/tavrin/plugins");
+  unsetenv("XDG_DATA_HOME");
+  unsetenv("HOME");
+  EXPECT_EQ(trustedPlugInFolders().size(), 1u);
+}
+
+TEST(DialogExtension, IsThePlugInThatAPPDNames) {
+  const PPDPtr ppd = makePPD({}, {"*APDialogExtension: \"/Library/Printers/T/T.plugin\""});
+  EXPECT_EQ(dialogExtension(ppd.get()), "/Library/Printers/T/T.plugin");
+  EXPECT_EQ(dialogExtension(makePPD({}).get()), std::nullopt);
+  EXPECT_EQ(dialogExtension(nullptr), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tavrin

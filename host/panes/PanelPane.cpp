@@ -1,0 +1,56 @@
+#include "host/panes/PanelPane.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "host/panes/Widgets.h"
+#include "platform/qt/QtToolkit.h"
+#include "platform/qt/ShownText.h"
+
+namespace tavrin {
+
+PanelPane::PanelPane(PDEPanel& thePanel, QWidget* parent)
+    : Pane(shownLine(thePanel.panelName()), parent), panel(thePanel) {
+  auto* column = makeChild<QVBoxLayout>(this);
+  column->setContentsMargins(0, 0, 0, 0);
+}
+
+PanelPane::~PanelPane() {
+  // The widget goes with the panel's view, not with this pane.
+  if (widget) widget->setParent(nullptr);
+}
+
+void PanelPane::addView() {
+  view = panel.panelView();
+  widget = view ? QtToolkit::widgetOf(*view) : nullptr;
+  if (widget) return layout()->addWidget(widget);
+  QLabel* apology = makeTextLabel(this);
+  apology->setText(tr("These settings cannot be shown. The printer's usual settings are used."));
+  layout()->addWidget(apology);
+}
+
+Pane::Lines PanelPane::summary() const {
+  Lines lines;
+  for (const auto& [label, value] : panel.summaryInfo())
+    lines.emplace_back(shownLine(label), shownLine(value.value_or("")));
+  return lines;
+}
+
+void PanelPane::willShow() {
+  if (layout()->isEmpty()) addView();
+  panel.willShow();
+}
+
+bool PanelPane::shouldHide() {
+  if (!panel.shouldHide()) return false;
+  std::string reason;
+  if (!panel.saveValuesAndReturnError(&reason)) emit saveFailed(shownLines(reason));
+  return true;
+}
+
+void PanelPane::followView() {
+  if (widget) widget->updateGeometry();
+  layout()->invalidate();
+}
+
+}  // namespace tavrin

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+
+#include "host/panes/Pane.h"
+#include "platform/contract/PrintDialogExtension.h"
+
+namespace tavrin {
+
+// The pane of a plug-in's panel.
+class PanelPane : public Pane {
+  Q_OBJECT
+
+ public:
+  // The panel outlives the pane.
+  PanelPane(PDEPanel& panel, QWidget* parent);
+  ~PanelPane() override;
+
+  Lines summary() const override;
+  void willShow() override;
+  // Asks the panel, and has it hand over its choices, so that the rest of the dialog shows them.
+  bool shouldHide() override;
+  bool shouldShowHelp() override { return panel.shouldShowHelp(); }
+
+  // The panel's view has another size.
+  void followView();
+
+ signals:
+  // The panel could not hand over its choices, and why.
+  void saveFailed(const QString& reason);
+
+ private:
+  void addView();
+
+  PDEPanel& panel;
+  std::shared_ptr<View> view;
+  QWidget* widget = nullptr;  // the view's, owned by it
+};
+
+}  // namespace tavrin

@@ -1,0 +1,66 @@
+#include "host/panes/SummaryPane.h"
+
+#include <algorithm>
+
+#include <QHeaderView>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "host/panes/Widgets.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kLeastLines = 8;
+constexpr int kMostLines = 14;
+
+QTreeWidgetItem* addHeading(QTreeWidget& list, const QString& name) {
+  auto* heading = makeChild<QTreeWidgetItem>(&list, QStringList{name});
+  QFont bold = list.font();
+  bold.setBold(true);
+  heading->setFont(0, bold);
+  heading->setFirstColumnSpanned(true);
+  heading->setExpanded(true);
+  return heading;
+}
+
+void addLine(QTreeWidgetItem& heading, const QString& label, const QString& value) {
+  auto* line = makeChild<QTreeWidgetItem>(&heading, QStringList{label, value});
+  // A list elides what is too long for its column; here it can still be read.
+  line->setToolTip(0, label.toHtmlEscaped());
+  line->setToolTip(1, value.toHtmlEscaped());
+}
+
+}  // namespace
+
+SummaryPane::SummaryPane(std::function<Sections()> theSections, QWidget* parent)
+    : Pane(tr("Summary"), parent),
+      sections(std::move(theSections)),
+      list(makeChild<QTreeWidget>(this)) {
+  auto* column = makeChild<QVBoxLayout>(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(list);
+  list->setObjectName("summary");
+  list->setAccessibleName(tr("Summary of all settings"));
+  list->setColumnCount(2);
+  list->setHeaderLabels({tr("Setting"), tr("Value")});
+  list->setRootIsDecorated(false);
+  list->setItemsExpandable(false);
+  list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+}
+
+void SummaryPane::willShow() {
+  list->clear();
+  int lines = 1;  // the header
+  for (const auto& [name, values] : sections()) {
+    if (values.empty()) continue;
+    QTreeWidgetItem* heading = addHeading(*list, name);
+    for (const auto& [label, value] : values) addLine(*heading, label, value);
+    lines += 1 + static_cast<int>(values.size());
+  }
+  const int height = list->fontMetrics().height() * 3 / 2;
+  list->setMinimumHeight(std::clamp(lines, kLeastLines, kMostLines) * height);
+}
+
+}  // namespace tavrin

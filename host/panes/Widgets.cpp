@@ -1,0 +1,96 @@
+#include "host/panes/Widgets.h"
+
+#include <algorithm>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QScreen>
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kLeastPopUpLetters = 16;
+constexpr int kMostLabelLetters = 24;
+
+std::vector<QWidget*> labelsOf(const QWidget& widget) {
+  std::vector<QWidget*> labels;
+  for (const QFormLayout* form : widget.findChildren<QFormLayout*>())
+    for (int row = 0; row < form->rowCount(); ++row)
+      if (QLayoutItem* label = form->itemAt(row, QFormLayout::LabelRole))
+        labels.push_back(label->widget());
+  return labels;
+}
+
+void addStops(QWidget& widget, std::vector<QWidget*>& stops);
+
+void addStops(const QLayout& layout, std::vector<QWidget*>& stops) {
+  for (int i = 0; i < layout.count(); ++i) {
+    if (QWidget* widget = layout.itemAt(i)->widget()) addStops(*widget, stops);
+    if (const QLayout* inner = layout.itemAt(i)->layout()) addStops(*inner, stops);
+  }
+}
+
+void addStops(QWidget& widget, std::vector<QWidget*>& stops) {
+  if (widget.focusPolicy() & Qt::TabFocus) return stops.push_back(&widget);
+  if (widget.layout() && widget.layout()->count() > 0) return addStops(*widget.layout(), stops);
+  QWidget* next = widget.nextInFocusChain();
+  for (; next != &widget; next = next->nextInFocusChain())
+    if (widget.isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus) stops.push_back(next);
+}
+
+}  // namespace
+
+void orderTabs(const std::vector<QWidget*>& widgets) {
+  std::vector<QWidget*> stops;
+  for (QWidget* widget : widgets) addStops(*widget, stops);
+  for (std::size_t i = 1; i < stops.size(); ++i) QWidget::setTabOrder(stops[i - 1], stops[i]);
+}
+
+QLabel* makeTextLabel(QWidget* parent) {
+  auto* label = makeChild<QLabel>(parent);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return label;
+}
+
+QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control) {
+  auto* title = makeChild<QLabel>(form.parentWidget());
+  title->setTextFormat(Qt::PlainText);
+  title->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+  title->setBuddy(&control);
+  title->setText(label);
+  form.addRow(title, &control);
+  return title;
+}
+
+QFormLayout* makeForm(QWidget* parent) {
+  auto* form = makeChild<QFormLayout>(parent);
+  form->setContentsMargins(0, 0, 0, 0);
+  form->setLabelAlignment(Qt::AlignRight);
+  form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  return form;
+}
+
+void lineUpForms(const QWidget& widget) {
+  const int most = widget.fontMetrics().averageCharWidth() * kMostLabelLetters;
+  int width = 0;
+  for (const QWidget* label : labelsOf(widget))
+    if (const int wanted = label->sizeHint().width(); wanted <= most)
+      width = std::max(width, wanted);
+  for (QWidget* label : labelsOf(widget)) label->setMinimumWidth(width);
+}
+
+void letPopUpShrink(QComboBox& popUp) {
+  popUp.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  popUp.setMinimumContentsLength(kLeastPopUpLetters);
+  const int room = popUp.screen()->availableGeometry().width() / 2;
+  const int scrollBar = popUp.fontMetrics().averageCharWidth() * 6;
+  popUp.view()->setMinimumWidth(std::min(popUp.view()->sizeHintForColumn(0) + scrollBar, room));
+}
+
+}  // namespace tavrin

@@ -1,0 +1,109 @@
+#include "host/printer/MarkedOptions.h"
+
+#include <algorithm>
+
+#include "host/support/CupsOptions.h"
+#include "platform/text/IgnoringCase.h"
+#include "ppd/PPDRecords.h"
+
+namespace tavrin {
+namespace {
+
+constexpr std::string_view kCustom = "Custom";
+constexpr std::string_view kInstalledGroup = "InstallableOptions";
+
+// Every choice that is marked, separated by commas where many can be.
+std::string markedChoices(const ppd_option_t& option) {
+  std::string marked;
+  for (const ppd_choice_t& choice : choicesOf(option))
+    if (choice.marked) marked += (marked.empty() ? "" : ",") + std::string(choice.choice);
+  return marked;
+}
+
+void appendMarked(const ppd_group_t& group, OptionList& options) {
+  if (isInstalledOptions(group.name)) return;
+  for (const ppd_option_t& option : optionsOf(group)) {
+    const std::string choices = markedChoices(option);
+    // The mark does not hold a value of the person's own; the option that they gave does.
+    if (!choices.empty() && !isCustomChoice(choices)) setOption(options, option.keyword, choices);
+  }
+  for (const ppd_group_t& inner : subgroupsOf(group)) appendMarked(inner, options);
+}
+
+// Several choices of an option where many can be picked; all of them must be known.
+bool markEach(ppd_file_t& ppd, const ppd_option_t& option, const std::string& value) {
+  bool known = true;
+  for (std::size_t start = 0; start <= value.size();) {
+    const std::size_t end = std::min(value.find(',', start), value.size());
+    known = markChoice(&ppd, option.keyword, value.substr(start, end - start)) && known;
+    start = end + 1;
+  }
+  return known;
+}
+
+bool markValue(ppd_file_t& ppd, const ppd_option_t& option, const std::string& value) {
+  if (isCustomChoice(value) && ppdFindCustomOption(&ppd, option.keyword)) {
+    ppdMarkOption(&ppd, option.keyword, value.c_str());
+    return true;
+  }
+  if (markChoice(&ppd, option.keyword, value)) return true;
+  return option.ui == PPD_UI_PICKMANY && markEach(ppd, option, value);
+}
+
+}  // namespace
+
+const ppd_option_t* twoSidedOption(ppd_file_t& ppd) {
+  for (const char* keyword : kTwoSidedKeywords)
+    if (const ppd_option_t* option = ppdFindOption(&ppd, keyword)) return option;
+  return nullptr;
+}
+
+bool isInstalledOptions(const std::string& groupKeyword) {
+  return equalIgnoringCase(groupKeyword, kInstalledGroup);
+}
+
+bool isCustomChoice(const std::string& choice) {
+  return equalIgnoringCase(std::string_view(choice).substr(0, choice.find('.')), kCustom);
+}
+
+bool markChoice(ppd_file_t* ppd, const std::string& key, const std::string& choice) {
+  // Both keywords as the PPD spells them: libcups finds them in any letter case, but only marks by
+  // the exact one are found again everywhere.
+  ppd_option_t* option = ppd ? ppdFindOption(ppd, key.c_str()) : nullptr;
+  const ppd_choice_t* known = option ? ppdFindChoice(option, choice.c_str()) : nullptr;
+  if (!known) return false;
+  ppdMarkOption(ppd, option->keyword, known->choice);
+  return true;
+}
+
+// libcups keeps the marks a second time, in an array; only its own call may set one.
+void unmark(ppd_file_t& ppd, ppd_option_t& option) {
+  ppd_choice_t key{};
+  key.option = &option;
+  while (auto* choice = static_cast<ppd_choice_t*>(cupsArrayFind(ppd.marked, &key))) {
+    choice->marked = 0;
+    cupsArrayRemove(ppd.marked, choice);
+  }
+}
+
+OptionList markedOptions(ppd_file_t& ppd) {
+  OptionList options;
+  for (const ppd_group_t& group : groupsOf(ppd)) appendMarked(group, options);
+  return options;
+}
+
+std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options) {
+  // First what the print system's general options ("media", "sides") mean on this printer.
+  const CupsOptions all(options);
+  cupsMarkOptions(&ppd, all.count(), all.data());
+  std::vector<std::string> problems;
+  for (const auto& [name, value] : options) {
+    const ppd_option_t* option = ppdFindOption(&ppd, name.c_str());
+    if (option && !markValue(ppd, *option, value))
+      problems.push_back("The printer's option \"" + std::string(option->keyword) +
+                         "\" has no choice \"" + value + "\".");
+  }
+  return problems;
+}
+
+}  // namespace tavrin

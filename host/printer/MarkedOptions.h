@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include <cups/ppd.h>
+
+#include "host/support/OptionList.h"
+
+// Between options as the print system writes them and the choices that are marked in a PPD.
+
+namespace tavrin {
+
+// The PPD's option for the size of the paper.
+inline constexpr char kPaperSizeKeyword[] = "PageSize";
+
+// Its options for printing on both sides: makers of printer software agree on the meaning but not
+// on the name.
+inline constexpr std::array kTwoSidedKeywords{"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
+
+// The PPD's option for printing on both sides; null where it has none.
+const ppd_option_t* twoSidedOption(ppd_file_t& ppd);
+
+// Whether a group, by its keyword, holds what is installed in the printer: that is for the
+// administrator to say, and no part of a job.
+bool isInstalledOptions(const std::string& groupKeyword);
+
+// Whether a choice keyword stands for a value of the person's own ("Custom", "Custom.10x15cm").
+bool isCustomChoice(const std::string& choice);
+
+// Marks a choice in a PPD; nothing happens, and the answer is false, where the PPD is null or has
+// no such option or choice.
+bool markChoice(ppd_file_t* ppd, const std::string& key, const std::string& choice);
+
+// Takes every mark of the option away.
+void unmark(ppd_file_t& ppd, ppd_option_t& option);
+
+// The PPD's marked choices as options, in the order of the file, without what is installed in the
+// printer.
+OptionList markedOptions(ppd_file_t& ppd);
+
+// Marks the choices that options name in a PPD: the start of a dialog from a command line or a
+// printer instance. One sentence for each option of the PPD whose value it does not have; options
+// that are not the PPD's are left alone.
+std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options);
+
+}  // namespace tavrin

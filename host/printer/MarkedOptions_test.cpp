@@ -1,0 +1,60 @@
+#include "host/printer/MarkedOptions.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/fakes/FakePPD.h"
+
+namespace tavrin {
+namespace {
+
+using Problems = std::vector<std::string>;
+
+PPDPtr familyPPD() {
+  return makePPD({pageSizeOption(),
+                  paperTypeOption(),
+                  mirrorOption(),
+                  printQualityOption(),
+                  {"Staple/Staple", "PickMany", "Left", {"Left", "Right", "Top"}},
+                  {"Duplex/Two-Sided", "PickOne", "None", {"None", "DuplexTumble"}}});
+}
+
+TEST(MarkedOptions, MarksWhatTheOptionsName) {
+  const PPDPtr ppd = familyPPD();
+  EXPECT_EQ(
+      markOptions(*ppd, {{"mediatype", "IronOn"}, {"Mirror", "true"}, {"job-sheets", "none"}}),
+      Problems{});
+  const OptionList marked = markedOptions(*ppd);
+  EXPECT_EQ(optionValue(marked, "MediaType"), "IronOn");
+  EXPECT_EQ(optionValue(marked, "Mirror"), "True");
+}
+
+TEST(MarkedOptions, UnderstandsThePrintSystemsGeneralOptions) {
+  const PPDPtr ppd = familyPPD();
+  EXPECT_EQ(markOptions(*ppd, {{"sides", "two-sided-short-edge"}}), Problems{});
+  EXPECT_EQ(optionValue(markedOptions(*ppd), "Duplex"), "DuplexTumble");
+}
+
+TEST(MarkedOptions, NamesAChoiceThatThePrinterLacks) {
+  const PPDPtr ppd = familyPPD();
+  EXPECT_EQ(markOptions(*ppd, {{"MediaType", "Parchment"}, {"Scent", "Rose"}}),
+            Problems{"The printer's option \"MediaType\" has no choice \"Parchment\"."});
+}
+
+TEST(MarkedOptions, TakesSeveralChoicesWhereThePrinterDoes) {
+  const PPDPtr ppd = familyPPD();
+  EXPECT_EQ(markOptions(*ppd, {{"Staple", "Right,Top"}}), Problems{});
+  EXPECT_EQ(markOptions(*ppd, {{"MediaType", "IronOn,Plain"}}).size(), 1u);
+}
+
+TEST(MarkedOptions, LeavesOutWhatIsInstalledInThePrinter) {
+  const PPDPtr ppd =
+      parsePPD(ppdText({}, {"*OpenGroup: InstallableOptions/Installed",
+                            "*OpenUI *Tray2Option/Tray: Boolean", "*DefaultTray2Option: True",
+                            "*Tray2Option False/No: \"\"", "*Tray2Option True/Yes: \"\"",
+                            "*CloseUI: *Tray2Option", "*CloseGroup: InstallableOptions"}));
+  ASSERT_NE(ppdFindMarkedChoice(ppd.get(), "Tray2Option"), nullptr);
+  EXPECT_EQ(optionValue(markedOptions(*ppd), "Tray2Option"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,123 @@
+#include "host/program/CommandLine.h"
+
+#include <algorithm>
+
+#include <QCommandLineParser>
+
+namespace tavrin {
+
+namespace {
+
+constexpr const char* kPrinter = "d";
+constexpr const char* kPPD = "ppd";
+constexpr const char* kSample = "sample";
+constexpr const char* kOutput = "output";
+constexpr const char* kCopies = "n";
+constexpr const char* kTitle = "t";
+constexpr const char* kOption = "o";
+constexpr const char* kHelp = "help";
+constexpr const char* kVersion = "version";
+
+Failure failure(const QString& sentence) {
+  return {(sentence + " See tavrin-print --help.").toStdString()};
+}
+
+// The number of copies; 0 for what is none.
+int copiesFrom(const QString& text) {
+  const int copies = text.toInt();
+  return copies <= kMostCopies ? std::max(copies, 0) : 0;
+}
+
+JobRequest jobFrom(const QCommandLineParser& parser) {
+  JobRequest job;
+  const QString destination = parser.value(kPrinter);
+  job.printer = destination.section('/', 0, 0).toStdString();
+  job.instance = destination.section('/', 1).toStdString();
+  if (parser.isSet(kCopies)) job.copies = copiesFrom(parser.value(kCopies));
+  job.title = parser.value(kTitle).toStdString();
+  for (const QString& text : parser.values(kOption))
+    for (const auto& [name, value] : parseOptions(text.toStdString()))
+      setOption(job.options, name, value);
+  // Said outright, one copy too goes before what is saved for the printer.
+  if (parser.isSet(kCopies)) setOption(job.options, "copies", std::to_string(job.copies));
+  if (const QStringList documents = parser.positionalArguments(); !documents.isEmpty())
+    job.document = documents.front().toStdString();
+  return job;
+}
+
+CommandLine filledIn(const QCommandLineParser& parser) {
+  CommandLine line;
+  line.job = jobFrom(parser);
+  line.namesDocument = !parser.positionalArguments().isEmpty();
+  line.ppd = parser.value(kPPD).toStdString();
+  line.sample = parser.isSet(kSample);
+  if (parser.isSet(kOutput)) line.output = parser.value(kOutput).toStdString();
+  return line;
+}
+
+// What somebody wrote for a number of copies that is none; empty where there is no such thing.
+QString wrongCopies(const QCommandLineParser& parser) {
+  QStringList numbers = parser.values(kCopies);
+  if (const OptString option = optionValue(jobFrom(parser).options, "copies"))
+    numbers << QString::fromStdString(*option);
+  const auto wrong = std::ranges::find_if(numbers, [](const QString& n) { return !copiesFrom(n); });
+  return wrong == numbers.end() ? QString() : *wrong;
+}
+
+// What is wrong with arguments that can each be read; empty when nothing is.
+QString disagreement(const QCommandLineParser& parser) {
+  if (parser.positionalArguments().size() > 1) return "Only one document can be printed at a time.";
+  if (const QString wrong = wrongCopies(parser); !wrong.isNull())
+    return QString("“%1” is not a number of copies; it goes from 1 to %2.")
+        .arg(wrong)
+        .arg(kMostCopies);
+  for (const char* name : {kPrinter, kPPD, kOutput})
+    if (parser.isSet(name) && parser.value(name).isEmpty())
+      return QString("%1%2 needs a value.").arg(*(name + 1) ? "--" : "-", name);
+  if (parser.isSet(kPPD) + parser.isSet(kSample) + parser.isSet(kPrinter) > 1)
+    return "Only one of -d, --ppd and --sample can be given.";
+  if (parser.isSet(kOutput) && !parser.isSet(kPPD) && !parser.isSet(kSample))
+    return "--output needs --ppd or --sample: other jobs go to a print queue.";
+  return {};
+}
+
+// usage() is the program's help; the parser only needs to know what takes a value.
+void addAll(QCommandLineParser& parser) {
+  for (const char* name : {kPrinter, kPPD, kOutput, kCopies, kTitle, kOption})
+    parser.addOption(QCommandLineOption(QString(name), QString(), "value"));
+  for (const char* name : {kSample, kHelp, kVersion})
+    parser.addOption(QCommandLineOption(QString(name)));
+}
+
+}  // namespace
+
+Result<CommandLine> parseCommandLine(const QStringList& arguments) {
+  QCommandLineParser parser;
+  addAll(parser);
+  // The parser expects the program's name in front.
+  if (!parser.parse(QStringList{"tavrin-print"} + arguments)) return failure(parser.errorText());
+  if (const QString problem = disagreement(parser); !problem.isEmpty()) return failure(problem);
+  CommandLine line = filledIn(parser);
+  if (parser.isSet(kVersion)) line.wish = CommandLine::Wish::version;
+  if (parser.isSet(kHelp)) line.wish = CommandLine::Wish::help;
+  return line;
+}
+
+std::string usage() {
+  return "Usage: tavrin-print [-d PRINTER[/INSTANCE]] [--ppd FILE] [--sample] [--output DIR]\n"
+         "                    [-n COPIES] [-t TITLE] [-o NAME=VALUE]... [FILE | -]\n"
+         "Shows the Print dialog for a document and prints it.\n\n"
+         "  -d PRINTER[/INSTANCE]  the printer to begin with; else the default printer\n"
+         "  --ppd FILE             a printer that has this description and no queue\n"
+         "  --sample               the sample printer and, with no FILE, the sample document\n"
+         "  --output DIR           where the jobs of a printer without a queue are put,\n"
+         "                         each in a folder of its own; else the current folder\n"
+         "  -n COPIES              how many copies, from 1 to 9999\n"
+         "  -t TITLE               the job's name; else the document's\n"
+         "  -o NAME=VALUE          an option of the job, as for lp; may be repeated\n"
+         "  FILE                   the document; - or none is standard input\n"
+         "  --help, --version      show this text or the version, and print nothing\n\n"
+         "Exit status: 0 printed, 1 cancelled, 2 wrong usage, 3 could not print.\n";
+}
+
+}  // namespace tavrin

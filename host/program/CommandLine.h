@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include <QStringList>
+
+#include "host/job/JobRequest.h"
+#include "platform/text/Result.h"
+
+namespace tavrin {
+
+// What the person asked for on tavrin-print's command line.
+struct CommandLine {
+  enum class Wish { print, help, version };
+
+  Wish wish = Wish::print;
+  // -d, -n, -t, -o and the document; without -d no printer is named.
+  JobRequest job;
+  bool namesDocument = false;
+  std::filesystem::path ppd;           // --ppd; empty: the printer's own
+  bool sample = false;                 // --sample
+  std::filesystem::path output = ".";  // --output
+};
+
+// Reads the arguments without the program's name; or says in a sentence what is wrong with them.
+Result<CommandLine> parseCommandLine(const QStringList& arguments);
+
+// The text of --help.
+std::string usage();
+
+}  // namespace tavrin

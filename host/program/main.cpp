@@ -1,0 +1,143 @@
+// tavrin-print: the Print dialog as a command.
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <iostream>
+#include <unistd.h>
+
+#include <QApplication>
+
+#include "host/dialog/DesktopHelpViewer.h"
+#include "host/dialog/PrintDialog.h"
+#include "host/job/Document.h"
+#include "host/printer/PPDLoader.h"
+#include "host/program/CommandLine.h"
+#include "host/program/Samples.h"
+#include "host/support/FileDescriptor.h"
+#include "platform/files/RootFolder.h"
+#include "platform/qt/QtToolkit.h"
+
+namespace {
+
+using namespace tavrin;
+
+constexpr char kNoDisplay[] =
+    "There is no display to show the dialog on. Set DISPLAY, or print with lp.";
+
+enum ExitStatus { kPrinted = 0, kCancelled = 1, kUsage = 2, kNotPrinted = 3 };
+
+int complain(ExitStatus status, const std::string& sentence) {
+  std::cerr << "tavrin-print: " << sentence << "\n";
+  return status;
+}
+
+bool hasDisplay() {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    if (const char* value = std::getenv(name); value && *value) return true;
+  return false;
+}
+
+// A pipe gives its contents once. As standard input they are kept, so that a job that failed can
+// be sent again.
+void takeForStandardInput(JobRequest& job) {
+  std::error_code none;
+  if (!std::filesystem::is_fifo(job.document, none)) return;
+  const FileDescriptor pipe(open(job.document.c_str(), O_RDONLY | O_NONBLOCK));
+  if (!pipe || dup2(pipe.get(), STDIN_FILENO) < 0) return;  // the dialog will say why
+  if (job.title.empty()) job.title = job.document.filename().string();
+  job.document = "-";
+}
+
+// Where the display cannot be reached, Qt would end the program without a word of its own.
+void complainAndLeave(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  std::cerr << text.toStdString() << "\n";
+  if (type == QtFatalMsg) std::_Exit(complain(kNotPrinted, kNoDisplay));
+}
+
+// Why the document cannot be printed whatever the printer; empty when it can. Standard input is
+// not looked at before it is printed.
+std::string documentProblem(const std::filesystem::path& document) {
+  if (document == "-") return {};
+  const Result<Document> opened = Document::open(document);
+  return opened ? "" : opened.reason();
+}
+
+int report(const PrintDialog& dialog) {
+  const std::string text = dialog.report().toStdString();
+  switch (dialog.outcome()) {
+    case PrintDialog::Outcome::failed:
+      return complain(kNotPrinted, text);
+    case PrintDialog::Outcome::cancelled:
+      return text.empty() ? kCancelled : complain(kCancelled, text);
+    case PrintDialog::Outcome::printed:
+      break;
+  }
+  std::cout << text << "\n";
+  return kPrinted;
+}
+
+int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) {
+  qInstallMessageHandler(complainAndLeave);
+  QApplication application(argc, argv);
+  qInstallMessageHandler(nullptr);
+  QApplication::setApplicationName("tavrin-print");
+  QtToolkit toolkit;
+  Toolkit::install(&toolkit);
+  DesktopHelpViewer helpViewer;
+  HelpViewer::install(&helpViewer);
+  int status = kCancelled;
+  {
+    PrintDialog dialog(line.job);
+    helpViewer.setComplaint([&](const std::string& sentence) { dialog.say(sentence); });
+    if (ppd)
+      dialog.usePrinterWithoutQueue(ppd, line.output);
+    else
+      dialog.usePrintServer();
+    dialog.exec();
+    status = report(dialog);
+  }
+  HelpViewer::install(nullptr);
+  Toolkit::install(nullptr);
+  return status;
+}
+
+int print(CommandLine line, int& argc, char** argv) {
+  if (line.sample) {
+    line.ppd = samples().ppd;
+    if (!line.namesDocument) line.job.document = samples().document;
+    setRootFolder(samples().root);
+  }
+  if (line.job.document == "-" && !line.namesDocument && isatty(STDIN_FILENO))
+    return complain(kUsage, "No document was named. Name a file, or - to type the document.");
+  takeForStandardInput(line.job);
+  if (const std::string problem = documentProblem(line.job.document); !problem.empty())
+    return complain(kNotPrinted, problem);
+  SharedPPD ppd;
+  if (!line.ppd.empty()) {
+    Result<PPDPtr> loaded = loadPPD(line.ppd);
+    if (!loaded) return complain(kNotPrinted, loaded.reason());
+    ppd = std::move(*loaded);
+  }
+  if (!hasDisplay()) return complain(kNotPrinted, kNoDisplay);
+  return show(line, ppd, argc, argv);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  const Result<CommandLine> line = parseCommandLine(arguments);
+  if (!line) return complain(kUsage, line.reason());
+  switch (line->wish) {
+    case CommandLine::Wish::help:
+      std::cout << usage();
+      return kPrinted;
+    case CommandLine::Wish::version:
+      std::cout << "tavrin-print " TAVRIN_VERSION "\n";
+      return kPrinted;
+    case CommandLine::Wish::print:
+      break;
+  }
+  return print(*line, argc, argv);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QObject>
+
+#include "host/support/Cancellation.h"
+
+namespace tavrin {
+
+// Runs work that may wait for somebody else away from the user-interface thread. Its destructor
+// tells the work to give up and goes on at once, however stuck the work is: the work's answer is
+// then dropped.
+class Background {
+ public:
+  // What comes back: called on the thread that made the Background, from its event loop.
+  using Answer = std::function<void()>;
+  // Sends an answer; may be called any number of times, from the work's thread.
+  using Send = std::function<void(Answer)>;
+  // The work itself. It must own or share all that it touches.
+  using Work = std::function<void(const CancelFlag& cancel, const Send& send)>;
+
+  Background();
+  ~Background();
+  Background(const Background&) = delete;
+  Background& operator=(const Background&) = delete;
+
+  // Starts work on a thread of its own.
+  void run(Work work);
+  // Tells all work so far to give up; its answers still come.
+  void cancel();
+
+ private:
+  struct Post;
+
+  std::shared_ptr<Post> post;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include "host/dialog/Dialog.h"
