@@ -1,7 +1,5 @@
 #include "host/dialog/GeneralArea.h"
 
-#include <algorithm>
-
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -11,19 +9,29 @@
 #include <QSpinBox>
 
 #include "host/dialog/PrinterPopUp.h"
-#include "host/job/JobRequest.h"
-#include "host/job/PageRanges.h"
 #include "host/panes/OptionControl.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/task/PrintTask.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
+namespace {
 
-GeneralArea::GeneralArea(QWidget* parent)
+// A row of the form that holds several widgets.
+QHBoxLayout* makeLine(QWidget* row) {
+  auto* line = makeChild<QHBoxLayout>(row);
+  line->setContentsMargins(0, 0, 0, 0);
+  return line;
+}
+
+}  // namespace
+
+GeneralArea::GeneralArea(PrintTask& theTask, QWidget* parent)
     : QWidget(parent),
+      task(theTask),
       form(makeForm(this)),
-      printerPopUp(makeChild<PrinterPopUp>(this)),
+      printerPopUp(makeChild<PrinterPopUp>(task, this)),
       copiesBox(makeChild<QSpinBox>(this)),
       allPages(makeChild<QRadioButton>(tr("&All"), this)),
       somePages(makeChild<QRadioButton>(tr("&Range:"), this)),
@@ -32,16 +40,18 @@ GeneralArea::GeneralArea(QWidget* parent)
   addRow(*form, tr("Prin&ter:"), *printerPopUp);
   addCopiesRow();
   addPagesRow();
+  refresh();
+  connectPages();
+  connect(copiesBox, &QSpinBox::valueChanged, &task.fields(), &JobFields::setCopies);
+  connect(&task.fields(), &JobFields::suggestionTaken, this, &GeneralArea::refresh);
 }
 
 void GeneralArea::addCopiesRow() {
   copiesBox->setObjectName("copies");
   copiesBox->setAccessibleName(tr("Copies"));
   copiesBox->setRange(1, kMostCopies);
-  connect(copiesBox, &QSpinBox::valueChanged, this, [this] { copiesByHand = true; });
   auto* row = makeChild<QWidget>(this);
-  auto* line = makeChild<QHBoxLayout>(row);
-  line->setContentsMargins(0, 0, 0, 0);
+  QHBoxLayout* line = makeLine(row);
   line->addWidget(copiesBox);
   line->addStretch();
   addRow(*form, tr("C&opies:"), *row)->setBuddy(copiesBox);
@@ -52,55 +62,50 @@ void GeneralArea::addPagesRow() {
   rangeEdit->setAccessibleName(tr("Page range"));
   rangeEdit->setPlaceholderText(tr("for example 1-3,5"));
   rangeProblem->setObjectName("pageRangeProblem");
-  rangeProblem->hide();
-  allPages->setChecked(true);
   auto* row = makeChild<QWidget>(this);
-  auto* line = makeChild<QHBoxLayout>(row);
-  line->setContentsMargins(0, 0, 0, 0);
+  QHBoxLayout* line = makeLine(row);
   line->addWidget(allPages);
   line->addWidget(somePages);
   line->addWidget(rangeEdit, 1);
   addRow(*form, tr("Pages:"), *row);
   form->addRow(nullptr, rangeProblem);
+}
+
+void GeneralArea::connectPages() {
   connect(rangeEdit, &QLineEdit::textEdited, this, [this] {
-    pagesByHand = true;
     somePages->setChecked(true);
+    takePages();
   });
   for (QRadioButton* button : {allPages, somePages})
-    connect(button, &QRadioButton::clicked, this, [this] { pagesByHand = true; });
-  connect(rangeEdit, &QLineEdit::editingFinished, this, &GeneralArea::showRangeProblem);
-  connect(somePages, &QRadioButton::toggled, this, &GeneralArea::showRangeProblem);
+    connect(button, &QRadioButton::clicked, this, &GeneralArea::takePages);
   connect(somePages, &QRadioButton::clicked, rangeEdit, [this] { rangeEdit->setFocus(); });
+  connect(somePages, &QRadioButton::toggled, this, &GeneralArea::showRangeProblem);
+  connect(rangeEdit, &QLineEdit::editingFinished, this, &GeneralArea::showRangeProblem);
 }
 
-void GeneralArea::suggestCopies(int copies) {
-  if (copiesByHand) return;
+void GeneralArea::takePages() {
+  task.fields().setPages({allPages->isChecked(), rangeEdit->text()});
+}
+
+// Shows the fields as they were suggested.
+void GeneralArea::refresh() {
   const QSignalBlocker quiet(copiesBox);
-  copiesBox->setValue(copies);
-}
-
-int GeneralArea::copies() const { return copiesBox->value(); }
-
-void GeneralArea::suggestPageRanges(const QString& ranges) {
-  if (pagesByHand) return;
-  rangeEdit->setText(ranges);
-  (ranges.isEmpty() ? allPages : somePages)->setChecked(true);
+  copiesBox->setValue(task.fields().copies());
+  const JobFields::Pages& pages = task.fields().pages();
+  const QString range = shownLine(pages.range.toStdString());
+  if (rangeEdit->text() != range) rangeEdit->setText(range);
+  (pages.all ? allPages : somePages)->setChecked(true);
   showRangeProblem();
 }
 
-Result<std::string> GeneralArea::pageRanges() const {
-  if (allPages->isChecked()) return std::string();
-  return checkedPageRanges(rangeEdit->text());
-}
-
-void GeneralArea::focusPageRanges() {
+void GeneralArea::focusPageRange() {
   showRangeProblem();
   rangeEdit->setFocus();
   rangeEdit->selectAll();
 }
 
 void GeneralArea::showRangeProblem() {
-  const Result<std::string> ranges = pageRanges();
+  const Result<std::string> ranges = task.fields().pageRanges();
   rangeProblem->setText(ranges ? QString() : QString::fromStdString(ranges.reason()));
   rangeProblem->setVisible(!ranges);
 }
@@ -116,11 +121,12 @@ void GeneralArea::setMarks(PPDMarks* theMarks) {
 }
 
 Pane::Lines GeneralArea::summary() const {
-  Pane::Lines lines{{tr("Printer"), printerPopUp->currentText()}};
-  lines.push_back({tr("Copies"), locale().toString(copies())});
-  const Result<std::string> ranges = pageRanges();
+  const JobFields& fields = task.fields();
+  const Result<std::string> ranges = fields.pageRanges();
   const bool all = ranges && ranges->empty();
-  lines.emplace_back(tr("Pages"), all ? tr("All") : rangeEdit->text());
+  Pane::Lines lines{{tr("Printer"), shownLine(task.printerName())},
+                    {tr("Copies"), locale().toString(fields.copies())},
+                    {tr("Pages"), all ? tr("All") : fields.pages().range}};
   if (const OptString paper = marks ? marks->choiceText(kPaperSizeKeyword) : std::nullopt)
     lines.emplace_back(tr("Paper size"), shownLine(*paper));
   return lines;

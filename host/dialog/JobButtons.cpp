@@ -9,15 +9,15 @@
 #include "host/panes/Widgets.h"
 
 namespace tavrin {
-
 namespace {
 
 constexpr int kSteps = 1000;
 
 }  // namespace
 
-JobButtons::JobButtons(QWidget* parent)
+JobButtons::JobButtons(PrintTask& theTask, QWidget* parent)
     : QWidget(parent),
+      task(theTask),
       progressText(makeTextLabel(this)),
       progressBar(makeChild<QProgressBar>(this)),
       help(makeChild<QPushButton>("?", this)),
@@ -29,7 +29,9 @@ JobButtons::JobButtons(QWidget* parent)
   column->addWidget(progressBar);
   progressBar->setTextVisible(false);
   addButtons();
-  setState(State::cannotPrint);
+  showStage();
+  connect(&task, &PrintTask::stageChanged, this, &JobButtons::showStage);
+  connect(&task, &PrintTask::progressed, this, &JobButtons::showProgress);
 }
 
 void JobButtons::addButtons() {
@@ -50,33 +52,31 @@ void JobButtons::addButtons() {
   connect(help, &QPushButton::clicked, this, &JobButtons::helpWanted);
   connect(cancel, &QPushButton::clicked, this, &JobButtons::cancelled);
   connect(print, &QPushButton::clicked, this, [this] {
-    if (now == State::done) return emit closed();
+    if (task.stage() == PrintTask::Stage::done) return emit closed();
     emit printWanted();
   });
 }
 
-void JobButtons::setState(State state) {
-  now = state;
-  cancelling = false;
-  progressText->setVisible(state == State::printing);
-  progressBar->setVisible(state == State::printing);
-  cancel->setVisible(state != State::done);
-  print->setText(state == State::done ? tr("&Done") : tr("&Print"));
-  print->setEnabled(state == State::ready || state == State::done);
-  if (state == State::done) print->setFocus();
+void JobButtons::showStage() {
+  const bool isDone = task.stage() == PrintTask::Stage::done;
+  for (QWidget* widget : std::initializer_list<QWidget*>{progressText, progressBar})
+    widget->setVisible(task.isSending());
+  cancel->setVisible(!isDone);
+  print->setText(isDone ? tr("&Done") : tr("&Print"));
+  print->setEnabled(isDone || task.canPrint());
+  if (isDone) print->setFocus();
+  showProgress({});
 }
 
-void JobButtons::showCancelling() {
-  showProgress(tr("Taking the job back…"), -1);
-  cancelling = true;
-}
-
-void JobButtons::showProgress(const QString& text, double done) {
-  if (cancelling) return;
+// A bar that only moves stands for what nobody can measure.
+void JobButtons::showProgress(const Progress& progress) {
+  const bool isTakenBack = task.stage() == PrintTask::Stage::takingBack;
+  const QString text = isTakenBack ? tr("Taking the job back…") : tr("Sending the document…");
+  const bool isMeasured = !isTakenBack && progress.total > 0;
   progressText->setText(text);
   progressBar->setAccessibleName(text);
-  progressBar->setRange(0, done < 0 ? 0 : kSteps);
-  progressBar->setValue(static_cast<int>(done * kSteps));
+  progressBar->setRange(0, isMeasured ? kSteps : 0);
+  if (isMeasured) progressBar->setValue(static_cast<int>(progress.done * kSteps / progress.total));
 }
 
 }  // namespace tavrin

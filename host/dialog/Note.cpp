@@ -31,7 +31,6 @@ void Note::say(const QString& text, Kind kind, const QString& wayOut) {
   const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
   icon->setPixmap(style()->standardIcon(picture).pixmap(size));
   label->setText(text);
-  shownKind = kind;
   button->setText(wayOut);
   button->setVisible(!wayOut.isEmpty());
   setVisible(!text.isEmpty());
@@ -42,7 +41,5 @@ void Note::say(const QString& text, Kind kind, const QString& wayOut) {
 }
 
 QString Note::text() const { return label->text(); }
-
-QString Note::warning() const { return shownKind == Kind::warning ? text() : QString(); }
 
 }  // namespace tavrin

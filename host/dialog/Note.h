@@ -21,8 +21,6 @@ class Note : public QWidget {
   void say(const QString& text, Kind kind = Kind::warning, const QString& wayOut = {});
   void clear() { say({}); }
   QString text() const;
-  // The text that is shown where it is a warning; else empty.
-  QString warning() const;
 
  signals:
   // The person took the way out.
@@ -32,7 +30,6 @@ class Note : public QWidget {
   QLabel* icon;
   QLabel* label;
   QPushButton* button;
-  Kind shownKind = Kind::information;
 };
 
 }  // namespace tavrin

@@ -1,71 +1,64 @@
 #include "host/dialog/PrinterPopUp.h"
 
-#include <algorithm>
-
 #include "host/panes/Widgets.h"
+#include "host/task/PrintTask.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
-
 namespace {
 
-constexpr int kStateRole = Qt::UserRole;
+QString row(const std::string& name, const QString& state) {
+  const QString shown = shownLine(name);
+  return state.isEmpty() ? shown
+                         : PrinterPopUp::tr("%1 — %2", "printer and its state").arg(shown, state);
+}
+
+// What the pop-up says while no printer is chosen.
+QString placeholder(PrintTask::Stage stage) {
+  switch (stage) {
+    case PrintTask::Stage::looking:
+      return PrinterPopUp::tr("Looking for printers…");
+    case PrintTask::Stage::noPrinters:
+      return PrinterPopUp::tr("No printers");
+    default:
+      return PrinterPopUp::tr("Choose a printer");
+  }
+}
 
 }  // namespace
 
-PrinterPopUp::PrinterPopUp(QWidget* parent) : QComboBox(parent) {
+PrinterPopUp::PrinterPopUp(PrintTask& theTask, QWidget* parent) : QComboBox(parent), task(theTask) {
   setObjectName("printer");
   setAccessibleName(tr("Printer"));
-  connect(this, &QComboBox::activated, this, &PrinterPopUp::picked);
-}
-
-bool PrinterPopUp::setPrinters(std::vector<Printer> thePrinters, const std::string& destination) {
-  printers = std::move(thePrinters);
-  clear();
-  setPlaceholderText(tr("Choose a printer"));
-  for (std::size_t row = 0; row < printers.size(); ++row) {
-    addItem({});
-    setRow(static_cast<int>(row), shownLine(tavrin::stateText(printers[row].state)));
-  }
-  letPopUpShrink(*this);
-  setCurrentIndex(rowOf(destination));
-  return currentIndex() >= 0;
-}
-
-void PrinterPopUp::setEmpty(const QString& sentence) {
-  printers.clear();
-  clear();
-  setPlaceholderText(sentence);
-  setCurrentIndex(-1);
-  letPopUpShrink(*this);
-}
-
-const Printer* PrinterPopUp::selected() const {
-  const auto row = static_cast<std::size_t>(currentIndex());
-  return row < printers.size() ? &printers[row] : nullptr;
-}
-
-void PrinterPopUp::setStateText(const std::string& queue, const QString& text) {
-  for (std::size_t row = 0; row < printers.size(); ++row)
-    if (printers[row].name == queue) setRow(static_cast<int>(row), text);
-}
-
-QString PrinterPopUp::stateText() const { return currentData(kStateRole).toString(); }
-
-int PrinterPopUp::rowOf(const std::string& destination) const {
-  const auto found = std::ranges::find_if(printers, [&](const Printer& printer) {
-    return destination.empty() ? printer.isDefault : destinationName(printer) == destination;
+  refresh();
+  connect(&task, &PrintTask::printersChanged, this, &PrinterPopUp::refresh);
+  connect(&task, &PrintTask::stageChanged, this, &PrinterPopUp::refresh);
+  connect(this, &QComboBox::activated, this, [this](int index) {
+    if (task.hasQueue()) task.choosePrinter(static_cast<std::size_t>(index));
   });
-  if (found != printers.end()) return static_cast<int>(found - printers.begin());
-  // Without a default printer the first one is as good as any, and in sight.
-  return destination.empty() && !printers.empty() ? 0 : -1;
 }
 
-void PrinterPopUp::setRow(int row, const QString& state) {
-  const QString name = shownLine(destinationName(printers[static_cast<std::size_t>(row)]));
-  setItemText(row,
-              state.isEmpty() ? name : tr("%1 — %2", "printer and its state").arg(name, state));
-  setItemData(row, state, kStateRole);
+QStringList PrinterPopUp::rows() const {
+  if (!task.hasQueue()) return {row(task.printerName(), tr("jobs go to a folder"))};
+  QStringList all;
+  for (const PrinterList::Entry& entry : task.printers().entries())
+    all << row(destinationName(entry.printer), shownLine(entry.state));
+  return all;
+}
+
+// A list that is open keeps its place where only states have changed.
+void PrinterPopUp::refresh() {
+  const QStringList texts = rows();
+  const bool sameNumber = texts.size() == count();
+  if (!sameNumber) {
+    clear();
+    addItems(texts);
+  }
+  for (int index = 0; sameNumber && index < count(); ++index) setItemText(index, texts[index]);
+  setPlaceholderText(placeholder(task.stage()));
+  const auto chosen = task.printers().chosenIndex();
+  setCurrentIndex(!task.hasQueue() ? 0 : chosen ? static_cast<int>(*chosen) : -1);
+  if (!sameNumber) letPopUpShrink(*this);
 }
 
 }  // namespace tavrin

@@ -8,7 +8,7 @@ namespace tavrin {
 PrinterSession::PrinterSession(SharedPPD ppd)
     : file(std::move(ppd)), ppdMarks(*file), host(file.get(), &settings, &format) {
   host.onWillChange = [this](const std::string&, const OptString&) {
-    ppdMarks.marksWereReplaced();
+    if (!isTakingChoices) ppdMarks.marksWereReplaced();
   };
   host.onResize = [this] { emit panelResized(); };
   connect(&ppdMarks, &PPDMarks::refreshed, this, &PrinterSession::followPaper);
@@ -63,6 +63,14 @@ void PrinterSession::setPagesPerSheet(int pages) {
 }
 
 std::string PrinterSession::takePanelChoices() {
+  isTakingChoices = true;
+  const std::string problem = savePanels();
+  isTakingChoices = false;
+  ppdMarks.marksWereReplaced();
+  return problem;
+}
+
+std::string PrinterSession::savePanels() {
   for (const auto& panel : ownPanels)
     if (std::string error; !panel->saveValuesAndReturnError(&error))
       return error.empty() ? "The printer's panel could not hand over its settings." : error;

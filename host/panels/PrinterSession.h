@@ -48,7 +48,8 @@ class PrinterSession : public QObject {
   // The layout that the panels see.
   void setPagesPerSheet(int pages);
 
-  // Has the panels hand over their choices; a sentence when one could not.
+  // Has the panels hand over their choices, all of them before anybody is told of new marks; a
+  // sentence when one could not.
   std::string takePanelChoices();
 
  signals:
@@ -56,6 +57,7 @@ class PrinterSession : public QObject {
 
  private:
   std::string restorePanels();
+  std::string savePanels();
   void followPaper();
   void tellPanels(const std::string& keyword, const OptString& choice);
 
@@ -64,6 +66,7 @@ class PrinterSession : public QObject {
   HostPrintSettings settings;
   HostPageFormat format;
   PanelHost host;
+  bool isTakingChoices = false;
   LoadedPlugIn loaded;
   PDEPanels ownPanels;  // released before what they were given
 };

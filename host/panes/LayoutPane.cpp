@@ -1,40 +1,37 @@
 #include "host/panes/LayoutPane.h"
 
-#include <algorithm>
-
 #include <QComboBox>
 #include <QFormLayout>
 
 #include "host/panes/OptionControl.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/task/JobFields.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
-
 namespace {
 
 constexpr int kTwoSidedRow = 1;
 
 }  // namespace
 
-LayoutPane::LayoutPane(QWidget* parent)
-    : Pane(tr("Layout"), parent), form(makeForm(this)), pagesPopUp(makeChild<QComboBox>(this)) {
+LayoutPane::LayoutPane(JobFields& theFields, QWidget* parent)
+    : Pane(tr("Layout"), parent),
+      fields(theFields),
+      form(makeForm(this)),
+      pagesPopUp(makeChild<QComboBox>(this)) {
   for (const int pages : kPagesPerSheet) pagesPopUp->addItem(locale().toString(pages), pages);
   pagesPopUp->setObjectName("pagesPerSheet");
   addRow(*form, tr("Pages per &sheet:"), *pagesPopUp);
-  connect(pagesPopUp, &QComboBox::currentIndexChanged, this,
-          [this] { emit pagesPerSheetChanged(pagesPerSheet()); });
-  connect(pagesPopUp, &QComboBox::activated, this, [this] { pickedByHand = true; });
+  refresh();
+  connect(&fields, &JobFields::suggestionTaken, this, &LayoutPane::refresh);
+  connect(pagesPopUp, &QComboBox::activated, this,
+          [this] { fields.setPagesPerSheet(pagesPopUp->currentData().toInt()); });
 }
 
-int LayoutPane::pagesPerSheet() const { return pagesPopUp->currentData().toInt(); }
-
-bool LayoutPane::suggestPagesPerSheet(int pages) {
-  const int index = pagesPopUp->findData(pages);
-  if (index < 0) return false;
-  if (!pickedByHand) pagesPopUp->setCurrentIndex(index);
-  return true;
+void LayoutPane::refresh() {
+  pagesPopUp->setCurrentIndex(pagesPopUp->findData(fields.pagesPerSheet()));
 }
 
 void LayoutPane::setMarks(PPDMarks* theMarks) {
@@ -46,7 +43,7 @@ void LayoutPane::setMarks(PPDMarks* theMarks) {
 }
 
 Pane::Lines LayoutPane::summary() const {
-  Lines lines{{tr("Pages per sheet"), pagesPopUp->currentText()}};
+  Lines lines{{tr("Pages per sheet"), locale().toString(fields.pagesPerSheet())}};
   if (twoSided.empty()) return lines;
   lines.emplace_back(tr("Two-sided"), shownLine(marks->choiceText(twoSided).value_or("")));
   return lines;

@@ -3,14 +3,15 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "host/panels/PrinterSession.h"
 #include "host/panes/Widgets.h"
 #include "platform/qt/QtToolkit.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
-PanelPane::PanelPane(PDEPanel& thePanel, QWidget* parent)
-    : Pane(shownLine(thePanel.panelName()), parent), panel(thePanel) {
+PanelPane::PanelPane(PDEPanel& thePanel, PrinterSession& theSession, QWidget* parent)
+    : Pane(shownLine(thePanel.panelName()), parent), panel(thePanel), session(theSession) {
   auto* column = makeChild<QVBoxLayout>(this);
   column->setContentsMargins(0, 0, 0, 0);
 }
@@ -43,8 +44,8 @@ void PanelPane::willShow() {
 
 bool PanelPane::shouldHide() {
   if (!panel.shouldHide()) return false;
-  std::string reason;
-  if (!panel.saveValuesAndReturnError(&reason)) emit saveFailed(shownLines(reason));
+  if (const std::string reason = session.takePanelChoices(); !reason.empty())
+    emit saveFailed(reason);
   return true;
 }
 

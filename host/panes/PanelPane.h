@@ -7,18 +7,20 @@
 
 namespace tavrin {
 
+class PrinterSession;
+
 // The pane of a plug-in's panel.
 class PanelPane : public Pane {
   Q_OBJECT
 
  public:
-  // The panel outlives the pane.
-  PanelPane(PDEPanel& panel, QWidget* parent);
+  // The panel is one of the session's; both outlive the pane.
+  PanelPane(PDEPanel& panel, PrinterSession& session, QWidget* parent);
   ~PanelPane() override;
 
   Lines summary() const override;
   void willShow() override;
-  // Asks the panel, and has it hand over its choices, so that the rest of the dialog shows them.
+  // Asks the panel, and takes the panels' choices, so that the rest of the dialog shows them.
   bool shouldHide() override;
   bool shouldShowHelp() override { return panel.shouldShowHelp(); }
 
@@ -27,12 +29,13 @@ class PanelPane : public Pane {
 
  signals:
   // The panel could not hand over its choices, and why.
-  void saveFailed(const QString& reason);
+  void saveFailed(const std::string& reason);
 
  private:
   void addView();
 
   PDEPanel& panel;
+  PrinterSession& session;
   std::shared_ptr<View> view;
   QWidget* widget = nullptr;  // the view's, owned by it
 };

@@ -13,7 +13,7 @@ TEST(PanelPane, TakesThePanelsChoicesAlongWhenItIsLeft) {
   PanelDiary diary;
   PrinterSession session{SharedPPD(makePPD(fullPrinter()))};
   session.addPanels(FakePlugIn::loaded(diary));
-  PanelPane pane(*session.panels().front(), nullptr);
+  PanelPane pane(*session.panels().front(), session, nullptr);
   EXPECT_EQ(pane.name(), "Paper & Ink");
   pane.willShow();
   EXPECT_TRUE(pane.shouldHide());

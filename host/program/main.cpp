@@ -16,6 +16,7 @@
 #include "host/support/FileDescriptor.h"
 #include "platform/files/RootFolder.h"
 #include "platform/qt/QtToolkit.h"
+#include "platform/qt/ShownText.h"
 
 namespace {
 
@@ -62,18 +63,31 @@ std::string documentProblem(const std::filesystem::path& document) {
   return opened ? "" : opened.reason();
 }
 
-int report(const PrintDialog& dialog) {
-  const std::string text = dialog.report().toStdString();
-  switch (dialog.outcome()) {
-    case PrintDialog::Outcome::failed:
+int report(const PrintTask& task) {
+  const std::string text = shownLines(task.report()).toStdString();
+  switch (task.outcome()) {
+    case PrintTask::Outcome::failed:
       return complain(kNotPrinted, text);
-    case PrintDialog::Outcome::cancelled:
+    case PrintTask::Outcome::cancelled:
       return text.empty() ? kCancelled : complain(kCancelled, text);
-    case PrintDialog::Outcome::printed:
+    case PrintTask::Outcome::printed:
       break;
   }
   std::cout << text << "\n";
   return kPrinted;
+}
+
+// The panels go before the toolkit and the help viewer that they use.
+int runDialog(const CommandLine& line, const SharedPPD& ppd, DesktopHelpViewer& helpViewer) {
+  PrintTask task(line.job);
+  PrintDialog dialog(task);
+  helpViewer.setComplaint([&](const std::string& sentence) { task.say(sentence); });
+  if (ppd)
+    task.usePrinterWithoutQueue(ppd, line.output);
+  else
+    task.usePrintServer();
+  dialog.exec();
+  return report(task);
 }
 
 int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) {
@@ -85,17 +99,7 @@ int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) 
   Toolkit::install(&toolkit);
   DesktopHelpViewer helpViewer;
   HelpViewer::install(&helpViewer);
-  int status = kCancelled;
-  {
-    PrintDialog dialog(line.job);
-    helpViewer.setComplaint([&](const std::string& sentence) { dialog.say(sentence); });
-    if (ppd)
-      dialog.usePrinterWithoutQueue(ppd, line.output);
-    else
-      dialog.usePrintServer();
-    dialog.exec();
-    status = report(dialog);
-  }
+  const int status = runDialog(line, ppd, helpViewer);
   HelpViewer::install(nullptr);
   Toolkit::install(nullptr);
   return status;

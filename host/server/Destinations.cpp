@@ -157,8 +157,12 @@ bool receive(PrintServer& server, int file) {
 
 }  // namespace
 
+std::string destinationName(const std::string& queue, const std::string& instance) {
+  return instance.empty() ? queue : queue + "/" + instance;
+}
+
 std::string destinationName(const Printer& printer) {
-  return printer.instance.empty() ? printer.name : printer.name + "/" + printer.instance;
+  return destinationName(printer.name, printer.instance);
 }
 
 std::string stateText(const PrinterState& state) {

@@ -38,6 +38,7 @@ struct Printer {
 };
 
 // "queue" or "queue/instance", as on lp's command line.
+std::string destinationName(const std::string& queue, const std::string& instance);
 std::string destinationName(const Printer& printer);
 
 // The state in words for the screen: "Idle", "Stopped: out of paper", "Not accepting jobs".

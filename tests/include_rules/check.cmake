@@ -30,11 +30,13 @@ room(host/printer        platform/text platform/files ppd host/support)
 room(host/server         platform/text ppd host/support host/printer)
 room(host/job            platform/text platform/files ppd host/support host/printer host/server)
 room(host/panels         ${PLATFORM} ppd host/support host/printer)
-room(host/panes          ${PLATFORM} platform/qt ppd host/support host/printer host/job host/panels)
-room(host/dialog         ${PLATFORM} platform/qt ppd host/support host/printer host/server host/job
-                         host/panels host/panes)
-room(host/program        ${PLATFORM} platform/qt ppd host/support host/printer host/server host/job
-                         host/panels host/dialog)
+room(host/task           platform/text ppd host/support host/printer host/server host/job host/panels)
+room(host/panes          ${PLATFORM} platform/qt ppd host/support host/printer host/panels
+                         host/task)
+room(host/dialog         ${PLATFORM} platform/qt ppd host/support host/printer host/panels host/task
+                         host/panes)
+room(host/program        ${PLATFORM} platform/qt ppd host/support host/printer host/job host/task
+                         host/dialog)
 room(replay              ${PLATFORM} platform/qt ppd host/printer host/panels)
 room(tests               ${ROOMS})
 

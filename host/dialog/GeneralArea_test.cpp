@@ -1,0 +1,57 @@
+#include "host/dialog/GeneralArea.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "host/panes/OptionControl.h"
+#include "host/task/PrintTask.h"
+#include "tests/fakes/FakePPD.h"
+
+namespace tavrin {
+namespace {
+
+class GeneralAreaTest : public testing::Test {
+ protected:
+  PrintTask task{{}};
+  GeneralArea area{task, nullptr};
+};
+
+TEST_F(GeneralAreaTest, ShowsWhatIsSuggested) {
+  task.fields().suggestCopies(3);
+  task.fields().suggestPageRange("2-3");
+  EXPECT_EQ(area.findChild<QSpinBox*>("copies")->value(), 3);
+  EXPECT_EQ(area.findChild<QLineEdit*>("pageRange")->text(), "2-3");
+}
+
+TEST_F(GeneralAreaTest, TakesWhatThePersonSets) {
+  area.findChild<QSpinBox*>("copies")->setValue(4);
+  EXPECT_EQ(task.fields().copies(), 4);
+  QTest::keyClicks(area.findChild<QLineEdit*>("pageRange"), "5,1-3");
+  EXPECT_EQ(*task.fields().pageRanges(), "1-3,5");
+}
+
+TEST_F(GeneralAreaTest, TellsWhatIsWrongWithThePages) {
+  const auto* problem = area.findChild<QLabel*>("pageRangeProblem");
+  task.fields().suggestPageRange("5-1");
+  area.focusPageRange();
+  EXPECT_FALSE(problem->isHidden());
+  task.fields().suggestPageRange("5");
+  EXPECT_TRUE(problem->isHidden());
+}
+
+TEST_F(GeneralAreaTest, ShowsThePapersOfThePrinter) {
+  const PPDPtr ppd = makePPD({pageSizeOption()});
+  PPDMarks marks(*ppd);
+  area.setMarks(&marks);
+  auto* papers = area.findChild<PickOneControl*>("PageSize");
+  ASSERT_NE(papers, nullptr);
+  EXPECT_EQ(papers->currentData().toString().toStdString(), marks.choice("PageSize"));
+  area.setMarks(nullptr);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,62 @@
+#include "host/task/JobFields.h"
+
+#include <algorithm>
+
+#include "host/job/JobOptions.h"
+#include "host/job/PageRanges.h"
+
+namespace tavrin {
+namespace {
+
+int possibleCopies(int copies) { return std::clamp(copies, 1, kMostCopies); }
+
+}  // namespace
+
+void JobFields::setCopies(int copies) { copiesField = {possibleCopies(copies), true}; }
+
+void JobFields::suggestCopies(int copies) {
+  if (copiesField.byHand) return;
+  copiesField.value = possibleCopies(copies);
+  emit suggestionTaken();
+}
+
+void JobFields::setPages(Pages pages) { pagesField = {std::move(pages), true}; }
+
+void JobFields::suggestPageRange(const QString& range) {
+  if (pagesField.byHand) return;
+  pagesField.value = {range.isEmpty(), range};
+  emit suggestionTaken();
+}
+
+Result<std::string> JobFields::pageRanges() const {
+  if (pages().all) return std::string();
+  return checkedPageRanges(pages().range);
+}
+
+void JobFields::setPagesPerSheet(int pages) {
+  perSheetField = {pages, true};
+  emit pagesPerSheetChanged(pages);
+}
+
+bool JobFields::suggestPagesPerSheet(int pages) {
+  if (std::ranges::find(kPagesPerSheet, pages) == kPagesPerSheet.end()) return false;
+  if (perSheetField.byHand) return true;
+  perSheetField.value = pages;
+  emit suggestionTaken();
+  emit pagesPerSheetChanged(pages);
+  return true;
+}
+
+QString JobFields::suggest(const JobRequest& request, const OptionList& options) {
+  const OptString copies = optionValue(options, kCopiesOption);
+  suggestCopies(request.copies > 1 || !copies ? request.copies : integerValue(copies));
+  const OptString range = optionValue(options, kPageRangesOption);
+  suggestPageRange(
+      QString::fromStdString(request.pageRanges.empty() ? range.value_or("") : request.pageRanges));
+  const OptString pages = optionValue(options, kPagesPerSheetOption);
+  if (suggestPagesPerSheet(pages ? integerValue(pages) : 1)) return {};
+  return tr("A sheet can hold 1, 2, 4, 6, 9 or 16 pages, not “%1”.")
+      .arg(QString::fromStdString(*pages));
+}
+
+}  // namespace tavrin

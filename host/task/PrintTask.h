@@ -1,0 +1,152 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+
+#include <QObject>
+#include <QTimer>
+
+#include "host/job/JobRunner.h"
+#include "host/panels/PrinterSession.h"
+#include "host/server/PrinterBrowser.h"
+#include "host/task/JobFields.h"
+#include "host/task/PrinterList.h"
+
+namespace tavrin {
+
+// A document on its way to the paper, from the search for printers to what became of the job. It
+// exists so that a dialog, a service and a command can each show the same thing: all state is here,
+// none in a window. Nothing in it waits; whatever changes is told by a signal.
+class PrintTask : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Stage {
+    idle,        // nothing was asked for yet
+    looking,     // for printers
+    noPrinters,  // none was found; looking again may help
+    choosing,    // there are printers, but the one that was named is not among them
+    reading,     // the chosen printer's settings
+    ready,       // to print
+    printing,    // the job is on its way
+    takingBack,  // so it is, and was cancelled
+    failed,      // the job did not arrive; everything is as it was, and can be tried again
+    done,        // the job arrived
+  };
+  enum class Outcome {
+    cancelled,  // nobody tried to print, or every try was taken back
+    printed,
+    failed,
+  };
+  // A sentence for the person; empty when there is nothing to say.
+  struct Notice {
+    std::string text;
+    bool isWarning = false;
+    bool canLookAgain = false;  // looking for printers again may put it right
+  };
+
+  // The request holds the first choices of a person who can change them.
+  explicit PrintTask(JobRequest request, QObject* parent = nullptr);
+  ~PrintTask() override;
+
+  // Looks for the print server's printers, and reads the settings of the one that the request
+  // names, else of the default one. May be called again.
+  void usePrintServer();
+  // Prints on this one printer, which has no queue: jobs become folders in the output folder.
+  void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);
+  // The person's choice, by its place in the list of printers. The settings of the printer that is
+  // left are kept, and come back with it.
+  void choosePrinter(std::size_t place);
+
+  // Sends the job. Only in a stage that can print; a sentence says what is wrong with the settings
+  // when the job cannot be sent as they are.
+  void print();
+  // Takes back a job that is on its way; it has its stage until that is done.
+  void cancel();
+  // The person leaves now: the report says why nothing was printed, where there is a reason.
+  void leave();
+  // A sentence of the program's for the person, which interrupts nothing: for information, or
+  // because something went wrong.
+  void say(const std::string& sentence) { tell({sentence}); }
+  void warn(const std::string& sentence) { tell({sentence, true}); }
+
+  Stage stage() const { return now; }
+  bool canPrint() const { return now == Stage::ready || now == Stage::failed; }
+  bool isSending() const { return now == Stage::printing || now == Stage::takingBack; }
+  const Notice& notice() const { return said; }
+
+  const JobRequest& request() const { return asked; }
+  const PrinterList& printers() const { return list; }
+  // The chosen printer's name on the screen; empty while none is chosen.
+  std::string printerName() const;
+  bool hasQueue() const { return output.empty(); }
+  JobFields& fields() { return jobFields; }
+  const JobFields& fields() const { return jobFields; }
+  // The chosen printer's settings; null while there are none.
+  PrinterSession* session() const { return current.get(); }
+
+  Outcome outcome() const { return end; }
+  // What became of the job, in sentences: the job's name, or why there is none. Empty before, and
+  // for a person who left of their own accord.
+  const std::string& report() const { return reportText; }
+
+ signals:
+  void stageChanged();
+  void noticeChanged();
+  // There are other printers, another one is chosen, or one is doing something else.
+  void printersChanged();
+  // There are settings of another printer now.
+  void sessionBegun();
+  // The settings are about to go; whoever shows them lets go of them.
+  void sessionEnding();
+  // The same printer's settings were set anew.
+  void sessionRestarted();
+  void progressed(const tavrin::Progress& progress);
+
+ private:
+  void connectBrowser();
+  void connectRunner();
+  void enter(Stage stage);
+  void tell(Notice notice);
+
+  void showPrinters(const std::vector<Printer>& found);
+  void noPrinters(const QString& reason);
+  void readChosenPrinter();
+  void setState(const std::string& queue, const std::string& words);
+  void takePPD(const SharedPPD& ppd);
+  void goWithoutPPD(const QString& reason);
+
+  void beginSession(const SharedPPD& ppd);
+  void endSession();
+  void keepSettings();
+  OptionList startOptions() const;
+  void suggestFields();
+  std::string markPrinter();
+
+  JobRequest finishedRequest(const std::string& ranges) const;
+  void finishSubmission(const Submission& submission);
+  void finish(const QString& report, bool isWarning);
+  void giveBack();
+  void fail(const QString& reason);
+
+  JobRequest asked;
+  std::filesystem::path output;  // empty while jobs go to queues
+  Stage now = Stage::idle;
+  Notice said;
+  PrinterList list;
+  JobFields jobFields;
+  std::string layoutProblem;  // of the suggested fields; empty for none
+  std::string queueOfSession;
+  std::string destination;                 // the queue or instance whose settings are shown
+  std::map<std::string, OptionList> kept;  // the settings of destinations that were left
+  std::unique_ptr<PrinterSession> current;
+  PrinterBrowser browser;
+  JobRunner runner;
+  QTimer stateTimer;
+  Outcome end = Outcome::cancelled;
+  std::string reportText;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,212 @@
+#include "host/task/PrintTask.h"
+
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+#include "host/printer/PPDLoader.h"
+#include "tests/fakes/FakePPD.h"
+#include "tests/fixtures/EventLoopTest.h"
+#include "tests/fixtures/TemporaryFolder.h"
+#include "tests/servers/PrivateCupsd.h"
+#include "tests/servers/SilentServer.h"
+
+namespace tavrin {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Stage = PrintTask::Stage;
+using Stages = std::vector<Stage>;
+
+// A task without a window, with every stage that it went through.
+class PrintTaskTest : public EventLoopTest {
+ protected:
+  static SharedPPD printer() {
+    return makePPD({pageSizeOption(), paperTypeOption(), mirrorOption()});
+  }
+  JobRequest request(const std::string& queue = "") {
+    JobRequest job;
+    job.printer = queue;
+    job.document = place.write("card.pdf", "%PDF-1.4 a card");
+    return job;
+  }
+  void follow(PrintTask& task) {
+    QObject::connect(&task, &PrintTask::stageChanged, &task,
+                     [&] { stages.push_back(task.stage()); });
+  }
+  static bool reaches(PrintTask& task, Stage stage) {
+    return eventually([&] { return task.stage() == stage; });
+  }
+  // Its back end takes laid-out PDF as it is.
+  void addQueue(PrivateCupsd& cups, const char* queue) {
+    cups.addQueue(queue, place.write(std::string(queue) + ".ppd",
+                                     ppdText({pageSizeOption(), paperTypeOption(), mirrorOption()},
+                                             {"*cupsFilter2: \"application/pdf "
+                                              "application/pdf 0 -\""})));
+  }
+  static std::size_t placeOf(const PrintTask& task, const std::string& destination) {
+    const auto& entries = task.printers().entries();
+    const auto found = std::ranges::find(entries, destination, [](const PrinterList::Entry& entry) {
+      return destinationName(entry.printer);
+    });
+    return static_cast<std::size_t>(found - entries.begin());
+  }
+
+  test::TemporaryFolder place;
+  Stages stages;
+};
+
+TEST_F(PrintTaskTest, WritesTheJobOfAPrinterWithoutAQueue) {
+  PrintTask task(request());
+  follow(task);
+  EXPECT_EQ(task.stage(), Stage::idle);
+  task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+  ASSERT_TRUE(task.canPrint());
+  task.session()->marks().choose("MediaType", "IronOn");
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done));
+  EXPECT_EQ(stages, (Stages{Stage::ready, Stage::printing, Stage::done}));
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::printed);
+  EXPECT_NE(task.report().find("jobs"), std::string::npos) << task.report();
+}
+
+TEST_F(PrintTaskTest, CanTryAgainAfterAFailure) {
+  PrintTask task(request());
+  task.usePrinterWithoutQueue(printer(), place.write("a file", "in the way"));
+  task.session()->marks().choose("MediaType", "IronOn");
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::failed));
+  EXPECT_TRUE(task.canPrint());
+  EXPECT_TRUE(task.notice().isWarning);
+  EXPECT_EQ(task.notice().text, task.report());
+  EXPECT_EQ(task.session()->marks().choice("MediaType"), "IronOn");
+  fs::remove(place.path() / "a file");
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done));
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::printed);
+}
+
+TEST_F(PrintTaskTest, TakesAJobBack) {
+  JobRequest job = request();
+  job.document = place.path() / "pipe";  // nobody ever fills it, so the job never ends
+  ASSERT_EQ(mkfifo(job.document.c_str(), 0600), 0);
+  PrintTask task(job);
+  follow(task);
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.cancel();
+  EXPECT_EQ(task.stage(), Stage::ready) << "there is no job yet";
+  task.print();
+  task.cancel();
+  EXPECT_TRUE(task.isSending());
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_EQ(stages, (Stages{Stage::ready, Stage::printing, Stage::takingBack, Stage::ready}));
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::cancelled);
+  EXPECT_EQ(task.notice().text, "Printing was cancelled. The settings are as they were.");
+}
+
+TEST_F(PrintTaskTest, WhoLeavesTooEarlyHearsOfTheJob) {
+  JobRequest job = request();
+  job.document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(job.document.c_str(), 0600), 0);
+  PrintTask task(job);
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.print();
+  task.cancel();
+  task.leave();
+  EXPECT_NE(task.report().find("still be on its way"), std::string::npos);
+}
+
+TEST_F(PrintTaskTest, WhoLeavesOfTheirOwnAccordHearsNothing) {
+  PrintTask task(request());
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.say("By the way.");
+  task.leave();
+  EXPECT_EQ(task.report(), "");
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::cancelled);
+}
+
+TEST_F(PrintTaskTest, DoesNotSendPagesThatCannotBe) {
+  PrintTask task(request());
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.fields().setPages({false, "5-1"});
+  task.print();
+  EXPECT_EQ(task.stage(), Stage::ready);
+  EXPECT_TRUE(task.notice().isWarning);
+}
+
+TEST_F(PrintTaskTest, ShowsTheLayoutToThePanels) {
+  PrintTask task(request());
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.fields().setPagesPerSheet(6);
+  EXPECT_EQ(task.session()->printSettings().value(kPMLayoutColumns), "3");
+}
+
+TEST_F(PrintTaskTest, LooksForPrintersAndReadsTheOneThatIsNamed) {
+  PrivateCupsd cups;
+  addQueue(cups, "attic");
+  addQueue(cups, "office");
+  PrintTask task(request("office"));
+  follow(task);
+  task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_EQ(stages, (Stages{Stage::looking, Stage::reading, Stage::ready}));
+  EXPECT_EQ(task.printerName(), "office");
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done)) << task.notice().text;
+  EXPECT_EQ(task.report(), "Job office-1 was sent.");
+  EXPECT_EQ(cups.waitForJob(1).data, "%PDF-1.4 a card");
+}
+
+TEST_F(PrintTaskTest, KeepsTheSettingsOfAPrinterThatIsLeft) {
+  PrivateCupsd cups;
+  addQueue(cups, "attic");
+  addQueue(cups, "office");
+  cups.run({"lpoptions", "-p", "office/iron", "-o", "MediaType=IronOn"});
+  PrintTask task(request("office"));
+  const auto paper = [&] { return task.session()->marks().choice("MediaType"); };
+  const auto turnTo = [&](const std::string& destination) {
+    task.choosePrinter(placeOf(task, destination));
+    ASSERT_TRUE(reaches(task, Stage::ready)) << destination;
+  };
+  task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  const OptString byDefault = paper();
+  task.session()->marks().choose("MediaType", "Transparency");
+  turnTo("attic");
+  EXPECT_EQ(paper(), byDefault) << "one printer's settings do not leak into another's";
+  turnTo("office/iron");
+  EXPECT_EQ(paper(), "IronOn");
+  turnTo("office");
+  EXPECT_EQ(paper(), "Transparency");
+}
+
+TEST_F(PrintTaskTest, AsksForAnotherPrinterWhereTheNamedOneIsUnknown) {
+  PrivateCupsd cups;
+  addQueue(cups, "attic");
+  PrintTask task(request("cellar"));
+  task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::choosing));
+  EXPECT_EQ(task.notice().text, "There is no printer “cellar”. Choose another one.");
+  EXPECT_FALSE(task.canPrint());
+  task.choosePrinter(0);
+  EXPECT_TRUE(reaches(task, Stage::ready));
+}
+
+TEST_F(PrintTaskTest, CanLookAgainWhereNoPrinterWasFound) {
+  SilentServer server;
+  server.stop();
+  PrintTask task(request());
+  task.usePrintServer();
+  EXPECT_EQ(task.stage(), Stage::looking);
+  ASSERT_TRUE(reaches(task, Stage::noPrinters));
+  EXPECT_TRUE(task.notice().canLookAgain);
+  task.leave();
+  EXPECT_EQ(task.report(), task.notice().text) << "why nothing was printed";
+  task.usePrintServer();
+  EXPECT_EQ(task.notice().text, "");
+  EXPECT_TRUE(reaches(task, Stage::noPrinters));
+}
+
+}  // namespace
+}  // namespace tavrin
