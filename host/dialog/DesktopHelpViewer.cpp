@@ -19,7 +19,7 @@ void DesktopHelpViewer::registerHelpBook(const std::string& path) {
 
 void DesktopHelpViewer::gotoPage(const std::string& book, const OptString& page,
                                  const OptString& anchor) {
-  // A driver bundle need not name its book; the one that its panel registered is meant.
+  // A driver bundle need not name its book; an empty name means the book that was registered last.
   const auto found = books.find(book.empty() ? latest : book);
   const std::filesystem::path file =
       found == books.end() ? std::filesystem::path() : helpPage(found->second, page);

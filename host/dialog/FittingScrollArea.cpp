@@ -8,7 +8,7 @@ namespace tavrin {
 
 namespace {
 
-// What stays in sight on the smallest screens.
+// What can be seen on even the smallest screen.
 constexpr int kLeastLines = 6;
 constexpr int kLeastLetters = 24;
 

@@ -9,7 +9,7 @@
 #include <QSpinBox>
 
 #include "host/dialog/PrinterPopUp.h"
-#include "host/panes/OptionControl.h"
+#include "host/panes/PickOneControl.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/task/PrintTask.h"

@@ -7,7 +7,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "host/panes/OptionControl.h"
+#include "host/panes/PickOneControl.h"
 #include "host/task/PrintTask.h"
 #include "tests/fakes/FakePPD.h"
 

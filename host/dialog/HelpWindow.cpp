@@ -21,7 +21,7 @@ struct Entry {
 constexpr Entry kEntries[] = {
     {QT_TRANSLATE_NOOP("HelpWindow", "Printer"),
      QT_TRANSLATE_NOOP("HelpWindow",
-                       "Which printer prints. Below it stands what the printer is doing. Where a "
+                       "Which printer prints, and beside its name what it is doing. Where a "
                        "printer has saved sets of options, each set is an entry of its own.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Copies, Pages, Paper size"),
      QT_TRANSLATE_NOOP("HelpWindow",

@@ -68,7 +68,7 @@ void JobButtons::showStage() {
   showProgress({});
 }
 
-// A bar that only moves stands for what nobody can measure.
+// Where the size of the job is unknown, the bar only moves to and fro.
 void JobButtons::showProgress(const Progress& progress) {
   const bool isTakenBack = task.stage() == PrintTask::Stage::takingBack;
   const QString text = isTakenBack ? tr("Taking the job back…") : tr("Sending the document…");

@@ -22,14 +22,13 @@ class PaneSwitcher : public QWidget {
   // The panes stay their owner's.
   void setPanes(std::vector<Pane*> panes, const QString& toShow);
 
-  // The pane on the screen; null where there is none.
+  // The pane on the screen; null if there are no panes.
   Pane* current() const { return shown; }
-  // Asks the pane on the screen whether it may be left; true where there is none.
-  bool mayLeave() { return !shown || shown->shouldHide(); }
-  // Tells the pane on the screen that it is shown anew: its contents may be other ones now.
+  // Tells the pane on the screen that it is shown again: its contents may have changed.
   void showAgain();
 
  private:
+  bool mayLeave() { return !shown || shown->shouldHide(); }
   void turnTo(int index);
   void show(Pane* pane);
 

@@ -18,7 +18,7 @@
 namespace tavrin {
 namespace {
 
-// Room for most panels, in line heights, so that the window does not jump when one comes in.
+// Wide enough for most panels, in line heights, so that the window does not jump when one appears.
 constexpr int kUsualWidth = 35;
 
 QString titleFor(const JobRequest& request) {

@@ -15,7 +15,6 @@
 #include "host/dialog/Note.h"
 #include "host/dialog/PrinterPopUp.h"
 #include "host/panes/FeaturesPane.h"
-#include "host/panes/OptionControl.h"
 #include "host/printer/PPDLoader.h"
 #include "platform/qt/QtToolkit.h"
 #include "tests/servers/PrivateCupsd.h"

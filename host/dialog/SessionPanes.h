@@ -33,7 +33,7 @@ class SessionPanes : public QObject {
   Pane* first() const;
 
  signals:
-  // There are other controls in a pane now.
+  // A pane has different controls now.
   void laidOutAnew();
   // A panel could not hand over its choices, and why.
   void saveFailed(const std::string& reason);

@@ -28,7 +28,7 @@ class FeaturesPane : public Pane {
   void willShow() override;
 
  signals:
-  // There are other controls in the pane now.
+  // The pane has different controls now.
   void laidOutAnew();
 
  private:

@@ -3,7 +3,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 
-#include "host/panes/OptionControl.h"
+#include "host/panes/PickOneControl.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/task/JobFields.h"

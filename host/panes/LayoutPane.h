@@ -32,7 +32,7 @@ class LayoutPane : public Pane {
   QFormLayout* form;
   QComboBox* pagesPopUp;
   PPDMarks* marks = nullptr;
-  std::string twoSided;  // the option's keyword; empty where there is none
+  std::string twoSided;  // the option's keyword; empty if the printer has none
 };
 
 }  // namespace tavrin

@@ -3,7 +3,7 @@
 #include <QComboBox>
 #include <gtest/gtest.h>
 
-#include "host/panes/OptionControl.h"
+#include "host/panes/PickOneControl.h"
 #include "host/task/JobFields.h"
 #include "tests/fakes/FakePPD.h"
 

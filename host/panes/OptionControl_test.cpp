@@ -3,6 +3,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "host/panes/BooleanControl.h"
+#include "host/panes/PickManyControl.h"
+#include "host/panes/PickOneControl.h"
 #include "tests/fakes/FakePPD.h"
 
 namespace tavrin {

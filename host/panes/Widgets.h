@@ -14,7 +14,7 @@ class QWidget;
 
 namespace tavrin {
 
-// A label that shows a text as it is, over several lines where there is no room.
+// A label that shows a text without interpreting markup, and wraps it.
 QLabel* makeTextLabel(QWidget* parent);
 
 // Adds a row "label:" with a control that is reached and announced by that label. The text may

@@ -4,6 +4,8 @@
 
 #include <QCommandLineParser>
 
+#include "host/job/JobOptions.h"
+
 namespace tavrin {
 
 namespace {
@@ -22,7 +24,7 @@ Failure failure(const QString& sentence) {
   return {(sentence + " See tavrin-print --help.").toStdString()};
 }
 
-// The number of copies; 0 for what is none.
+// The number of copies; 0 if the text is not a possible number of copies.
 int copiesFrom(const QString& text) {
   const int copies = text.toInt();
   return copies <= kMostCopies ? std::max(copies, 0) : 0;
@@ -39,7 +41,7 @@ JobRequest jobFrom(const QCommandLineParser& parser) {
     for (const auto& [name, value] : parseOptions(text.toStdString()))
       setOption(job.options, name, value);
   // Said outright, one copy too goes before what is saved for the printer.
-  if (parser.isSet(kCopies)) setOption(job.options, "copies", std::to_string(job.copies));
+  if (parser.isSet(kCopies)) setOption(job.options, kCopiesOption, std::to_string(job.copies));
   if (const QStringList documents = parser.positionalArguments(); !documents.isEmpty())
     job.document = documents.front().toStdString();
   return job;
@@ -55,10 +57,10 @@ CommandLine filledIn(const QCommandLineParser& parser) {
   return line;
 }
 
-// What somebody wrote for a number of copies that is none; empty where there is no such thing.
+// A number of copies that is impossible, as it was written; null if there is none.
 QString wrongCopies(const QCommandLineParser& parser) {
   QStringList numbers = parser.values(kCopies);
-  if (const OptString option = optionValue(jobFrom(parser).options, "copies"))
+  if (const OptString option = optionValue(jobFrom(parser).options, kCopiesOption))
     numbers << QString::fromStdString(*option);
   const auto wrong = std::ranges::find_if(numbers, [](const QString& n) { return !copiesFrom(n); });
   return wrong == numbers.end() ? QString() : *wrong;

@@ -49,7 +49,7 @@ void takeForStandardInput(JobRequest& job) {
   job.document = "-";
 }
 
-// Where the display cannot be reached, Qt would end the program without a word of its own.
+// Qt ends the program when the display cannot be reached; the person should learn why.
 void complainAndLeave(QtMsgType type, const QMessageLogContext&, const QString& text) {
   std::cerr << text.toStdString() << "\n";
   if (type == QtFatalMsg) std::_Exit(complain(kNotPrinted, kNoDisplay));

@@ -36,7 +36,7 @@ class JobFields : public QObject {
   void setPages(Pages pages);
   // The empty range stands for all pages.
   void suggestPageRange(const QString& range);
-  // The pages in the print system's form ("1-3,5"), empty for all; or why they are none.
+  // The pages in the print system's form ("1-3,5"), empty for all; or what is wrong with them.
   Result<std::string> pageRanges() const;
 
   int pagesPerSheet() const { return perSheetField.value; }

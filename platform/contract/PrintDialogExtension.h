@@ -38,7 +38,7 @@ class PDEPlugInCallback {
   // is passed on as the panel has it; the host decides what it means.
   virtual bool willChangePPDOptionKeyValue(const std::string& key, const OptString& ppdChoice) = 0;
 
-  // The panel's view has another size now; the host lays itself out around it.
+  // The size of the panel's view has changed; the host lays itself out around it.
   virtual void panelViewDidResize() = 0;
 };
 

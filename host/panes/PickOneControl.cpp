@@ -1,0 +1,34 @@
+#include "host/panes/PickOneControl.h"
+
+#include "host/panes/Widgets.h"
+#include "platform/qt/ShownText.h"
+
+namespace tavrin {
+
+PickOneControl::PickOneControl(PPDMarks& theMarks, const ppd_option_t& theOption, QWidget* parent)
+    : QComboBox(parent), marks(theMarks), option(theOption) {
+  setObjectName(QString::fromLatin1(option.keyword));
+  setAccessibleName(shownLine(option.text));
+  setPlaceholderText(tr("Not chosen"));
+  refresh();
+  letPopUpShrink(*this);
+  connect(&marks, &PPDMarks::refreshed, this, &PickOneControl::refresh);
+  connect(this, &QComboBox::activated, this, [this](int index) {
+    marks.choose(option.keyword, itemData(index).toString().toStdString());
+  });
+}
+
+void PickOneControl::fill() {
+  clear();
+  for (const ppd_choice_t* choice : pickableChoices(option, marks.ppd()))
+    addItem(shownLine(choice->text), QString::fromUtf8(choice->choice));
+}
+
+void PickOneControl::refresh() {
+  const OptString marked = marks.choice(option.keyword);
+  const QString keyword = QString::fromStdString(marked.value_or(""));
+  if (count() == 0 || (marked && findData(keyword) < 0)) fill();
+  setCurrentIndex(marked ? findData(keyword) : -1);
+}
+
+}  // namespace tavrin
