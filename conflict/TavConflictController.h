@@ -6,6 +6,7 @@
 
 #include <cups/ppd.h>
 
+#include "conflict/InstructionTexts.h"
 #include "platform/contract/PrintJob.h"
 #include "platform/toolkit/Toolkit.h"
 #include "ppd/PDEModel.h"
@@ -82,27 +83,12 @@ class TavConflictController {
   // Any of the four windows closes, by whatever hand.
   void windowWillClose();
 
-  // --- Instructions (TavConflictController_instructions.cpp) ---
-
-  // What the Instructions window can tell.
-  enum InstructionKind : signed char {
-    pageSetUpSteps = 0,
-    colorSteps = 1,
-    layoutSteps = 2,
-    cartridgeSteps = 3
-  };
   // Fills the Instructions window with an InstructionKind; any other kind only sets the title.
   void composeInstructionMsg(signed char kind);
 
  private:
   TavConflictController(const PMPrintSettings* settings, const PMPageFormat* pageFormat,
                         ppd_file_t* ppd, PDEModel* pdeModel);
-
-  // The names of the cartridges in the printer's two slots; absent where the file names none.
-  struct Cartridges {
-    OptString first, second;
-  };
-  Cartridges installedCartridges() const;
 
   bool loadWindows();
   InterfaceBindings bindings();
@@ -192,9 +178,5 @@ class TavConflictController {
   // Expires with this object, for operations that must notice that they outlived it.
   std::shared_ptr<const bool> life = std::make_shared<const bool>(true);
 };
-
-// The text with "%@" and "%1$@" replaced by the argument (nothing for an absent one) and "%%" by
-// "%". Any other "%" stands for itself, so that no translation can break out of its text.
-std::string formatWithObject(const std::string& format, const OptString& argument);
 
 }  // namespace tavrin

@@ -1,18 +1,16 @@
 #include <memory>
 
 #include "conflict/ConflictFlags.h"
+#include "conflict/InstalledCartridges.h"
+#include "conflict/SelectedPaper.h"
 #include "conflict/TavConflictController.h"
-#include "platform/files/PropertyList.h"
-#include "platform/files/RootFolder.h"
 #include "platform/toolkit/NotificationCenter.h"
-#include "ppd/PDETools.h"
 #include "ppd/PPDKeywords.h"
 
 namespace tavrin {
 namespace {
 
 const std::string kNSCardstock = "Greeting";
-const std::string kPreferencesPrefix = "/Library/Printers/Tavrin/Preferences/com.tavrin.prefs.";
 
 bool contains(const OptString& text, const char* part) {
   return text && text->find(part) != std::string::npos;
@@ -44,8 +42,9 @@ std::vector<int> TavConflictController::validateConflict() const {
   const bool photo = isMediaTypePhoto(paper);
   const bool banner = isPaperSizeBanner(size);
   const bool envelope = isPaperSizeEnvelope(size);
-  const bool colorOnly = isColorCartOnly();
-  const bool photoCart = isPhotoCartInstalled();
+  const auto cartridges = InstalledCartridges::read(mLocalPPD);
+  const bool colorOnly = cartridges.isColorOnly();
+  const bool photoCart = cartridges.isPhotoInstalled();
 
   const bool ironOn = paper == kNSIronOn;
   const bool transparency = paper == kNSTransparency;
@@ -82,15 +81,7 @@ std::vector<int> TavConflictController::validateConflict() const {
 }
 
 OptString TavConflictController::selectedPaperSize() const {
-  const PMPaper* paper = mPageFormat != nullptr ? mPageFormat->paper() : nullptr;
-  OptString name = paper != nullptr ? paper->ppdPaperName() : std::nullopt;
-  // ISO B5 becomes an envelope on purpose: the printer feeds it as one.
-  if (name == "B5") name = "B5JIS";
-  if (name == "ISOB5") name = "EnvelopeB5";
-  if (name == "Env10") name = "Envelope10";
-  if (name == "EnvDL") name = "EnvelopeDL";
-  if (name == "EnvChou3") name = "EnvelopeChokei3";
-  return name;
+  return SelectedPaper(mPageFormat).todaysName();
 }
 
 bool TavConflictController::hasPagesPerSheet() const {
@@ -111,26 +102,11 @@ bool TavConflictController::isPaperSizeBanner(const OptString& paperSize) const 
 }
 
 bool TavConflictController::isPhotoCartInstalled() const {
-  return installedCartridges().second == "Photo Standard";
+  return InstalledCartridges::read(mLocalPPD).isPhotoInstalled();
 }
 
 bool TavConflictController::isColorCartOnly() const {
-  const Cartridges installed = installedCartridges();
-  return installed.first == "Color Standard" && installed.second == "Not installed";
-}
-
-// Both slots from one reading, so that they belong together while the file is being replaced.
-TavConflictController::Cartridges TavConflictController::installedCartridges() const {
-  const PDETools tools;
-  const OptString modelName = tools.getModelName(mLocalPPD);
-  const OptString year = tools.getModelYear(mLocalPPD);
-  if (!modelName || !year) return {};
-  const auto preferences = readPropertyList(pathBelowRoot(kPreferencesPrefix + *year + ".plist"));
-  if (!preferences) return {};
-  const auto nameIn = [&](const char* slot) {
-    return preferences->stringAt({*modelName, "Current", slot, "CartName"});
-  };
-  return {nameIn("Cart1"), nameIn("Cart2")};
+  return InstalledCartridges::read(mLocalPPD).isColorOnly();
 }
 
 }  // namespace tavrin

@@ -1,6 +1,7 @@
 #include "conflict/ConflictFlags.h"
+#include "conflict/InstalledCartridges.h"
+#include "conflict/SelectedPaper.h"
 #include "conflict/TavConflictController.h"
-#include "ppd/PDETools.h"
 #include "ppd/PlugInBundle.h"
 
 // The loop over the conflicts, and what each window shows.
@@ -178,14 +179,13 @@ std::string TavConflictController::paperTypeLine() const {
 }
 
 std::string TavConflictController::paperSizeLine() const {
-  const OptString size = selectedPaperSize();
-  const OptString text = PDETools().getLocalizedPaperSize(size, mLocalPPD);
-  return localized("Paper Size: ") + (text ? *text : size.value_or(""));
+  return localized("Paper Size: ") + SelectedPaper(mPageFormat).text(mLocalPPD);
 }
 
 OptString TavConflictController::cartridgeLine() const {
-  if (isPhotoCartInstalled()) return localized("Cartridge(s) installed: Photo");
-  if (isColorCartOnly()) return localized("Cartridge(s) installed: Only Color");
+  const auto cartridges = InstalledCartridges::read(mLocalPPD);
+  if (cartridges.isPhotoInstalled()) return localized("Cartridge(s) installed: Photo");
+  if (cartridges.isColorOnly()) return localized("Cartridge(s) installed: Only Color");
   return std::nullopt;
 }
 
