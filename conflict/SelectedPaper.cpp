@@ -15,6 +15,10 @@ const struct {
                  {"EnvDL", "EnvelopeDL"},
                  {"EnvChou3", "EnvelopeChokei3"}};
 
+bool contains(const OptString& text, const char* part) {
+  return text && text->find(part) != std::string::npos;
+}
+
 }  // namespace
 
 SelectedPaper::SelectedPaper(const PMPageFormat* format) {
@@ -34,5 +38,9 @@ std::string SelectedPaper::text(ppd_file_t* ppd) const {
   const OptString text = PDETools().getLocalizedPaperSize(name, ppd);
   return text ? *text : name.value_or("");
 }
+
+bool isEnvelope(const OptString& paperName) { return contains(paperName, "Envelope"); }
+
+bool isBanner(const OptString& paperName) { return contains(paperName, "BA"); }
 
 }  // namespace tavrin

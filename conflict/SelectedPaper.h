@@ -26,4 +26,8 @@ class SelectedPaper {
   OptString ownName;
 };
 
+// By a paper's name; an absent one is neither. Two letters, "BA", make a banner.
+bool isEnvelope(const OptString& paperName);
+bool isBanner(const OptString& paperName);
+
 }  // namespace tavrin

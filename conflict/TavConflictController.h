@@ -6,7 +6,11 @@
 
 #include <cups/ppd.h>
 
-#include "conflict/InstructionTexts.h"
+#include "conflict/ConflictRules.h"
+#include "conflict/ConflictTexts.h"
+#include "conflict/ConflictWindow.h"
+#include "conflict/InstalledCartridges.h"
+#include "conflict/SelectedPaper.h"
 #include "platform/contract/PrintJob.h"
 #include "platform/toolkit/Toolkit.h"
 #include "ppd/PDEModel.h"
@@ -33,26 +37,27 @@ class TavConflictController {
   TavConflictController(const TavConflictController&) = delete;
   TavConflictController& operator=(const TavConflictController&) = delete;
 
-  // --- Detection (TavConflictController_detection.cpp) ---
+  // --- Detection ---
 
   // The codes of all conflicts that are present now, ascending: the order of their priority. What
-  // each code means stands in the implementation's table. Reads the cartridge file; changes
-  // nothing.
+  // each code means is in ConflictRules.cpp. Reads the cartridge file; changes nothing.
   std::vector<int> validateConflict() const;
 
   // The paper's name in "PageSize", old names brought to today's; absent without a paper.
-  OptString selectedPaperSize() const;
+  OptString selectedPaperSize() const { return SelectedPaper(mPageFormat).todaysName(); }
   // Whether the layout puts two or more columns of pages on a sheet.
-  bool hasPagesPerSheet() const;
-  bool isMediaTypePhoto(const OptString& paperType) const;
-  bool isPaperSizeEnvelope(const OptString& paperSize) const;
-  bool isPaperSizeBanner(const OptString& paperSize) const;
+  bool hasPagesPerSheet() const { return hasSeveralColumns(mPrintSetting); }
+  bool isMediaTypePhoto(const OptString& paperType) const { return isPhotoPaper(paperType); }
+  bool isPaperSizeEnvelope(const OptString& paperSize) const { return isEnvelope(paperSize); }
+  bool isPaperSizeBanner(const OptString& paperSize) const { return isBanner(paperSize); }
   // What the cartridge preferences file of the printer's model says; false where it says nothing.
-  bool isPhotoCartInstalled() const;
-  bool isColorCartOnly() const;
+  // Each reads the file.
+  bool isPhotoCartInstalled() const {
+    return InstalledCartridges::read(mLocalPPD).isPhotoInstalled();
+  }
+  bool isColorCartOnly() const { return InstalledCartridges::read(mLocalPPD).isColorOnly(); }
 
-  // --- Windows (TavConflictController_windows.cpp, choices in TavConflictController_choices.cpp,
-  //     OK in TavConflictController_answers.cpp) ---
+  // --- Windows ---
 
   // Shows one window after the other until no conflict is left; returns at once when there is
   // none, when a window is missing, and when the program ends meanwhile.
@@ -62,23 +67,27 @@ class TavConflictController {
   void processConflict();
 
   // Fill a window: MsgTwo for the mirror (0) or pages per sheet (1), MsgFive for the paper size
-  // (0), printing in black (1) or the cartridges (2).
-  void composeMsgOne();
-  void composeMsgTwo(int kind);
-  void composeMsgFive(int kind);
+  // (0), printing in black (1) or the cartridges (2). Any other kind only gets the texts that the
+  // window always has.
+  void composeMsgOne() { texts().fillMsgOne(msgOne); }
+  void composeMsgTwo(int kind) { texts().fillMsgTwo(msgTwo, kind); }
+  void composeMsgFive(int kind) { texts().fillMsgFive(msgFive, kind); }
 
-  void clickFirstButton_MsgOne(Button& sender);
-  void clickSecondButton_MsgOne(Button& sender);
-  void clickThirdButton_MsgOne(Button& sender);
-  void clickFirstButton_MsgTwo(Button& sender);
-  void clickSecondButton_MsgTwo(Button& sender);
-  void clickThirdButton_MsgTwo(Button& sender);
-  void clickFirstButton_MsgFive(Button& sender);
-  void clickSecondButton_MsgFive(Button& sender);
+  // A choice button was clicked: when it is on now, the others of its window go off.
+  void clickFirstButton_MsgOne(Button& sender) { msgOne.follow(firstChoice, sender); }
+  void clickSecondButton_MsgOne(Button& sender) { msgOne.follow(secondChoice, sender); }
+  void clickThirdButton_MsgOne(Button& sender) { msgOne.follow(thirdChoice, sender); }
+  void clickFirstButton_MsgTwo(Button& sender) { msgTwo.follow(firstChoice, sender); }
+  void clickSecondButton_MsgTwo(Button& sender) { msgTwo.follow(secondChoice, sender); }
+  void clickThirdButton_MsgTwo(Button& sender) { msgTwo.follow(thirdChoice, sender); }
+  void clickFirstButton_MsgFive(Button& sender) { msgFive.follow(firstChoice, sender); }
+  void clickSecondButton_MsgFive(Button& sender) { msgFive.follow(secondChoice, sender); }
 
-  void clickOkButton_MsgOne(Button& sender);
-  void clickOkButton_MsgTwo(Button& sender);
-  void clickOkButton_MsgFive(Button& sender);
+  // OK: takes the window down and does what the selected choice says. May end this object's life,
+  // as processConflict may.
+  void clickOkButton_MsgOne(Button&) { answer(MessageWindow::msgOne); }
+  void clickOkButton_MsgTwo(Button&) { answer(MessageWindow::msgTwo); }
+  void clickOkButton_MsgFive(Button&) { answer(MessageWindow::msgFive); }
 
   // Any of the four windows closes, by whatever hand.
   void windowWillClose();
@@ -90,84 +99,25 @@ class TavConflictController {
   TavConflictController(const PMPrintSettings* settings, const PMPageFormat* pageFormat,
                         ppd_file_t* ppd, PDEModel* pdeModel);
 
+  std::vector<const ConflictRule*> conflictsNow() const;
+  ConflictTexts texts() const { return {*model, mPageFormat, mLocalPPD}; }
   bool loadWindows();
   InterfaceBindings bindings();
-  void offerMsgOne(InterfaceBindings& bindings);
-  void offerMsgTwo(InterfaceBindings& bindings);
-  void offerMsgFive(InterfaceBindings& bindings);
-  void showConflict(int code);
+  ConflictWindow& windowOf(MessageWindow window);
+  void compose(const ConflictKind& kind);
+  void show(const ConflictKind& kind);
   void runWindow(Window& window);
-  void selectFirstMsgOne();
-  void selectFirstMsgTwo();
-  void selectFirstMsgFive();
-  void resolveConflictsOfMsgTwo();
-  void resolveConflictsOfMsgFive();
-  void showInstructionsOfMsgTwo();
-  void showInstructionsOfMsgFive();
-  void ignoreConflictsOfMsgTwo();
-  std::string paperTypeLine() const;
-  std::string paperSizeLine() const;
-  OptString cartridgeLine() const;
-  void setPaperTypeToChoice(const std::string& keyword);
-  void setPrintQualityToChoice(const std::string& keyword);
-  void setBlackAndWhiteToChoice(const std::string& keyword);
+  void answer(MessageWindow answered);
+  void takeWayOut(const ConflictKind& kind, Choice choice);
 
   const PMPageFormat* mPageFormat;
   const PMPrintSettings* mPrintSetting;
   ppd_file_t* mLocalPPD;
   PDEModel* model;
 
-  // Which choice is selected in each window.
-  bool isFirstButton_MsgOneClicked = false;
-  bool isFirstButton_MsgTwoClicked = false;
-  bool isFirstButton_MsgFiveClicked = false;
-  bool isSecondButton_MsgOneClicked = false;
-  bool isSecondButton_MsgTwoClicked = false;
-  bool isSecondButton_MsgFiveClicked = false;
-  bool isThirdButton_MsgOneClicked = false;
-  bool isThirdButton_MsgTwoClicked = false;
-
-  Outlet<Window> ibMsgOneWindow;
-  Outlet<Label> ibLabelA_MsgOne;
-  Outlet<Label> ibLabelB_MsgOne;
-  Outlet<Label> ibLabelC_MsgOne;
-  Outlet<Label> ibLabelD_MsgOne;
-  Outlet<Label> ibLabelA_FirstButton_MsgOne;
-  Outlet<Label> ibLabelB_FirstButton_MsgOne;
-  Outlet<Label> ibLabelA_SecondButton_MsgOne;
-  Outlet<Label> ibLabelB_SecondButton_MsgOne;
-  Outlet<Label> ibLabelA_ThirdButton_MsgOne;
-  Outlet<Button> ibFirstButton_MsgOne;
-  Outlet<Button> ibSecondButton_MsgOne;
-  Outlet<Button> ibThirdButton_MsgOne;
-  Outlet<Button> ibOkButton_MsgOne;
-
-  Outlet<Window> ibMsgTwoWindow;
-  Outlet<Label> ibLabelA_MsgTwo;
-  Outlet<Label> ibLabelB_MsgTwo;
-  Outlet<Label> ibLabelC_MsgTwo;
-  Outlet<Label> ibLabelD_MsgTwo;
-  Outlet<Label> ibLabelA_FirstButton_MsgTwo;
-  Outlet<Label> ibLabelB_FirstButton_MsgTwo;
-  Outlet<Label> ibLabelA_SecondButton_MsgTwo;
-  Outlet<Label> ibLabelA_ThirdButton_MsgTwo;
-  Outlet<Button> ibFirstButton_MsgTwo;
-  Outlet<Button> ibSecondButton_MsgTwo;
-  Outlet<Button> ibThirdButton_MsgTwo;
-  Outlet<Button> ibOkButton_MsgTwo;
-
-  Outlet<Window> ibMsgFiveWindow;
-  Outlet<Label> ibLabelA_MsgFive;
-  Outlet<Label> ibLabelB_MsgFive;
-  Outlet<Label> ibLabelC_MsgFive;
-  Outlet<Label> ibLabelD_MsgFive;
-  Outlet<Label> ibLabelA_FirstButton_MsgFive;
-  Outlet<Label> ibLabelB_FirstButton_MsgFive;
-  Outlet<Label> ibLabelA_SecondButton_MsgFive;
-  Outlet<Button> ibFirstButton_MsgFive;
-  Outlet<Button> ibSecondButton_MsgFive;
-  Outlet<Button> ibOkButton_MsgFive;
-
+  ConflictWindow msgOne{"MsgOne", {2, 2, 1}};
+  ConflictWindow msgTwo{"MsgTwo", {2, 1, 1}};
+  ConflictWindow msgFive{"MsgFive", {2, 1}};
   Outlet<Window> ibInstructionWindow;
   Outlet<Label> ibInstructionText;
 
