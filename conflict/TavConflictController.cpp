@@ -59,32 +59,26 @@ std::vector<const ConflictRule*> TavConflictController::conflictsNow() const {
 // --- The loop ---
 
 void TavConflictController::processConflict() {
-  const bool haveWindows = loadWindows();
+  loadMissingWindows();
   for (ConflictWindow* window : {&msgOne, &msgTwo, &msgFive}) window->selectFirst();
   for (const ConflictKind* kind : kConflictKinds) {
     if (kind->isInstructed != nullptr) *kind->isInstructed = false;
   }
-  if (!haveWindows) return;
 
-  const std::weak_ptr<const bool> alive = life;
   const auto keptWhileShown = windows;
   canShowWindows = true;
   for (auto conflicts = conflictsNow(); !conflicts.empty(); conflicts = conflictsNow()) {
-    show(*conflicts.front()->kind);
-    if (alive.expired() || !canShowWindows) return;
+    if (!show(*conflicts.front()->kind)) return;
   }
 }
 
-// Whether all four windows are there.
-bool TavConflictController::loadWindows() {
-  const auto complete = [this] {
-    return msgOne.window.isConnected() && msgTwo.window.isConnected() &&
-           msgFive.window.isConnected() && ibInstructionWindow.isConnected();
-  };
-  if (complete()) return true;
+void TavConflictController::loadMissingWindows() {
+  if (msgOne.window.isConnected() && msgTwo.window.isConnected() && msgFive.window.isConnected() &&
+      ibInstructionWindow.isConnected()) {
+    return;
+  }
   auto loaded = Toolkit::current().loadInterface(plugInBundle(), "Conflicts", bindings());
   if (loaded) windows.push_back(std::move(loaded));
-  return complete();
 }
 
 InterfaceBindings TavConflictController::bindings() {
@@ -105,18 +99,22 @@ ConflictWindow& TavConflictController::windowOf(MessageWindow window) {
   return window == MessageWindow::msgTwo ? msgTwo : msgFive;
 }
 
-void TavConflictController::show(const ConflictKind& kind) {
+bool TavConflictController::show(const ConflictKind& kind) {
+  ConflictWindow& dialog = windowOf(kind.window);
+  if (!dialog.window.isConnected()) return false;
   if (kind.isShown != nullptr) *kind.isShown = true;
   compose(kind);
-  runWindow(*windowOf(kind.window).window);
+  return runWindow(*dialog.window);
 }
 
-void TavConflictController::runWindow(Window& window) {
+bool TavConflictController::runWindow(Window& window) {
   const std::weak_ptr<const bool> alive = life;
   window.center();
   window.display();
   const bool stopped = Toolkit::current().runModalForWindow(window);
-  if (!alive.expired() && !stopped) canShowWindows = false;
+  if (alive.expired()) return false;
+  canShowWindows = canShowWindows && stopped;
+  return canShowWindows;
 }
 
 void TavConflictController::windowWillClose() {
@@ -152,7 +150,7 @@ void TavConflictController::answer(MessageWindow answered) {
   if (choice == firstChoice || answered == MessageWindow::msgOne) {
     NotificationCenter::defaultCenter().post(ConflictControllerChangeNotification,
                                              &*dialog.okButton);
-  } else if (choice == secondChoice) {
+  } else if (choice == secondChoice && ibInstructionWindow.isConnected()) {
     runWindow(*ibInstructionWindow);
   }
 }

@@ -59,8 +59,9 @@ class TavConflictController {
 
   // --- Windows ---
 
-  // Shows one window after the other until no conflict is left; returns at once when there is
-  // none, when a window is missing, and when the program ends meanwhile.
+  // Shows one window after the other until no conflict is left; returns early when the window that
+  // a conflict needs is missing, and when the program ends meanwhile. Missing windows are looked
+  // for again each time. Without the Instructions window the steps count as shown.
   //
   // The host may release the panel, and with it this object, while a window is up. The caller
   // therefore touches nothing of the panel after this call.
@@ -101,12 +102,14 @@ class TavConflictController {
 
   std::vector<const ConflictRule*> conflictsNow() const;
   ConflictTexts texts() const { return {*model, mPageFormat, mLocalPPD}; }
-  bool loadWindows();
+  void loadMissingWindows();
   InterfaceBindings bindings();
   ConflictWindow& windowOf(MessageWindow window);
   void compose(const ConflictKind& kind);
-  void show(const ConflictKind& kind);
-  void runWindow(Window& window);
+  // Show a window and wait for its end. False when no other window may follow: the conflict's
+  // window is missing, the program is ending, or this object is gone.
+  bool show(const ConflictKind& kind);
+  bool runWindow(Window& window);
   void answer(MessageWindow answered);
   void takeWayOut(const ConflictKind& kind, Choice choice);
 

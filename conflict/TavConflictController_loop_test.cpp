@@ -373,6 +373,67 @@ TEST_F(ConflictLoop, AnIncompleteInterfaceFileIsLoadedAgainAndNothingDangles) {
   EXPECT_EQ(panel.model.printQualityTicket(), "Normal");
 }
 
+TEST_F(ConflictLoop, AWindowThatIsThereIsShownWhateverElseIsMissing) {
+  const std::string dialogs[] = {"MsgOne", "MsgTwo", "MsgFive"};
+  for (const std::string missing : {"MsgOne", "MsgTwo", "MsgFive", "Instruction"}) {
+    for (const std::string& dialog : dialogs) {
+      if (dialog == missing) continue;
+      SCOPED_TRACE(dialog + " without " + missing);
+      ConflictTestPanel incomplete(ppd.get());
+      toolkit.unconnected = {"ib" + missing + "Window"};
+      incomplete.setPaper("IronOn");
+      if (dialog == "MsgOne") incomplete.setQuality("Draft");
+      if (dialog == "MsgTwo") incomplete.settings.columns = "2";
+      if (dialog == "MsgFive") incomplete.format.name = "EnvelopeDL";
+      process(incomplete, {choosing(dialog, 1)});
+      EXPECT_EQ(notifications.size(), 1U);
+    }
+  }
+}
+
+TEST_F(ConflictLoop, AConflictWhoseWindowIsMissingEndsTheCheckUntilTheNextOne) {
+  const std::pair<std::string, void (*)(ConflictTestPanel&)> examples[] = {
+      {"MsgOne", [](ConflictTestPanel& on) { on.setQuality("Draft"); }},
+      {"MsgTwo", [](ConflictTestPanel& on) { on.settings.columns = "2"; }},
+      {"MsgFive", [](ConflictTestPanel& on) { on.format.name = "EnvelopeDL"; }}};
+  for (const auto& [dialog, bringAbout] : examples) {
+    SCOPED_TRACE(dialog);
+    ConflictTestPanel incomplete(ppd.get());
+    incomplete.setPaper("IronOn");
+    bringAbout(incomplete);
+    toolkit.unconnected = {"ib" + dialog + "Window"};
+    process(incomplete, {});
+    EXPECT_TRUE(toolkit.shown.empty());
+    EXPECT_TRUE(notifications.empty());
+    EXPECT_EQ(incomplete.model.paperType(), "Iron-On Transfer");
+    EXPECT_EQ(countSet(kConflictFlags), 0);
+    toolkit.unconnected.clear();
+    process(incomplete, {choosing(dialog, 1)});
+  }
+}
+
+TEST_F(ConflictLoop, AWindowBeforeAMissingOneIsStillAnswered) {
+  ironOnAtDraft();
+  panel.format.name = "EnvelopeDL";
+  toolkit.unconnected = {"ibMsgFiveWindow"};
+  process({choosing("MsgOne", 1)});
+  EXPECT_EQ(panel.codes(), std::vector{2});
+}
+
+TEST_F(ConflictLoop, StepsThatNoWindowShowsCountAsShown) {
+  panel.setPaper("Transparency");
+  panel.format.name = "BannerBA4";
+  panel.settings.columns = "2";
+  toolkit.unconnected = {"ibInstructionWindow"};
+  process({choosing("MsgFive", 2), choosing("MsgTwo", 2)});
+  EXPECT_EQ(toolkit.shown, (Names{"ibMsgFiveWindow", "ibMsgTwoWindow"}));
+  EXPECT_TRUE(HAS_PAPERSIZE_INSTRUCTION);
+  EXPECT_TRUE(HAS_PAGESPERSHEET_INSTRUCTION);
+  EXPECT_EQ(countSet(kConflictFlags), 0);
+  toolkit.unconnected.clear();
+  process({choosing("MsgFive", 2), closing("Instruction"), choosing("MsgTwo", 1)});
+}
+
 TEST_F(ConflictLoop, TheInterfaceFileIsLoadedOnce) {
   ironOnAtDraft();
   process({choosing("MsgOne", 1)});
