@@ -34,9 +34,11 @@ OptString SelectedPaper::todaysName() const {
 }
 
 std::string SelectedPaper::text(ppd_file_t* ppd) const {
-  const OptString name = todaysName();
-  const OptString text = PDETools().getLocalizedPaperSize(name, ppd);
-  return text ? *text : name.value_or("");
+  const OptString today = todaysName();
+  for (const OptString& name : {today, ownName}) {
+    if (const OptString text = PDETools().getLocalizedPaperSize(name, ppd)) return *text;
+  }
+  return today.value_or("");
 }
 
 bool isEnvelope(const OptString& paperName) { return contains(paperName, "Envelope"); }

@@ -18,8 +18,8 @@ class SelectedPaper {
   // Its name in "PageSize", an old name brought to today's; absent without a paper.
   OptString todaysName() const;
 
-  // What people call it: the PPD's text of today's name; today's name where the PPD has none;
-  // empty without a paper. The PPD may be null.
+  // What people call it: the PPD's text of today's name, else of the name that the format gives,
+  // else today's name itself; empty without a paper. The PPD may be null.
   std::string text(ppd_file_t* ppd) const;
 
  private:

@@ -131,11 +131,23 @@ TEST_F(ConflictWindows, BlackOnlyPrintingWithTheWrongCartridges) {
   }
 }
 
-TEST_F(ConflictWindows, ASizeThatThePrinterDoesNotListGoesByItsOwnName) {
+TEST_F(ConflictWindows, ASizeThatThePrinterDoesNotListGoesByTodaysName) {
   panel.setMirror("True");
   panel.format.name = "EnvChou3";
   process({choosing("MsgTwo", 0)});
   EXPECT_EQ(seen.at(0).label("ibLabelC_MsgTwo"), "Paper Size: EnvelopeChokei3");
+}
+
+TEST_F(ConflictWindows, ASizeThatThePrinterListsUnderItsOldNameGoesByThatText) {
+  auto options = fullPrinter();
+  options[0].choices.emplace_back("EnvChou3/Japanese Long Envelope");
+  const PPDPtr older = makePPD(options);
+  ConflictTestPanel on(older.get());
+  on.setPaper("IronOn");
+  on.format.name = "EnvChou3";
+  process(on, {choosing("MsgFive", 0)});
+  expectConflict(seen.at(0), "MsgFive", "Paper Type: Iron-On Transfer",
+                 "Paper Size: Japanese Long Envelope");
 }
 
 TEST_F(ConflictWindows, TheOkButtonSaysSo) {
