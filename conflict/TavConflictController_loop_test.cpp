@@ -89,6 +89,22 @@ TEST_F(ConflictLoop, TheButtonsOfEveryWindowComeUpWithTheFirstOneOn) {
   }
 }
 
+TEST_F(ConflictLoop, TheButtonsOfMsgOneComeUpWithTheFirstOneOn) {
+  ironOnAtDraft();
+  for (const char* chosen : {"ibSecondButton_MsgOne", "ibThirdButton_MsgOne"}) {
+    process({[&](FakeInterface& windows) {
+               windows.button("ibFirstButton_MsgOne").state = 0;
+               windows.button(chosen).state = 1;
+               closing("MsgOne")(windows);
+             },
+             choosing("MsgOne", 3)});
+    EXPECT_EQ(seen.at(1).states.at("ibFirstButton_MsgOne"), 1);
+    EXPECT_EQ(seen.at(1).states.at("ibSecondButton_MsgOne"), 0);
+    EXPECT_EQ(seen.at(1).states.at("ibThirdButton_MsgOne"), 0);
+    forgetConflicts();
+  }
+}
+
 TEST_F(ConflictLoop, TheNextCheckStartsWithTheFirstChoice) {
   ironOnAtDraft();
   process({[](FakeInterface& windows) { pickChoice(windows, "MsgOne", 2); }});  // the program ends
