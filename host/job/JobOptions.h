@@ -10,18 +10,19 @@
 
 namespace tavrin {
 
-// The print system's own options that fields of the dialog stand for.
+// Options that the print system has for every printer.
 inline constexpr char kCopiesOption[] = "copies";
 inline constexpr char kPageRangesOption[] = "page-ranges";
 inline constexpr char kPagesPerSheetOption[] = "number-up";
+inline constexpr char kPaperOption[] = "media";
+inline constexpr char kSidesOption[] = "sides";
+// These two say what the document is, and are not sent with the job.
+inline constexpr char kFormatOption[] = "document-format";
+inline constexpr char kRawOption[] = "raw";
 
 // All options of the job as they are sent: the request's own, the PPD's marked choices over them
-// (a null PPD has none), then copies and page ranges where they say something. An option of the PPD
-// in which nothing is marked is not sent.
+// (a null PPD has none), then copies and page ranges where they differ from one copy of all pages.
+// An option of the PPD in which nothing is marked is not sent.
 OptionList jobOptions(const JobRequest& request, ppd_file_t* ppd);
-
-// The command that prints the request with these options (see jobOptions) without a dialog, quoted
-// for a shell. A request without a printer names none.
-std::string lpCommand(const JobRequest& request, const OptionList& options);
 
 }  // namespace tavrin

@@ -55,30 +55,5 @@ TEST(JobOptions, KeepsTheRequestOfAPrinterWithoutAPPD) {
   EXPECT_EQ(jobOptions(request, nullptr), request.options);
 }
 
-TEST(JobOptions, WritesTheSameAsALpCommand) {
-  JobRequest request{"photo", "draft", 2, "Ada's card", "", {}, "my card.pdf"};
-  EXPECT_EQ(lpCommand(request, {{"MediaType", "IronOn"}, {"copies", "2"}, {"note", "a b'c"}}),
-            "lp -d 'photo/draft' -n 2 -t 'Ada'\\''s card' -o 'MediaType=IronOn' "
-            "-o 'note=a\\ b\\'\\''c' -- 'my card.pdf'");
-}
-
-TEST(JobOptions, QuotesAValueSoThatItIsReadBackTheSame) {
-  const std::string value = "two words 'and' \"quotes\" \\ back";
-  const std::string command = lpCommand({}, {{"note", value}});
-  std::string argument = command.substr(command.find("-o '") + 4);
-  argument.resize(argument.rfind("' -- '-'"));
-  for (std::size_t at; (at = argument.find("'\\''")) != std::string::npos;)
-    argument.replace(at, 4, "\x01");
-  for (char& c : argument)
-    if (c == '\x01') c = '\'';
-  EXPECT_EQ(parseOptions(argument), (OptionList{{"note", value}}));
-}
-
-TEST(JobOptions, NamesTheJobAfterItsDocument) {
-  EXPECT_EQ(jobTitle({"", "", 1, "Holiday", "", {}, "/x/a.pdf"}), "Holiday");
-  EXPECT_EQ(jobTitle({"", "", 1, "", "", {}, "/x/a.pdf"}), "a.pdf");
-  EXPECT_EQ(jobTitle({}), "(stdin)");
-}
-
 }  // namespace
 }  // namespace tavrin

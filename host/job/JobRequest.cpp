@@ -3,8 +3,7 @@
 namespace tavrin {
 
 std::string jobTitle(const JobRequest& request) {
-  if (!request.title.empty()) return request.title;
-  return request.document == "-" ? "(stdin)" : request.document.filename().string();
+  return request.title.empty() ? documentName(request.document) : request.title;
 }
 
 }  // namespace tavrin

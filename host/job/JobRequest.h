@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "host/job/DocumentName.h"
 #include "host/support/OptionList.h"
 
 namespace tavrin {
@@ -17,7 +18,7 @@ struct JobRequest {
   std::string title;       // empty: the document's name
   std::string pageRanges;  // "1-3,5"; empty: all pages
   OptionList options;
-  std::filesystem::path document = "-";  // "-": standard input
+  std::filesystem::path document = kStandardInput;
 };
 
 // The name that the job gets: its title, else the document's.

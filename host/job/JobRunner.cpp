@@ -4,37 +4,41 @@
 
 namespace tavrin {
 
-void JobRunner::submit(const JobRequest& request, const OptionList& options) {
+template <class Value, class Call, class Tell>
+void JobRunner::run(Call call, Tell tellValue) {
   background.run([=, this](const CancelFlag& cancel, const Background::Send& send) {
-    const auto tell = [&](const Progress& progress) {
+    const ProgressCallback tell = [&](const Progress& progress) {
       send([this, progress] { emit progressed(progress); });
     };
-    send([this, result = submitJob(request, options, cancel, tell)] {
-      if (!result)
-        emit failed(QString::fromStdString(result.reason()));
-      else if (result->cancelled)
+    const Cancellable<Value> end = call(cancel, tell);
+    send([=, this] {
+      if (end)
+        tellValue(*end);
+      else if (end.cancelled())
         emit cancelled();
       else
-        emit submitted(*result);
+        emit failed(QString::fromStdString(end.reason()));
     });
   });
 }
 
+void JobRunner::submit(const JobRequest& request, const OptionList& options) {
+  run<Submission>(
+      [=](const CancelFlag& cancel, const ProgressCallback& progress) {
+        return submitJob(request, options, cancel, progress);
+      },
+      [this](const Submission& submission) { emit submitted(submission); });
+}
+
 void JobRunner::writeFolder(const std::filesystem::path& output, const JobRequest& request,
                             const OptionList& options) {
-  background.run([=, this](const CancelFlag& cancel, const Background::Send& send) {
-    const auto tell = [&](const Progress& progress) {
-      send([this, progress] { emit progressed(progress); });
-    };
-    send([this, folder = writeTicketFolder(output, request, options, cancel, tell)] {
-      if (!folder)
-        emit failed(QString::fromStdString(folder.reason()));
-      else if (folder->empty())
-        emit cancelled();
-      else
-        emit folderWritten(QString::fromStdString(folder->string()));
-    });
-  });
+  run<std::filesystem::path>(
+      [=](const CancelFlag& cancel, const ProgressCallback& progress) {
+        return writeTicketFolder(output, request, options, cancel, progress);
+      },
+      [this](const std::filesystem::path& folder) {
+        emit folderWritten(QString::fromStdString(folder.string()));
+      });
 }
 
 }  // namespace tavrin

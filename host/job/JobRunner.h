@@ -34,6 +34,11 @@ class JobRunner : public QObject {
   void failed(const QString& reason);
 
  private:
+  // Makes a call in the background, then tells its value or, where there is none, emits `failed` or
+  // `cancelled`.
+  template <class Value, class Call, class Tell>
+  void run(Call call, Tell tellValue);
+
   Background background;
 };
 

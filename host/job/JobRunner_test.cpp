@@ -2,7 +2,6 @@
 
 #include <sys/stat.h>
 
-#include "tests/fakes/FakePPD.h"
 #include "tests/fixtures/EventLoopTest.h"
 #include "tests/fixtures/TemporaryFolder.h"
 #include "tests/servers/PrivateCupsd.h"
@@ -17,9 +16,7 @@ class JobRunnerTest : public EventLoopTest {
 
 TEST_F(JobRunnerTest, RunsBesideTheWindow) {
   PrivateCupsd cups;
-  cups.addQueue(
-      "tav", place.write("a.ppd", ppdText({paperTypeOption()}, {"*cupsFilter2: \"application/pdf "
-                                                                "application/pdf 0 -\""})));
+  cups.addPlainQueue("tav");
   JobRunner runner;
   JobRequest request;
   request.printer = "tav";

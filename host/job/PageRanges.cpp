@@ -42,7 +42,7 @@ Result<Range> range(const QString& text) {
   const auto last = page(ends.back(), kLastPage);
   if (ends.size() > 2 || !first || *first == 0 || !last || (ends.back().isEmpty() && !open))
     return failure(
-        say("“%1” is no page or range of pages. Write them like this: 1-3,5.").arg(text));
+        say("“%1” is not a page or a range of pages. Write them like this: 1-3,5.").arg(text));
   if (*last < *first)
     return failure(
         say("The range “%1” ends before it begins. Write the lower page first.").arg(text));

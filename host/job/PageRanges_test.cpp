@@ -25,7 +25,7 @@ TEST(PageRanges, ArePutInOrderWithoutOverlaps) {
 
 TEST(PageRanges, ThatMeanNoPagesAreNamed) {
   for (const char* text : {"1-3,x", "0", "-3", "1-2-3", "1,,2", "1.5", "+1", "99999999999", "-"})
-    EXPECT_NE(checked(text).find("is no page or range of pages"), std::string::npos) << text;
+    EXPECT_NE(checked(text).find("is not a page or a range of pages"), std::string::npos) << text;
   for (const char* text : {"1 3", "1-2 5", "1, 2 3"})
     EXPECT_NE(checked(text).find("has no comma between two pages"), std::string::npos) << text;
   EXPECT_NE(checked("x7").find("“x7”"), std::string::npos);

@@ -6,15 +6,9 @@
 #include <mutex>
 #include <span>
 
-#include "host/support/Cancellation.h"
-#include "platform/text/Result.h"
+#include "host/support/Cancellable.h"
 
 namespace tavrin {
-
-// Reads the next bytes of an open file, with a wait that ends when it is cancelled. Their number;
-// 0 at the end and once cancelled. The reason, the rest of a sentence about the file, when reading
-// fails.
-Result<std::size_t> readWhenThere(int descriptor, std::span<char> buffer, const CancelFlag& cancel);
 
 // A pipe that can be read again from its start: what has come is kept in a nameless temporary
 // file, so that a job that failed can be sent once more. Where there is no room for that, it can
@@ -26,16 +20,18 @@ class RereadableInput {
   // The program's standard input.
   static RereadableInput& standardInput();
 
-  // Reads the bytes that follow the first `offset` bytes, as far as they have come; waits when
-  // none have. As readWhenThere; the reason also when bytes are wanted again that were not kept.
-  Result<std::size_t> read(std::uint64_t offset, std::span<char> buffer, const CancelFlag& cancel);
+  // Reads the bytes that follow the first `offset` bytes, as readWhenThere does. The reason also
+  // when bytes are wanted again that were not kept.
+  Cancellable<std::size_t> read(std::uint64_t offset, std::span<char> buffer,
+                                const CancelFlag& cancel);
 
  private:
   struct Close {
     void operator()(std::FILE* file) const { std::fclose(file); }
   };
 
-  Result<std::size_t> readOn(std::span<char> buffer, const CancelFlag& cancel);
+  Cancellable<std::size_t> readOn(std::span<char> buffer, const CancelFlag& cancel);
+  Cancellable<std::size_t> readAgain(std::uint64_t offset, std::span<char> buffer) const;
   void keep(std::span<const char> bytes);
 
   std::mutex mutex;

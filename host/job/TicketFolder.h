@@ -2,19 +2,20 @@
 
 #include <filesystem>
 
-#include "host/job/JobSubmitter.h"
+#include "host/job/JobRequest.h"
+#include "host/job/Progress.h"
+#include "host/support/Cancellable.h"
 
 namespace tavrin {
 
 // Prints on a printer that has no queue: the job becomes a new folder in the output folder, with
-// the document under its own name and "ticket.json" (title, copies, page ranges, options, the
-// equivalent lp command). The folder appears whole or not at all; nothing that is there is
-// overwritten. Gives the folder, an empty path once cancelled; the reason names what could not be
-// read or written.
-Result<std::filesystem::path> writeTicketFolder(const std::filesystem::path& output,
-                                                const JobRequest& request,
-                                                const OptionList& options,
-                                                const CancelFlag& cancel = neverCancelled(),
-                                                const ProgressCallback& progress = {});
+// the document under its own name and "ticket.json" (ticketText). The folder appears whole or not
+// at all; nothing that is there is overwritten. Gives the folder; the reason names what could not
+// be read or written.
+Cancellable<std::filesystem::path> writeTicketFolder(const std::filesystem::path& output,
+                                                     const JobRequest& request,
+                                                     const OptionList& options,
+                                                     const CancelFlag& cancel = neverCancelled(),
+                                                     const ProgressCallback& progress = {});
 
 }  // namespace tavrin

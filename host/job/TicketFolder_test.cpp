@@ -1,8 +1,5 @@
 #include "host/job/TicketFolder.h"
 
-#include <sys/stat.h>
-#include <thread>
-
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -12,63 +9,6 @@ namespace tavrin {
 namespace {
 
 namespace fs = std::filesystem;
-
-TEST(Document, KnowsFormatsByTheirFirstBytes) {
-  EXPECT_EQ(formatOf("%PDF-1.4"), "application/pdf");
-  EXPECT_EQ(formatOf("\r\n\n%PDF-1.4"), "application/pdf");
-  EXPECT_EQ(formatOf("\n"), "text/plain");
-  EXPECT_EQ(formatOf("%!PS-Adobe"), "application/postscript");
-  EXPECT_EQ(formatOf("\xFF\xD8\xFF\xE0"), "image/jpeg");
-  EXPECT_EQ(formatOf("\x89PNG\r\n\x1A\n..."), "image/png");
-  EXPECT_EQ(formatOf("GIF89a"), "image/gif");
-  EXPECT_EQ(formatOf(std::string_view("MM\0*", 4)), "image/tiff");
-  EXPECT_EQ(formatOf("P6 4 4 255 "), "image/x-portable-anymap");
-  EXPECT_EQ(formatOf("Dear Ada,\r\n\tgr\xC3\xBC\xC3\x9F dich\n"), "text/plain");
-  EXPECT_EQ(formatOf(std::string_view("PK\3\4\0\0", 6)), "application/octet-stream");
-  EXPECT_EQ(formatOf(""), "application/octet-stream");
-}
-
-class DocumentTest : public testing::Test {
- protected:
-  std::string problem(const fs::path& file) const {
-    const auto document = Document::open(file);
-    return document ? "" : document.reason();
-  }
-
-  test::TemporaryFolder place;
-};
-
-TEST_F(DocumentTest, ReadsAFileToItsEnd) {
-  const std::string text(100000, 'x');
-  auto document = Document::open(place.write("a.txt", text));
-  ASSERT_TRUE(document) << document.reason();
-  EXPECT_EQ(document->name(), "a.txt");
-  EXPECT_EQ(document->format(), "text/plain");
-  EXPECT_EQ(document->size(), text.size());
-  std::string read;
-  std::string buffer(700, '\0');
-  for (std::size_t bytes; (bytes = *document->read(buffer, neverCancelled())) > 0;)
-    read.append(buffer, 0, bytes);
-  EXPECT_EQ(read, text);
-}
-
-TEST_F(DocumentTest, SaysWhatCannotBePrinted) {
-  EXPECT_EQ(problem("/nowhere/a.pdf"),
-            "The document \"/nowhere/a.pdf\" cannot be read: No such file or directory.");
-  EXPECT_EQ(problem("/usr"), "The document \"/usr\" is a folder, not a file.");
-  EXPECT_EQ(problem("/dev/zero"), "The document \"/dev/zero\" is a device, not a file.");
-  const fs::path empty = place.write("empty.pdf", "");
-  EXPECT_EQ(problem(empty), "The document \"" + empty.string() + "\" is empty.");
-}
-
-TEST_F(DocumentTest, StopsWaitingForAFIFOOnceCancelled) {
-  const fs::path fifo = place.path() / "fifo";
-  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-  CancelFlag cancel = false;
-  std::thread canceller([&] { cancel = true; });
-  (void)Document::open(fifo, cancel);
-  canceller.join();
-}
 
 class TicketFolderTest : public testing::Test {
  protected:
@@ -150,8 +90,7 @@ TEST_F(TicketFolderTest, LeavesNothingBehindWhenCancelled) {
   CancelFlag cancel = false;
   const auto folder =
       writeTicketFolder(output, request, options, cancel, [&](const Progress&) { cancel = true; });
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_TRUE(folder->empty());
+  EXPECT_TRUE(folder.cancelled());
   EXPECT_EQ(entries(), 0u);
 }
 

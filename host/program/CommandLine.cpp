@@ -38,7 +38,7 @@ JobRequest jobFrom(const QCommandLineParser& parser) {
   if (parser.isSet(kCopies)) job.copies = copiesFrom(parser.value(kCopies));
   job.title = parser.value(kTitle).toStdString();
   for (const QString& text : parser.values(kOption))
-    for (const auto& [name, value] : parseOptions(text.toStdString()))
+    for (const auto& [name, value] : optionsFromArgument(text.toStdString()))
       setOption(job.options, name, value);
   // Said outright, one copy too goes before what is saved for the printer.
   if (parser.isSet(kCopies)) setOption(job.options, kCopiesOption, std::to_string(job.copies));

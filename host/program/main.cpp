@@ -59,7 +59,7 @@ void complainAndLeave(QtMsgType type, const QMessageLogContext&, const QString& 
 // not looked at before it is printed.
 std::string documentProblem(const std::filesystem::path& document) {
   if (document == "-") return {};
-  const Result<Document> opened = Document::open(document);
+  const auto opened = Document::open(document);
   return opened ? "" : opened.reason();
 }
 

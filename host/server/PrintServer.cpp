@@ -26,15 +26,15 @@ struct PrintServer::Watch {
   const CancelFlag& cancel;
   Patience patience;
   Clock::time_point deadline = {};
-  bool gaveUp = false;
+  bool ranOut = false;
 
   void restart() { deadline = Clock::now() + patience; }
 
   // libcups asks this whenever nothing has come for a while; 0 makes it give up.
   static int keepWaiting(http_t*, void* data) {
     auto& watch = *static_cast<Watch*>(data);
-    watch.gaveUp = watch.gaveUp || Clock::now() >= watch.deadline;
-    return watch.gaveUp || watch.cancel ? 0 : 1;
+    watch.ranOut = watch.ranOut || Clock::now() >= watch.deadline;
+    return watch.ranOut || watch.cancel ? 0 : 1;
   }
 };
 
@@ -48,7 +48,8 @@ PrintServer& PrintServer::operator=(PrintServer&& other) noexcept {
   return *this;
 }
 
-Result<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience patience) {
+Cancellable<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience patience) {
+  if (cancel) return Cancelled{};
   PrintServer server(std::make_unique<Watch>(Watch{cancel, patience}));
   server.watch->restart();
   server.connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
@@ -64,21 +65,21 @@ Result<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience pati
 }
 
 void PrintServer::refresh() { watch->restart(); }
-bool PrintServer::cancelled() const { return watch->cancel; }
-bool PrintServer::ranOut() const { return watch->gaveUp; }
 
-Failure PrintServer::failure(const std::string& what) const {
-  if (cancelled()) return {what + ": cancelled."};
-  if (ranOut())
-    return {what + ": the print server at " + cupsServer() +
-            " does not answer. Check that it runs, then try again."};
+bool PrintServer::gaveUp() const { return watch->ranOut || watch->cancel; }
+
+NoValue PrintServer::noAnswer(const std::string& words) const {
+  if (watch->cancel) return Cancelled{};
+  if (watch->ranOut)
+    return Failure{words + ": the print server at " + cupsServer() +
+                   " does not answer. Check that it runs, then try again."};
   if (wantsPassword())
-    return {what +
-            ": the print server does not allow it, or wants a password. Ask whoever looks "
-            "after the printers, or print with lp, which can ask for the password."};
+    return Failure{words +
+                   ": the print server does not allow it, or wants a password. Ask whoever looks "
+                   "after the printers, or print with lp, which can ask for the password."};
   std::string reason = cupsLastErrorString();
   while (reason.ends_with('.')) reason.pop_back();
-  return {what + ": " + reason + "."};
+  return Failure{words + ": " + reason + "."};
 }
 
 }  // namespace tavrin

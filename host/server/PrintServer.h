@@ -3,20 +3,21 @@
 #include <memory>
 #include <string>
 
-#include "host/support/Cancellation.h"
-#include "platform/text/Result.h"
+#include "host/support/Cancellable.h"
 #include "ppd/CupsHandles.h"
 
 namespace tavrin {
 
+inline constexpr Patience kUsualPatience = std::chrono::seconds(4);
+
 // A connection of one's own to the print server. libcups' own connection waits for minutes for a
-// server that accepts and says nothing; this one gives up when its patience is over or when it is
-// cancelled, whichever comes first.
+// server that accepts and says nothing; this one gives up soon after its patience is over, and
+// within about 3 seconds once it is cancelled.
 class PrintServer {
  public:
   // Connects to the server that the environment and the configuration of the print system name.
   // Takes no longer than the patience. The flag must outlive the connection.
-  static Result<PrintServer> connect(const CancelFlag& cancel, Patience patience);
+  static Cancellable<PrintServer> connect(const CancelFlag& cancel, Patience patience);
   ~PrintServer();
   PrintServer(PrintServer&&) noexcept;
   PrintServer& operator=(PrintServer&&) noexcept;
@@ -24,12 +25,12 @@ class PrintServer {
   http_t* http() const { return connection.get(); }
   // The patience starts anew: the server has shown that it lives.
   void refresh();
-  bool cancelled() const;
-  // Whether the server was given up.
-  bool ranOut() const;
-  // Why the last request failed: the print server's silence, or what libcups says of the request
-  // that the words name ("The printer \"x\" could not be read").
-  Failure failure(const std::string& what) const;
+  // Whether the last request ended early: the patience is over, or it was cancelled.
+  bool gaveUp() const;
+  // Why the last request has no answer. A reason begins with the words, which say what did not come
+  // about ("The printer \"x\" cannot be read"), and goes on with the print server's silence or
+  // what libcups says of the request.
+  NoValue noAnswer(const std::string& words) const;
 
  private:
   struct Watch;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -9,14 +8,13 @@
 
 #include "host/server/Destinations.h"
 #include "host/support/Background.h"
-
-// The print server's printers (Destinations.h) for a window that must not wait.
+#include "ppd/CupsHandles.h"
 
 namespace tavrin {
 
-// Looks for printers without holding up the window. Every request is answered by exactly one
-// signal, later, unless the browser is gone by then; answers to several requests may come in any
-// order, and each names its queue.
+// The print server's printers for a window that must not wait. Every request is answered by exactly
+// one signal, later, unless the browser is gone by then; answers to several requests may come in
+// any order, and each names its queue.
 class PrinterBrowser : public QObject {
   Q_OBJECT
 
@@ -37,6 +35,10 @@ class PrinterBrowser : public QObject {
   void stateFailed(const std::string& queue, const QString& reason);
 
  private:
+  // Makes a call in the background, then takes its value or the reason of its failure.
+  template <class Value, class Call, class Take, class Complain>
+  void ask(Call call, Take take, Complain complain);
+
   Background background;
 };
 

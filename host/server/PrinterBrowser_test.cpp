@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "tests/fakes/FakePPD.h"
 #include "tests/fixtures/EventLoopTest.h"
 #include "tests/servers/PrivateCupsd.h"
 
@@ -11,13 +10,8 @@ namespace {
 
 class PrinterBrowserTest : public EventLoopTest {
  protected:
-  PrinterBrowserTest() {
-    cups.addQueue(
-        "tav", place.write("a.ppd", ppdText({paperTypeOption()}, {"*cupsFilter2: \"application/pdf "
-                                                                  "application/pdf 0 -\""})));
-  }
+  PrinterBrowserTest() { cups.addPlainQueue("tav"); }
 
-  test::TemporaryFolder place;
   PrivateCupsd cups;
 };
 

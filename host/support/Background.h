@@ -9,8 +9,8 @@
 
 namespace tavrin {
 
-// Runs work that may wait for somebody else away from the user-interface thread. Its destructor
-// tells the work to give up and goes on at once, however stuck the work is: the work's answer is
+// Runs work that may wait for somebody else, so that the user-interface thread need not. The
+// destructor tells the work to give up and does not wait for it, however stuck it is; the answer is
 // then dropped.
 class Background {
  public:

@@ -14,7 +14,7 @@ auto named(const std::string& name) {
 
 }  // namespace
 
-OptionList parseOptions(const std::string& argument) {
+OptionList optionsFromArgument(const std::string& argument) {
   CupsOptions parsed;
   parsed.parse(argument);
   return parsed.list();

@@ -16,7 +16,7 @@ using OptionList = std::vector<std::pair<std::string, std::string>>;
 
 // The options in the argument of one "-o": several may be separated by blanks, values may be
 // quoted, "name" and "noname" stand for true and false.
-OptionList parseOptions(const std::string& argument);
+OptionList optionsFromArgument(const std::string& argument);
 
 // The option's value; absent when it is not there.
 OptString optionValue(const OptionList& options, const std::string& name);

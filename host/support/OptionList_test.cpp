@@ -6,11 +6,11 @@ namespace tavrin {
 namespace {
 
 TEST(OptionList, ReadsWhatFollowsAnO) {
-  EXPECT_EQ(parseOptions("MediaType=IronOn"), (OptionList{{"MediaType", "IronOn"}}));
-  EXPECT_EQ(parseOptions("a=1 b='two words' c"),
+  EXPECT_EQ(optionsFromArgument("MediaType=IronOn"), (OptionList{{"MediaType", "IronOn"}}));
+  EXPECT_EQ(optionsFromArgument("a=1 b='two words' c"),
             (OptionList{{"a", "1"}, {"b", "two words"}, {"c", "true"}}));
-  EXPECT_EQ(parseOptions("noMirror"), (OptionList{{"Mirror", "false"}}));
-  EXPECT_TRUE(parseOptions("").empty());
+  EXPECT_EQ(optionsFromArgument("noMirror"), (OptionList{{"Mirror", "false"}}));
+  EXPECT_TRUE(optionsFromArgument("").empty());
 }
 
 TEST(OptionList, KnowsAnOptionInAnyLetterCase) {

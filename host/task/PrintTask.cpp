@@ -258,7 +258,6 @@ void PrintTask::cancel() {
 }
 
 void PrintTask::finishSubmission(const Submission& submission) {
-  if (submission.cancelled) return giveBack();
   QStringList report{tr("Job %1-%2 was sent.").arg(shown(queueOfSession)).arg(submission.jobId)};
   QStringList missing;
   for (const std::string& option : submission.missingOptions) missing << shown(option);

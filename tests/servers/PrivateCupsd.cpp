@@ -2,23 +2,21 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstring>
 #include <functional>
 #include <signal.h>
 #include <spawn.h>
 #include <sstream>
 #include <stdexcept>
 #include <stdlib.h>
-#include <strings.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
 #include <cups/cups.h>
 
-#include "host/support/FileDescriptor.h"
+#include "platform/text/IgnoringCase.h"
+#include "tests/fakes/FakePPD.h"
+#include "tests/servers/LocalSocket.h"
 
 namespace tavrin {
 
@@ -55,7 +53,7 @@ DefaultAuthType None
 </Policy>
 )";
 
-// Looks again and again, for a bounded time, whether something has come true.
+// Waits for something to come true; throws when that takes too long.
 void waitUntil(const std::function<bool()>& done, const std::string& what) {
   const auto end = std::chrono::steady_clock::now() + kPatience;
   while (!done()) {
@@ -65,11 +63,8 @@ void waitUntil(const std::function<bool()>& done, const std::string& what) {
 }
 
 bool accepts(const fs::path& socketPath) {
-  sockaddr_un address{};
-  address.sun_family = AF_UNIX;
-  std::strncpy(address.sun_path, socketPath.c_str(), sizeof(address.sun_path) - 1);
-  const FileDescriptor probe(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-  return connect(probe.get(), reinterpret_cast<sockaddr*>(&address), sizeof(address)) == 0;
+  const LocalSocket probe;
+  return probe.connectTo(socketPath);
 }
 
 std::vector<std::string> splitOptions(const std::string& line) {
@@ -85,8 +80,7 @@ std::string nameOf(const std::string& option) {
   return option.starts_with("no") ? option.substr(2) : option;
 }
 
-}  // namespace
-
+// Starts a program with these arguments. Its process number.
 pid_t startProgram(const std::vector<std::string>& command) {
   std::vector<char*> arguments;
   arguments.reserve(command.size() + 1);
@@ -97,6 +91,8 @@ pid_t startProgram(const std::vector<std::string>& command) {
     throw std::runtime_error("cannot start " + command.front());
   return process;
 }
+
+}  // namespace
 
 PrivateCupsd::PrivateCupsd() {
   if (access(kServer, X_OK) != 0) throw std::runtime_error("cupsd is not installed");
@@ -123,8 +119,8 @@ void PrivateCupsd::writeConfiguration() const {
     fs::create_directories(top / name);
   for (const char* name : {"daemon", "notifier", "cgi-bin", "monitor", "filter"})
     fs::create_directory_symlink(fs::path("/usr/lib/cups") / name, top / "bin" / name);
-  // Only the owner may read it: a server that root has started then runs it as root, who may write
-  // to the folder.
+  // Readable by its owner alone, so that a server that root has started runs it as root, who may
+  // write to the folder.
   fs::permissions(scratch.write("bin/backend/capture", kBackEnd), fs::perms(0700));
   std::ostringstream files;
   files << "ServerRoot " << (top / "etc").string() << "\nStateDir " << (top / "run").string()
@@ -164,6 +160,13 @@ void PrivateCupsd::addQueue(const std::string& queue, const fs::path& ppd) const
   run({"lpadmin", "-p", queue, "-E", "-v", "capture:" + (folder() / "out").string(), "-P", ppd});
 }
 
+void PrivateCupsd::addPlainQueue(const std::string& queue) const {
+  addQueue(queue,
+           scratch.write(queue + ".ppd",
+                         ppdText({paperTypeOption(), mirrorOption(), printQualityOption()},
+                                 {"*cupsFilter2: \"application/pdf application/pdf 0 -\""})));
+}
+
 void PrivateCupsd::stopQueue(const std::string& queue) const { run({"cupsdisable", queue}); }
 
 bool PrivateCupsd::CapturedJob::has(const std::string& option) const {
@@ -172,7 +175,7 @@ bool PrivateCupsd::CapturedJob::has(const std::string& option) const {
 
 int PrivateCupsd::CapturedJob::named(const std::string& name) const {
   return static_cast<int>(std::count_if(options.begin(), options.end(), [&](const auto& option) {
-    return strcasecmp(nameOf(option).c_str(), name.c_str()) == 0;
+    return equalIgnoringCase(nameOf(option), name);
   }));
 }
 

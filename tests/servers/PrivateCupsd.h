@@ -10,9 +10,9 @@
 namespace tavrin {
 
 // A print server of a test's own, on a socket in a folder of its own, with a back end that writes
-// down what it gets. Needs cupsd, and no rights; without it it throws, so that no test passes that
-// did not print. While it lives, CUPS_SERVER names it and HOME is an empty folder; a thread that
-// has used libcups before it knows only the first of these.
+// down what it gets. Needs cupsd but no rights; throws where there is none, so that no test passes
+// that did not print. While it lives, CUPS_SERVER names it and HOME is an empty folder; a thread
+// that has used libcups before it knows only the first of these.
 class PrivateCupsd {
  public:
   PrivateCupsd();
@@ -22,6 +22,9 @@ class PrivateCupsd {
 
   // Makes a queue that prints into the capturing back end.
   void addQueue(const std::string& queue, const std::filesystem::path& ppd) const;
+  // The same with a PPD that hands PDF documents on as they are, and that has options for the paper
+  // type, mirroring and print quality.
+  void addPlainQueue(const std::string& queue) const;
   // Stops a queue; it goes on taking jobs.
   void stopQueue(const std::string& queue) const;
   // Runs one of the print system's commands against this server; throws when it fails.
@@ -52,8 +55,5 @@ class PrivateCupsd {
   test::TemporaryFolder scratch;
   pid_t server = -1;
 };
-
-// Starts a program with these arguments and returns its process number; throws when it cannot.
-pid_t startProgram(const std::vector<std::string>& command);
 
 }  // namespace tavrin

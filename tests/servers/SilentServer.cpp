@@ -2,20 +2,14 @@
 
 #include <cstdlib>
 #include <stdexcept>
-#include <sys/socket.h>
-#include <sys/un.h>
+#include <unistd.h>
 
 #include <cups/cups.h>
 
 namespace tavrin {
 
-SilentServer::SilentServer() : server(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-  sockaddr_un address{};
-  address.sun_family = AF_UNIX;
-  path().copy(address.sun_path, sizeof(address.sun_path) - 1);
-  if (bind(server.get(), reinterpret_cast<sockaddr*>(&address), sizeof(address)) != 0 ||
-      listen(server.get(), SOMAXCONN) != 0)
-    throw std::runtime_error("cannot listen at " + path());
+SilentServer::SilentServer() {
+  if (!socket.listenAt(path())) throw std::runtime_error("cannot listen at " + path());
   setenv("CUPS_SERVER", path().c_str(), 1);
   cupsSetServer(nullptr);  // libcups looks at the environment again
 }
@@ -23,12 +17,8 @@ SilentServer::SilentServer() : server(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC
 SilentServer::~SilentServer() { unsetenv("CUPS_SERVER"); }
 
 void SilentServer::stop() {
-  server.close();
+  socket.close();
   std::filesystem::remove(path());
-}
-
-FileDescriptor SilentServer::nextCaller() const {
-  return FileDescriptor(accept(server.get(), nullptr, nullptr));
 }
 
 bool SilentServer::readByte(const FileDescriptor& caller) {

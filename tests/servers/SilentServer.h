@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "host/support/FileDescriptor.h"
 #include "tests/fixtures/TemporaryFolder.h"
+#include "tests/servers/LocalSocket.h"
 
 namespace tavrin {
 
@@ -14,24 +14,23 @@ class SilentServer {
   ~SilentServer();
 
   std::string path() const { return (folder.path() / "cups.sock").string(); }
-  // Waits for somebody to come, then for the first byte and until they hang up; calls the function
-  // in between.
+  // Waits for somebody to come, calls the function when their first byte is there, and waits until
+  // they hang up.
   template <class Function>
   void receive(Function onFirstByte) {
-    const FileDescriptor caller = nextCaller();
+    const FileDescriptor caller = socket.nextCaller();
     if (!readByte(caller)) return;
     onFirstByte();
     while (readByte(caller)) continue;
   }
-  // Goes away, as a print server that was stopped.
+  // Goes away like a print server that is stopped.
   void stop();
 
  private:
-  FileDescriptor nextCaller() const;
   static bool readByte(const FileDescriptor& caller);
 
   test::TemporaryFolder folder;
-  FileDescriptor server;
+  LocalSocket socket;
 };
 
 }  // namespace tavrin

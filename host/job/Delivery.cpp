@@ -1,0 +1,85 @@
+#include "host/job/Delivery.h"
+
+#include <array>
+
+#include "host/job/JobOptions.h"
+#include "host/server/IppRequest.h"
+#include "host/support/CupsOptions.h"
+#include "host/support/Sentences.h"
+
+namespace tavrin {
+
+namespace {
+
+// As lp has it: what the options say, else what the document looks like.
+std::string sentFormat(const JobRequest& request, const Document& document) {
+  if (const OptString raw = optionValue(request.options, kRawOption); raw && *raw != "false")
+    return "application/vnd.cups-raw";
+  return optionValue(request.options, kFormatOption).value_or(document.format());
+}
+
+}  // namespace
+
+OptionList optionsOfJob(OptionList options) {
+  for (const char* name : {kFormatOption, kRawOption}) removeOption(options, name);
+  return options;
+}
+
+// libcups' own call looks for the printer first, in a way that waits for minutes for a silent
+// server.
+Cancellable<int> Delivery::create(const OptionList& options) {
+  IppPtr creation = printerRequest(IPP_OP_CREATE_JOB, request.printer);
+  ippAddString(creation.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+               jobTitle(request).c_str());
+  const CupsOptions array(options);
+  for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION})
+    cupsEncodeOptions2(creation.get(), array.count(), array.data(), group);
+  const IppPtr answer = ask(server.http(), std::move(creation));
+  jobId = answer ? integerIn(*answer, "job-id") : 0;
+  if (jobId == 0) return noAnswer();
+  return jobId;
+}
+
+Cancellable<Done> Delivery::send(Document& document, const CancelFlag& cancel,
+                                 const ProgressCallback& progress) {
+  if (!startDocument(document)) return noAnswer();
+  if (auto sent = sendBytes(document, cancel, progress); !sent) return sent;
+  server.refresh();
+  const IppPtr answer(cupsGetResponse(server.http(), "/"));
+  if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) return noAnswer();
+  return Done{};
+}
+
+bool Delivery::startDocument(const Document& document) {
+  const IppPtr start = printerRequest(IPP_OP_SEND_DOCUMENT, request.printer);
+  ippAddInteger(start.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+  ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+               document.name().c_str());
+  ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, kFormatOption, nullptr,
+               sentFormat(request, document).c_str());
+  ippAddBoolean(start.get(), IPP_TAG_OPERATION, "last-document", 1);
+  return cupsSendRequest(server.http(), start.get(), "/", CUPS_LENGTH_VARIABLE) ==
+         HTTP_STATUS_CONTINUE;
+}
+
+Cancellable<Done> Delivery::sendBytes(Document& document, const CancelFlag& cancel,
+                                      const ProgressCallback& progress) {
+  std::array<char, 65536> buffer;
+  for (Progress sent{0, document.size()};;) {
+    const auto bytes = document.read(buffer, cancel);
+    if (!bytes) return bytes.why();
+    if (*bytes == 0) return Done{};
+    server.refresh();  // it was the document that kept it waiting
+    if (cupsWriteRequestData(server.http(), buffer.data(), *bytes) != HTTP_STATUS_CONTINUE)
+      return noAnswer();
+    sent.done += *bytes;
+    if (progress) progress(sent);
+  }
+}
+
+NoValue Delivery::noAnswer() const {
+  return server.noAnswer(inQuotes(jobTitle(request)) + " could not be printed on " +
+                         inQuotes(request.printer));
+}
+
+}  // namespace tavrin

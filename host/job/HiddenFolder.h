@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+
+namespace tavrin {
+
+// A new hidden folder that goes away with everything in it, unless it is kept under a name: so that
+// others see it whole or not at all. Every failure leaves its reason in errno.
+class HiddenFolder {
+ public:
+  explicit HiddenFolder(const std::filesystem::path& parent);
+  HiddenFolder(const HiddenFolder&) = delete;
+  HiddenFolder& operator=(const HiddenFolder&) = delete;
+  ~HiddenFolder();
+
+  // False when it could not be made, and once it is kept.
+  explicit operator bool() const { return !folder.empty(); }
+  const std::filesystem::path& path() const { return folder; }
+
+  // Gives the folder its name, and others the access that they have to the user's other folders.
+  // False when there is something of that name already (EEXIST), or on failure.
+  bool keepAs(const std::filesystem::path& name);
+
+ private:
+  std::filesystem::path folder;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "host/server/PrinterState.h"
+#include "host/support/OptionList.h"
+
+namespace tavrin {
+
+// A printer that a person can pick: a queue, or an instance of one.
+struct Printer {
+  std::string name;
+  std::string instance;  // empty for the queue itself
+  bool isDefault = false;
+  std::string info;      // what the queue says that it is; may be empty
+  std::string location;  // may be empty
+  PrinterState state;
+  OptionList options;  // the options that the person or the administrator keeps for it
+};
+
+// "queue" or "queue/instance", as on lp's command line.
+std::string destinationName(const std::string& queue, const std::string& instance);
+std::string destinationName(const Printer& printer);
+
+}  // namespace tavrin

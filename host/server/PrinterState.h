@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tavrin {
+
+// What a printer is doing, as the print server last said.
+struct PrinterState {
+  enum class Activity { unknown, idle, printing, stopped };
+
+  Activity activity = Activity::unknown;
+  bool acceptsJobs = true;
+  std::vector<std::string> reasons;  // keywords such as "media-empty-warning"; "none" left out
+  std::string message;               // the server's words; often empty
+};
+
+// The activity for a value of IPP's "printer-state".
+PrinterState::Activity activityFrom(int ippState);
+
+// The keywords of a "printer-state-reasons", which are separated by commas; without "none".
+std::vector<std::string> reasonsFrom(const std::string& list);
+
+// The state in words for the screen: "Idle", "Stopped: media empty", "Idle, not accepting jobs".
+std::string stateText(const PrinterState& state);
+
+}  // namespace tavrin

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What sentences for people are made of.
+
+namespace tavrin {
+
+// A name as a sentence shows it.
+inline std::string inQuotes(std::string_view name) { return '"' + std::string(name) + '"'; }
+
+// The words with the separator between them.
+inline std::string joined(const std::vector<std::string>& words,
+                          std::string_view separator = ", ") {
+  std::string text;
+  for (const std::string& word : words) {
+    if (!text.empty()) text += separator;
+    text += word;
+  }
+  return text;
+}
+
+}  // namespace tavrin
