@@ -6,6 +6,7 @@
 
 #include "host/panes/Pane.h"
 #include "host/printer/PPDMarks.h"
+#include "host/printer/PPDSections.h"
 
 class QComboBox;
 class QVBoxLayout;

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "host/panes/Widgets.h"
+#include "host/printer/PPDSections.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {

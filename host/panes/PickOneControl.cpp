@@ -1,6 +1,7 @@
 #include "host/panes/PickOneControl.h"
 
 #include "host/panes/Widgets.h"
+#include "host/printer/PPDSections.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {

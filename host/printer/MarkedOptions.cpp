@@ -1,8 +1,9 @@
 #include "host/printer/MarkedOptions.h"
 
-#include <algorithm>
+#include <ranges>
 
 #include "host/support/CupsOptions.h"
+#include "host/support/Sentences.h"
 #include "platform/text/IgnoringCase.h"
 #include "ppd/PPDRecords.h"
 
@@ -11,14 +12,6 @@ namespace {
 
 constexpr std::string_view kCustom = "Custom";
 constexpr std::string_view kInstalledGroup = "InstallableOptions";
-
-// Every choice that is marked, separated by commas where many can be.
-std::string markedChoices(const ppd_option_t& option) {
-  std::string marked;
-  for (const ppd_choice_t& choice : choicesOf(option))
-    if (choice.marked) marked += (marked.empty() ? "" : ",") + std::string(choice.choice);
-  return marked;
-}
 
 void appendMarked(const ppd_group_t& group, OptionList& options) {
   if (isInstalledOptions(group.name)) return;
@@ -30,14 +23,11 @@ void appendMarked(const ppd_group_t& group, OptionList& options) {
   for (const ppd_group_t& inner : subgroupsOf(group)) appendMarked(inner, options);
 }
 
-// Several choices of an option where many can be picked; all of them must be known.
+// For an option where many choices can be picked; false when one of them is unknown.
 bool markEach(ppd_file_t& ppd, const ppd_option_t& option, const std::string& value) {
   bool known = true;
-  for (std::size_t start = 0; start <= value.size();) {
-    const std::size_t end = std::min(value.find(',', start), value.size());
-    known = markChoice(&ppd, option.keyword, value.substr(start, end - start)) && known;
-    start = end + 1;
-  }
+  for (const auto choice : std::views::split(value, ','))
+    known = markChoice(&ppd, option.keyword, {choice.begin(), choice.end()}) && known;
   return known;
 }
 
@@ -86,6 +76,13 @@ void unmark(ppd_file_t& ppd, ppd_option_t& option) {
   }
 }
 
+std::string markedChoices(const ppd_option_t& option) {
+  std::vector<std::string> marked;
+  for (const ppd_choice_t& choice : choicesOf(option))
+    if (choice.marked) marked.emplace_back(choice.choice);
+  return joined(marked, ",");
+}
+
 OptionList markedOptions(ppd_file_t& ppd) {
   OptionList options;
   for (const ppd_group_t& group : groupsOf(ppd)) appendMarked(group, options);
@@ -100,8 +97,8 @@ std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options)
   for (const auto& [name, value] : options) {
     const ppd_option_t* option = ppdFindOption(&ppd, name.c_str());
     if (option && !markValue(ppd, *option, value))
-      problems.push_back("The printer's option \"" + std::string(option->keyword) +
-                         "\" has no choice \"" + value + "\".");
+      problems.push_back("The printer's option " + inQuotes(option->keyword) + " has no choice " +
+                         inQuotes(value) + ".");
   }
   return problems;
 }

@@ -15,15 +15,15 @@ namespace tavrin {
 // The PPD's option for the size of the paper.
 inline constexpr char kPaperSizeKeyword[] = "PageSize";
 
-// Its options for printing on both sides: makers of printer software agree on the meaning but not
-// on the name.
+// Its options for printing on both sides. Makers of printer software agree on what it means but not
+// on its name.
 inline constexpr std::array kTwoSidedKeywords{"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
 
 // The PPD's option for printing on both sides; null where it has none.
 const ppd_option_t* twoSidedOption(ppd_file_t& ppd);
 
-// Whether a group, by its keyword, holds what is installed in the printer: that is for the
-// administrator to say, and no part of a job.
+// Whether the group of this keyword says what is installed in the printer, which is for the
+// administrator to set and does not belong in a job.
 bool isInstalledOptions(const std::string& groupKeyword);
 
 // Whether a choice keyword stands for a value of the person's own ("Custom", "Custom.10x15cm").
@@ -35,6 +35,10 @@ bool markChoice(ppd_file_t* ppd, const std::string& key, const std::string& choi
 
 // Takes every mark of the option away.
 void unmark(ppd_file_t& ppd, ppd_option_t& option);
+
+// The keywords of the option's marked choices, with commas between them where there are several;
+// empty without a mark.
+std::string markedChoices(const ppd_option_t& option);
 
 // The PPD's marked choices as options, in the order of the file, without what is installed in the
 // printer.

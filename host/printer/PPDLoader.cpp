@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/support/FileDescriptor.h"
+#include "host/support/Sentences.h"
 #include "platform/text/Utf8.h"
 #include "ppd/PPDRecords.h"
 
@@ -18,7 +19,7 @@ namespace tavrin {
 namespace {
 
 Failure about(const std::string& name, const std::string& problem) {
-  return {"The printer description \"" + name + "\" " + problem + "."};
+  return {"The printer description " + inQuotes(name) + " " + problem + "."};
 }
 
 std::string megabytes(std::size_t bytes) { return std::to_string(bytes >> 20) + " MiB"; }

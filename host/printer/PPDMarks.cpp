@@ -1,52 +1,13 @@
 #include "host/printer/PPDMarks.h"
 
 #include <algorithm>
-#include <set>
-#include <string_view>
 
 #include "host/printer/MarkedOptions.h"
-#include "platform/text/IgnoringCase.h"
+#include "host/printer/PPDSections.h"
+#include "host/support/Sentences.h"
 #include "ppd/PPDRecords.h"
 
 namespace tavrin {
-
-namespace {
-
-void addSections(std::vector<PPDSection>& sections, const ppd_group_t& group,
-                 const std::string& above) {
-  PPDSection section{group.name, above + group.text, {}};
-  for (const ppd_option_t& option : optionsOf(group)) section.options.push_back(&option);
-  sections.push_back(section);
-  for (const ppd_group_t& inner : subgroupsOf(group))
-    addSections(sections, inner, section.title + ": ");
-}
-
-OptString joinedMarks(const ppd_option_t& option, const char* (*text)(const ppd_choice_t&)) {
-  OptString joined;
-  for (const ppd_choice_t& choice : choicesOf(option))
-    if (choice.marked) joined = joined ? *joined + ", " + text(choice) : text(choice);
-  return joined;
-}
-
-}  // namespace
-
-std::vector<PPDSection> sectionsOf(const ppd_file_t& ppd) {
-  std::vector<PPDSection> sections;
-  for (const ppd_group_t& group : groupsOf(ppd)) addSections(sections, group, "");
-  return sections;
-}
-
-std::vector<const ppd_choice_t*> pickableChoices(const ppd_option_t& option, ppd_file_t& ppd) {
-  const bool hasCustom = ppdFindCustomOption(&ppd, option.keyword) != nullptr;
-  std::vector<const ppd_choice_t*> choices;
-  std::set<std::string_view, LessIgnoringCase> seen;
-  for (const ppd_choice_t& choice : choicesOf(option)) {
-    const bool custom = hasCustom && isCustomChoice(choice.choice);
-    if (custom && !choice.marked) continue;
-    if (seen.insert(choice.choice).second) choices.push_back(&choice);
-  }
-  return choices;
-}
 
 PPDMarks::PPDMarks(ppd_file_t& ppd, QObject* parent) : QObject(parent), file(&ppd) {}
 
@@ -62,7 +23,10 @@ OptString PPDMarks::choice(const std::string& keyword) const {
 OptString PPDMarks::choiceText(const std::string& keyword) const {
   const ppd_option_t* found = option(keyword);
   if (!found) return std::nullopt;
-  return joinedMarks(*found, [](const ppd_choice_t& choice) -> const char* { return choice.text; });
+  std::vector<std::string> texts;
+  for (const ppd_choice_t& choice : choicesOf(*found))
+    if (choice.marked) texts.emplace_back(choice.text);
+  return texts.empty() ? std::nullopt : OptString(joined(texts));
 }
 
 bool PPDMarks::isMarked(const std::string& keyword, const std::string& choice) const {
@@ -104,22 +68,17 @@ std::vector<std::string> PPDMarks::conflictingOptions() const {
   return texts;
 }
 
-std::map<std::string, OptString> PPDMarks::snapshot() const {
-  std::map<std::string, OptString> marks;
+PPDMarks::Snapshot PPDMarks::snapshot() const {
+  Snapshot marks;
   for (const PPDSection& section : sectionsOf(*file))
     for (const ppd_option_t* option : section.options)
-      marks.emplace(option->keyword,
-                    joinedMarks(*option, [](const ppd_choice_t& marked) -> const char* {
-                      return marked.choice;
-                    }));
+      marks.emplace(option->keyword, markedChoices(*option));
   return marks;
 }
 
-void PPDMarks::tellDifferences(const std::map<std::string, OptString>& before) {
-  const auto now = snapshot();
-  for (const auto& [keyword, mark] : now)
-    if (const auto old = before.find(keyword); old == before.end() || old->second != mark)
-      emit changed(keyword, choice(keyword));
+void PPDMarks::tellDifferences(const Snapshot& before) {
+  for (const auto& [keyword, marked] : snapshot())
+    if (before.at(keyword) != marked) emit changed(keyword, choice(keyword));
   emit refreshed();
 }
 
