@@ -9,7 +9,6 @@ PanelHost::PanelHost(ppd_file_s* printerPPD, const PMPrintSettings* jobSettings,
     : ppd(printerPPD), settings(jobSettings), format(jobFormat) {}
 
 bool PanelHost::willChangePPDOptionKeyValue(const std::string& key, const OptString& ppdChoice) {
-  handovers.push_back({key, ppdChoice});
   const bool marked = ppdChoice && markChoice(ppd, key, *ppdChoice);
   if (onWillChange) onWillChange(key, ppdChoice);
   return marked;

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "platform/contract/PrintDialogExtension.h"
 
@@ -14,13 +13,6 @@ namespace tavrin {
 // and tells the dialog.
 class PanelHost final : public PDEPlugInCallback {
  public:
-  // Something that the panel handed over, as it did.
-  struct Handover {
-    std::string key;
-    OptString choice;
-    bool operator==(const Handover&) const = default;
-  };
-
   // Borrows all three for its life; each may be null.
   PanelHost(ppd_file_s* printerPPD, const PMPrintSettings* jobSettings,
             const PMPageFormat* jobFormat);
@@ -29,10 +21,6 @@ class PanelHost final : public PDEPlugInCallback {
   std::function<void(const std::string& key, const OptString& choice)> onWillChange;
   // Called when the panel's view has another size; may be empty.
   std::function<void()> onResize;
-
-  // All that was handed over since the host was made or this was last forgotten, in order.
-  const std::vector<Handover>& handedOver() const { return handovers; }
-  void forgetHandedOver() { handovers.clear(); }
 
   ppd_file_s* ppdFile() override { return ppd; }
   const PMPrintSettings* printSettings() override { return settings; }
@@ -45,7 +33,6 @@ class PanelHost final : public PDEPlugInCallback {
   ppd_file_s* ppd;
   const PMPrintSettings* settings;
   const PMPageFormat* format;
-  std::vector<Handover> handovers;
 };
 
 }  // namespace tavrin

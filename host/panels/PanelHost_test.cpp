@@ -48,17 +48,15 @@ TEST_F(PanelHostTest, KeepsThePrintersOwnSpelling) {
   EXPECT_EQ(marked("MediaType"), "IronOn");
 }
 
-TEST_F(PanelHostTest, WritesDownButDoesNotMarkWhatThePrinterLacks) {
+TEST_F(PanelHostTest, TellsButDoesNotMarkWhatThePrinterLacks) {
   const OptString before = marked("MediaType");
+  int told = 0;
+  host.onWillChange = [&](const std::string&, const OptString&) { ++told; };
   EXPECT_FALSE(host.willChangePPDOptionKeyValue("MediaType", std::nullopt));
   EXPECT_FALSE(host.willChangePPDOptionKeyValue("MediaType", "Parchment"));
   EXPECT_FALSE(host.willChangePPDOptionKeyValue("Scent", "Rose"));
   EXPECT_EQ(marked("MediaType"), before);
-  const std::vector<PanelHost::Handover> expected{
-      {"MediaType", std::nullopt}, {"MediaType", "Parchment"}, {"Scent", "Rose"}};
-  EXPECT_EQ(host.handedOver(), expected);
-  host.forgetHandedOver();
-  EXPECT_TRUE(host.handedOver().empty());
+  EXPECT_EQ(told, 3);
 }
 
 TEST_F(PanelHostTest, WorksWithoutAPPD) {
@@ -72,25 +70,6 @@ TEST_F(PanelHostTest, TellsOfAnotherSize) {
   host.onResize = [&] { ++resizes; };
   host.panelViewDidResize();
   EXPECT_EQ(resizes, 1);
-}
-
-TEST(HostJob, KeepsSettingsByKey) {
-  HostPrintSettings settings;
-  EXPECT_EQ(settings.value(kPMLayoutColumns), std::nullopt);
-  settings.setValue(kPMLayoutColumns, "2");
-  EXPECT_EQ(settings.value(kPMLayoutColumns), "2");
-  settings.setValue(kPMLayoutColumns, std::nullopt);
-  EXPECT_EQ(settings.value(kPMLayoutColumns), std::nullopt);
-}
-
-TEST(HostJob, HasAPaperOnceItIsSet) {
-  HostPageFormat format;
-  EXPECT_EQ(format.paper(), nullptr);
-  format.setPaper("A4");
-  ASSERT_NE(format.paper(), nullptr);
-  EXPECT_EQ(format.paper()->ppdPaperName(), "A4");
-  format.setPaper(std::nullopt);
-  EXPECT_EQ(format.paper(), nullptr);
 }
 
 }  // namespace

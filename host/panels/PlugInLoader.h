@@ -12,19 +12,19 @@
 
 namespace tavrin {
 
-// The key of a bundle's Info.plist that holds the type of the panels that its plug-in makes.
+// The key in a bundle's Info.plist for the type of the panels that its plug-in makes; a bundle
+// without it is refused.
 inline constexpr char kPanelTypeKey[] = "TavrinPanelType";
 
 // A plug-in in this process. Its code stays until the process ends, so that nothing that it made
-// can outlive it.
+// outlives it.
 struct LoadedPlugIn {
   std::unique_ptr<const Bundle> bundle;
-  std::string panelType;                 // what Info.plist says
   std::unique_ptr<PDEPlugIn> principal;  // never null, knows its bundle
 };
 
 // Loads the plug-in of a bundle folder, runs its code and makes its principal object. The folder
-// is trusted to hold code that may run; it is refused all the same when anybody on the machine can
+// is trusted to hold code that may run, and yet it is refused when every user of the machine can
 // write to it. The reason names the bundle and what is wrong with it.
 Result<LoadedPlugIn> loadPlugIn(const std::filesystem::path& bundleFolder);
 

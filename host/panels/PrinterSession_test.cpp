@@ -58,13 +58,14 @@ TEST_F(PrinterSessionTest, NamesASavedChoiceThatThePrinterDoesNotHave) {
 }
 
 TEST_F(PrinterSessionTest, ShowsThePanelTheJobsPaperAndColumns) {
-  EXPECT_EQ(session.pageFormat().paper(), nullptr);
+  session.addPanels(FakePlugIn::loaded(diary));
+  EXPECT_EQ(panel().host.pageFormat()->paper(), nullptr);
   session.markAnew({});
   session.marks().choose("PageSize", "A4");
-  ASSERT_NE(session.pageFormat().paper(), nullptr);
-  EXPECT_EQ(session.pageFormat().paper()->ppdPaperName(), "A4");
+  ASSERT_NE(panel().host.pageFormat()->paper(), nullptr);
+  EXPECT_EQ(panel().host.pageFormat()->paper()->ppdPaperName(), "A4");
   session.setPagesPerSheet(6);
-  EXPECT_EQ(session.printSettings().value(kPMLayoutColumns), "3");
+  EXPECT_EQ(panel().host.printSettings()->value(kPMLayoutColumns), "3");
 }
 
 TEST_F(PrinterSessionTest, KnowsWhatThePanelClaims) {
@@ -82,11 +83,6 @@ TEST(PrinterSessionPlugIn, IsMissedInASentence) {
   EXPECT_NE(withExtension("/elsewhere/Nowhere.plugin").find("Nowhere.plugin"), std::string::npos);
   PrinterSession plain{SharedPPD(makePPD(fullPrinter()))};
   EXPECT_EQ(plain.loadPanels(), "");
-}
-
-TEST(LayoutColumns, GrowWithThePages) {
-  const std::vector<std::pair<int, int>> expected{{1, 1}, {2, 2}, {4, 2}, {6, 3}, {9, 3}, {16, 4}};
-  for (const auto& [pages, columns] : expected) EXPECT_EQ(layoutColumns(pages), columns) << pages;
 }
 
 }  // namespace

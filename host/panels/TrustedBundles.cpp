@@ -1,9 +1,10 @@
 #include "host/panels/TrustedBundles.h"
 
-#include <cstdlib>
-
+#include <QStandardPaths>
+#include <QString>
 #include <cups/ppd.h>
 
+#include "host/support/Sentences.h"
 #include "platform/files/FileName.h"
 
 namespace tavrin {
@@ -19,20 +20,12 @@ fs::path programFolder() {
   return fs::read_symlink("/proc/self/exe", error).parent_path();
 }
 
-// A relative path in these variables means nothing, as their definition says.
-fs::path absoluteFrom(const char* variable) {
-  const char* value = std::getenv(variable);
-  const fs::path path = value ? value : "";
-  return path.is_absolute() ? path : fs::path();
-}
-
+// Empty where the user's data folder is a relative path: what lies below the folder that the
+// program was started in is not the user's.
 fs::path userFolder() {
-  fs::path data = absoluteFrom("XDG_DATA_HOME");
-  if (data.empty()) {
-    const fs::path home = absoluteFrom("HOME");
-    if (!home.empty()) data = home / ".local" / "share";
-  }
-  return data.empty() ? data : data / "tavrin" / "plugins";
+  const fs::path data =
+      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
+  return data.is_absolute() ? data / "tavrin" / "plugins" : fs::path();
 }
 
 // The last component of what a PPD says, empty unless it is a bundle's plain name. A PPD may be
@@ -42,12 +35,6 @@ std::string bundleName(const std::string& extension) {
   const bool good =
       name.size() > sizeof(kSuffix) - 1 && name.ends_with(kSuffix) && isPlainFileName(name);
   return good ? name : std::string();
-}
-
-std::string listed(const std::vector<fs::path>& folders) {
-  std::string text;
-  for (const fs::path& folder : folders) text += (text.empty() ? "" : ", ") + folder.string();
-  return text;
 }
 
 }  // namespace
@@ -67,13 +54,15 @@ std::vector<fs::path> trustedPlugInFolders() {
 Result<fs::path> findPlugIn(const std::string& extension, const std::vector<fs::path>& folders) {
   const std::string name = bundleName(extension);
   if (name.empty())
-    return Failure{"\"" + extension + "\" names no plug-in: a plug-in's name ends in .plugin."};
+    return Failure{inQuotes(extension) + " names no plug-in: a plug-in's name ends in .plugin."};
+  std::vector<std::string> places;
   for (const fs::path& folder : folders) {
     std::error_code error;
     if (fs::is_directory(folder / name, error)) return folder / name;
+    places.push_back(folder.string());
   }
-  return Failure{"The plug-in \"" + name + "\" is not installed; it was looked for in " +
-                 listed(folders) + "."};
+  return Failure{"The plug-in " + inQuotes(name) + " is not installed; it was looked for in " +
+                 joined(places) + "."};
 }
 
 }  // namespace tavrin

@@ -6,6 +6,7 @@
 
 #include "host/printer/PPDLoader.h"
 #include "tests/fakes/FakePPD.h"
+#include "tests/fakes/FakePanel.h"
 #include "tests/fixtures/EventLoopTest.h"
 #include "tests/fixtures/TemporaryFolder.h"
 #include "tests/servers/PrivateCupsd.h"
@@ -139,7 +140,10 @@ TEST_F(PrintTaskTest, ShowsTheLayoutToThePanels) {
   PrintTask task(request());
   task.usePrinterWithoutQueue(printer(), place.path());
   task.fields().setPagesPerSheet(6);
-  EXPECT_EQ(task.session()->printSettings().value(kPMLayoutColumns), "3");
+  PanelDiary diary;
+  task.session()->addPanels(FakePlugIn::loaded(diary));
+  const auto& panel = static_cast<FakePanel&>(*task.session()->panels().front());
+  EXPECT_EQ(panel.host.printSettings()->value(kPMLayoutColumns), "3");
 }
 
 TEST_F(PrintTaskTest, LooksForPrintersAndReadsTheOneThatIsNamed) {

@@ -46,9 +46,9 @@ class FakePanel final : public PDEPanel {
   bool shouldShowHelp() override { return true; }
 
   OptString chosen = "IronOn";
+  PDEPlugInCallback& host;
 
  private:
-  PDEPlugInCallback& host;
   PanelDiary& diary;
 };
 
@@ -58,7 +58,7 @@ class FakePlugIn final : public PDEPlugIn {
   explicit FakePlugIn(PanelDiary& theDiary) : diary(theDiary) {}
 
   static LoadedPlugIn loaded(PanelDiary& diary) {
-    return {std::make_unique<Bundle>(), kPrintDialogPanelType, std::make_unique<FakePlugIn>(diary)};
+    return {std::make_unique<Bundle>(), std::make_unique<FakePlugIn>(diary)};
   }
 
   bool initWithBundle(const Bundle*) override { return true; }
