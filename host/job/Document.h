@@ -6,7 +6,7 @@
 #include <string>
 
 #include "host/support/Cancellable.h"
-#include "host/support/FileDescriptor.h"
+#include "platform/files/FileDescriptor.h"
 
 namespace tavrin {
 

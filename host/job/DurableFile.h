@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <span>
 
-#include "host/support/FileDescriptor.h"
+#include "platform/files/FileDescriptor.h"
 
 // Writing so that nothing is lost: what is not on the disk when a folder gets its name could be
 // missing after a power cut. Every failure leaves its reason in errno.

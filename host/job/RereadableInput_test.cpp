@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/support/FileDescriptor.h"
+#include "platform/files/FileDescriptor.h"
 
 namespace tavrin {
 namespace {

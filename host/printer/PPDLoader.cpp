@@ -9,8 +9,8 @@
 #include <unistd.h>
 #include <vector>
 
-#include "host/support/FileDescriptor.h"
 #include "host/support/Sentences.h"
+#include "platform/files/FileDescriptor.h"
 #include "platform/text/Utf8.h"
 #include "ppd/PPDRecords.h"
 

@@ -13,7 +13,7 @@
 #include "host/printer/PPDLoader.h"
 #include "host/program/CommandLine.h"
 #include "host/program/Samples.h"
-#include "host/support/FileDescriptor.h"
+#include "platform/files/FileDescriptor.h"
 #include "platform/files/RootFolder.h"
 #include "platform/qt/QtToolkit.h"
 #include "platform/qt/ShownText.h"

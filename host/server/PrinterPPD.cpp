@@ -6,8 +6,8 @@
 #include <unistd.h>
 
 #include "host/printer/PPDLoader.h"
-#include "host/support/FileDescriptor.h"
 #include "host/support/Sentences.h"
+#include "platform/files/FileDescriptor.h"
 
 namespace tavrin {
 

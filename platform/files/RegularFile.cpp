@@ -5,29 +5,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/files/FileDescriptor.h"
+
 namespace tavrin {
 namespace {
 
-class Descriptor {
- public:
-  explicit Descriptor(int opened) : number(opened) {}
-  ~Descriptor() {
-    if (number >= 0) close(number);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-
-  operator int() const { return number; }  // NOLINT(google-explicit-constructor)
-
- private:
-  int number;
-};
-
 // Fills the text from the file, which may have become shorter since its size was taken.
-bool fill(int descriptor, std::string& text) {
+bool fill(const FileDescriptor& file, std::string& text) {
   std::size_t have = 0;
   while (have < text.size()) {
-    const ssize_t got = read(descriptor, text.data() + have, text.size() - have);
+    const ssize_t got = read(file.get(), text.data() + have, text.size() - have);
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) return false;
     if (got == 0) break;
@@ -42,14 +29,14 @@ bool fill(int descriptor, std::string& text) {
 std::optional<std::string> readRegularFile(const std::filesystem::path& file, std::size_t limit) {
   // Without O_NONBLOCK the open itself would wait for somebody to write into a FIFO; a terminal
   // must not become the program's.
-  const Descriptor descriptor(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+  const FileDescriptor opened(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
   struct stat status = {};
-  if (descriptor < 0 || fstat(descriptor, &status) != 0) return std::nullopt;
+  if (!opened || fstat(opened.get(), &status) != 0) return std::nullopt;
   if (!S_ISREG(status.st_mode) || static_cast<std::size_t>(status.st_size) > limit) {
     return std::nullopt;
   }
   std::string text(static_cast<std::size_t>(status.st_size), '\0');
-  if (!fill(descriptor, text)) return std::nullopt;
+  if (!fill(opened, text)) return std::nullopt;
   return text;
 }
 

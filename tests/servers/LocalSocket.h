@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "host/support/FileDescriptor.h"
+#include "platform/files/FileDescriptor.h"
 
 namespace tavrin {
 
