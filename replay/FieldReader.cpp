@@ -1,6 +1,6 @@
 #include "replay/FieldReader.h"
 
-#include "replay/Quoted.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 

@@ -5,8 +5,8 @@
 #include <map>
 #include <set>
 
+#include "platform/text/Quoted.h"
 #include "replay/FieldReader.h"
-#include "replay/Quoted.h"
 
 namespace tavrin {
 namespace {

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "host/printer/MarkedOptions.h"
-#include "replay/Quoted.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 

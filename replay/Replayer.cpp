@@ -7,8 +7,8 @@
 #include <QApplication>
 
 #include "platform/files/Bundle.h"
+#include "platform/text/Quoted.h"
 #include "replay/PanelCommands.h"
-#include "replay/Quoted.h"
 
 namespace tavrin {
 namespace {

@@ -5,7 +5,7 @@
 #include <QSlider>
 #include <QWidget>
 
-#include "replay/Quoted.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 namespace {

@@ -18,6 +18,7 @@
 #include "platform/qt/QtSlider.h"
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtWindow.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -41,8 +42,6 @@ void onUserChange(Button& control, std::function<void()> body) {
 void onUserChange(Slider& control, std::function<void()> body) {
   static_cast<QtSlider&>(control).onUserChange(std::move(body));
 }
-
-std::string quoted(const std::string& name) { return "\"" + name + "\""; }
 
 // What the toolkit's own widgets are made of carries names, too.
 bool isOfTheFile(const QWidget& widget) {

@@ -1,4 +1,4 @@
-#include "replay/Quoted.h"
+#include "platform/text/Quoted.h"
 
 #include <string_view>
 
