@@ -51,20 +51,6 @@ PropertyList dictionaryOf(plist_t node) {
   return PropertyList(std::move(dictionary));
 }
 
-PropertyList arrayOf(plist_t node) {
-  PropertyList::Array array;
-  array.reserve(plist_array_get_size(node));
-  plist_array_iter position = nullptr;
-  plist_array_new_iter(node, &position);
-  const MemoryPtr<void> owner(position);
-  plist_t value = nullptr;
-  for (plist_array_next_item(node, position, &value); value != nullptr;
-       plist_array_next_item(node, position, &value)) {
-    array.push_back(valueOf(value));
-  }
-  return PropertyList(std::move(array));
-}
-
 // The recursion is as deep as the list, which the guard has limited.
 PropertyList valueOf(plist_t node) {
   switch (plist_get_node_type(node)) {
@@ -72,15 +58,12 @@ PropertyList valueOf(plist_t node) {
       return textOf(node);
     case PLIST_DICT:
       return dictionaryOf(node);
-    case PLIST_ARRAY:
-      return arrayOf(node);
     default:
       return {};
   }
 }
 
-// libplist would take other formats too, for which there is no guard; so the format is chosen
-// here and not there.
+// The format is chosen here and not by libplist, which would also take formats that nothing guards.
 NodePtr parse(std::string_view bytes) {
   constexpr std::string_view kBinaryMark = "bplist00";
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
