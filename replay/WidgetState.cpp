@@ -12,7 +12,7 @@
 #include <QSlider>
 #include <QWidget>
 
-#include "platform/qt/PanelLayout.h"
+#include "platform/qt/ViewFrames.h"
 #include "platform/qt/WidgetProperties.h"
 
 namespace tavrin {

@@ -15,8 +15,8 @@ EdgeRuler::EdgeRuler(double designWidth, double pixelsPerPoint, const std::vecto
   gapToWiden = stretchGap(spans);
 }
 
-// Left to right, every edge goes as far left as its spans and its distance to the edge before
-// allow: the longest path through the design.
+// From left to right, every edge goes as far left as its spans and its distance from the previous
+// edge allow: the longest path through the design.
 void EdgeRuler::solve(const std::vector<Span>& spans) {
   edges.front().pixel = edges.front().point * scale;
   for (std::size_t i = 1; i < edges.size(); ++i) {
@@ -28,7 +28,7 @@ void EdgeRuler::solve(const std::vector<Span>& spans) {
   }
 }
 
-// The gap under most stretching spans, the widest of several.
+// The gap that most stretching spans cover; of several, the widest.
 std::size_t EdgeRuler::stretchGap(const std::vector<Span>& spans) const {
   std::size_t best = edges.size() - 1;
   std::pair<long, double> bestRank{-1, 0};

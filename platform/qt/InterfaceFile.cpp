@@ -65,7 +65,7 @@ bool isAllowedText(QStringView text) {
   return !isNumber || (number >= -kNumberLimit && number <= kNumberLimit);
 }
 
-// A layout's stretches and least sizes are lists of numbers.
+// A layout's stretches and minimum sizes are lists of numbers.
 bool isAllowedAttribute(const QXmlStreamAttribute& attribute) {
   for (const QStringView part : attribute.value().split(u','))
     if (!isAllowedText(part)) return false;
@@ -92,7 +92,7 @@ bool isAllowedElement(const QXmlStreamReader& xml) {
   return isAllowedCell(attributes);
 }
 
-// Looks at an interface file piece by piece.
+// Checks an interface file piece by piece.
 class Inspection {
  public:
   explicit Inspection(const QByteArray& bytes) : xml(bytes) {}
@@ -120,7 +120,7 @@ class Inspection {
         if (xml.name() == u"widget") open.pop_back();
         return true;
       case QXmlStreamReader::Characters:
-        // A comment or a CDATA section cuts a text into pieces that the form builder joins again.
+        // A comment or a CDATA section splits a text into pieces that the form builder joins again.
         text += xml.text();
         return isAllowedText(text);
       default:

@@ -12,7 +12,7 @@ namespace tavrin {
 
 namespace {
 
-// A form builder that makes standard widgets only and loads no plug-ins.
+// A form builder that makes only standard widgets and loads no plug-ins.
 class StandardWidgetLoader : public QUiLoader {
  public:
   StandardWidgetLoader() { clearPluginPaths(); }

@@ -14,12 +14,12 @@ ModalRuns::ModalRuns() {
   if (QCoreApplication::instance()) QCoreApplication::instance()->installEventFilter(this);
 }
 
-// A program that quits closes its windows one by one, and a closing window stops its run: that
-// must not look as if the user had answered.
+// A program that quits closes its windows one by one, and a closing window stops its run. That must
+// not look as if the user had answered.
 bool ModalRuns::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Quit || watched != QCoreApplication::instance()) return false;
   quitting = true;
-  // When a window refuses to close, the program goes on after all.
+  // If a window refuses to close, the program goes on after all.
   QMetaObject::invokeMethod(
       this, [this] { quitting = false; }, Qt::QueuedConnection);
   return false;
@@ -31,7 +31,7 @@ void ModalRuns::end(Run& run) {
 }
 
 void ModalRuns::stop() {
-  // An OK handler stops its run, and its window stops it once more as it closes: a run that is over
+  // An OK handler stops its run, and its window stops it once more as it closes. A run that is over
   // stays the innermost one until it has returned, so that the runs around it go on.
   if (runs.empty() || runs.back()->over) return;
   runs.back()->stopped = !quitting;
@@ -60,7 +60,7 @@ bool ModalRuns::run(QtWindow& window) {
   if (!window.isUp()) window.display();
   handleEvents(run, window);
   const bool answered = run.stopped;
-  // Still in the list: what a delegate stops now is this run and not one around it.
+  // The run is still in the list: what a delegate stops now is this run, not one around it.
   if (!answered) window.close();
   window.onClosed({});
   std::erase(runs, &run);

@@ -13,7 +13,7 @@ namespace tavrin {
 class QtWindow;
 
 // The modal runs of the program, innermost last. A run is over when it is stopped, when its window
-// has gone without that, or when the program ends.
+// closes without that, or when the program ends.
 class ModalRuns : public QObject {
  public:
   ModalRuns();
@@ -22,7 +22,7 @@ class ModalRuns : public QObject {
   bool run(QtWindow& window);
   void stop();
 
-  // Who is told of every window that comes up modally, from inside its run.
+  // Called with every window that comes up modally, from inside its run; may be empty.
   std::function<void(QWidget&)> observer;
 
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -2,7 +2,8 @@
 
 #include <QAbstractButton>
 
-#include "platform/qt/QtView.h"
+#include "platform/qt/QtControl.h"
+#include "platform/toolkit/Controls.h"
 
 namespace tavrin {
 

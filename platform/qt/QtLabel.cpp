@@ -11,7 +11,7 @@ namespace tavrin {
 
 namespace {
 
-// Gives a button the clicks on its label.
+// Passes clicks on a label on to its button.
 class ClickForwarder : public QObject {
  public:
   explicit ClickForwarder(QLabel* owner) : QObject(owner), label(*owner) {}
@@ -45,7 +45,7 @@ QString asName(QString text) {
 
 }  // namespace
 
-QtLabel::QtLabel(QLabel& label) : QtViewOf(label) {
+QtLabel::QtLabel(QLabel& label) : QtLabelOf(label) {
   label.setTextFormat(Qt::PlainText);
   label.installEventFilter(makeChild<ClickForwarder>(&label));
 }
@@ -70,14 +70,6 @@ void QtLabel::nameBuddy() {
     if (label->buddy() == buddy && !text.isEmpty()) names << asName(shownLine(text.toStdString()));
   }
   buddy->setAccessibleName(names.join(QStringLiteral(", ")));
-}
-
-// A disabled label is drawn in the palette's disabled text colour, whatever the palette.
-void QtLabel::setTextColor(TextColor color) {
-  if (!widget) return;
-  const bool grey = color == TextColor::grey;
-  widget->setProperty(kTextColor, grey ? QStringLiteral("grey") : QStringLiteral("black"));
-  widget->setEnabled(!grey);
 }
 
 }  // namespace tavrin

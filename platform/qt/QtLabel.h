@@ -2,18 +2,17 @@
 
 #include <QLabel>
 
-#include "platform/qt/QtView.h"
+#include "platform/qt/QtLabelOf.h"
 
 namespace tavrin {
 
 // A label. The control that it names (its buddy in the interface file) takes its accessible name
-// from it; a label that names a button is clicked as that button.
-class QtLabel : public QtViewOf<Label, QLabel> {
+// from it; a click on a label that names a button clicks the button.
+class QtLabel : public QtLabelOf<QLabel> {
  public:
   explicit QtLabel(QLabel& label);
 
   void setStringValue(const std::string& text) override;
-  void setTextColor(TextColor color) override;
 
  private:
   void nameBuddy();

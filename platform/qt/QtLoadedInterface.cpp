@@ -1,6 +1,5 @@
 #include "platform/qt/QtLoadedInterface.h"
 
-#include <algorithm>
 #include <type_traits>
 #include <utility>
 
@@ -43,7 +42,7 @@ void onUserChange(Slider& control, std::function<void()> body) {
   static_cast<QtSlider&>(control).onUserChange(std::move(body));
 }
 
-// What the toolkit's own widgets are made of carries names, too.
+// The parts of the toolkit's own widgets have names, too.
 bool isOfTheFile(const QWidget& widget) {
   const QString name = widget.objectName();
   return !name.isEmpty() && !name.startsWith(QStringLiteral("qt_"));
@@ -65,7 +64,7 @@ std::shared_ptr<LoadedInterface> QtLoadedInterface::make(std::unique_ptr<QWidget
   return {whole.get(), [whole](LoadedInterface*) { whole->detach(); }};
 }
 
-// The widgets may be in the middle of telling us something: they go when that is over.
+// The widgets may be in the middle of sending a signal, so they are deleted afterwards.
 QtLoadedInterface::~QtLoadedInterface() {
   if (!root) return;
   root->hide();
@@ -92,7 +91,7 @@ void QtLoadedInterface::makeObjects() {
       continue;
     }
     place->second = makeObject(*widget);
-    bindActions(*widget, place->second);
+    bindAction(*widget, place->second);
   }
 }
 
@@ -121,32 +120,34 @@ QtLoadedInterface::Object QtLoadedInterface::makeObject(QWidget& widget) {
   return makeControl<QtView>(widget);
 }
 
-void QtLoadedInterface::bindActions(QWidget& widget, const Object& object) {
+void QtLoadedInterface::bindAction(const QWidget& widget, const Object& object) {
   const std::string selector = widget.property(kAction).toString().toStdString();
   if (selector.empty()) return;
+  const std::string control = quoted(widget.objectName().toStdString());
   const auto action = bindings.actions.find(selector);
   if (action == bindings.actions.end()) {
-    found.push_back(quoted(widget.objectName().toStdString()) + " carries the action " +
-                    quoted(selector) + ", which nobody offers.");
+    found.push_back(control + " carries the action " + quoted(selector) + ", which nobody offers.");
     return;
   }
-  usedActions.push_back(selector);
-  const bool fits = std::visit(
-      [&]<class Sender, class Given>(const std::function<void(Sender&)>& body, Given* control) {
-        if constexpr (std::is_same_v<Sender, Given>) {
-          onUserChange(*control, [this, body, control] {
-            const auto alive = shared_from_this();
-            if (!detached) body(*control);
-          });
-          return true;
-        } else {
-          return false;
-        }
-      },
-      action->second, object);
+  usedActions.insert(selector);
+  const bool fits =
+      std::visit([this](const auto& body, auto* sender) { return runOnChange(body, sender); },
+                 action->second, object);
   if (!fits)
     found.push_back("The action " + quoted(selector) + " does not fit the kind of control that " +
-                    quoted(widget.objectName().toStdString()) + " is.");
+                    control + " is.");
+}
+
+// False when the action is for another kind of control.
+template <class Sender, class Given>
+bool QtLoadedInterface::runOnChange(const std::function<void(Sender&)>& body, Given* control) {
+  constexpr bool fits = std::is_same_v<Sender, Given>;
+  if constexpr (fits)
+    onUserChange(*control, [this, body, control] {
+      const auto alive = shared_from_this();
+      if (!detached) body(*control);
+    });
+  return fits;
 }
 
 void QtLoadedInterface::connectOutlets() {
@@ -164,7 +165,7 @@ void QtLoadedInterface::connectOutlets() {
 
 void QtLoadedInterface::reportUnusedActions() {
   for (const auto& [selector, body] : bindings.actions)
-    if (std::find(usedActions.begin(), usedActions.end(), selector) == usedActions.end())
+    if (!usedActions.contains(selector))
       found.push_back("No control of the interface file carries the action " + quoted(selector) +
                       ".");
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <variant>
 #include <vector>
@@ -9,19 +11,20 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "platform/toolkit/Toolkit.h"
+#include "platform/toolkit/InterfaceBindings.h"
+#include "platform/toolkit/LoadedInterface.h"
 
 namespace tavrin {
 
 class QtWindow;
 
 // The widgets of one interface file, the objects on them, and their owner's bindings. Stays alive
-// while one of its actions runs, one of its windows is up in a modal run or is closing, whoever
-// lets go of it meanwhile.
+// while one of its actions runs, or one of its windows is in a modal run or closing, even if
+// everyone lets go of it in the meantime.
 class QtLoadedInterface : public LoadedInterface,
                           public std::enable_shared_from_this<QtLoadedInterface> {
  public:
-  // Connects the outlets that the file has objects for. The widgets are detached from the owner
+  // Connects the outlets for which the file has objects. The interface is detached from its owner
   // when the caller drops the answer.
   static std::shared_ptr<LoadedInterface> make(std::unique_ptr<QWidget> root,
                                                InterfaceBindings bindings);
@@ -40,7 +43,9 @@ class QtLoadedInterface : public LoadedInterface,
   template <class Wrapper, class Widget>
   Wrapper* makeControl(Widget& widget);
   Window* makeWindow(QWidget& widget);
-  void bindActions(QWidget& widget, const Object& object);
+  void bindAction(const QWidget& widget, const Object& object);
+  template <class Sender, class Given>
+  bool runOnChange(const std::function<void(Sender&)>& body, Given* control);
   void connectOutlets();
   void reportUnusedActions();
   void windowCloses();
@@ -51,7 +56,7 @@ class QtLoadedInterface : public LoadedInterface,
   std::vector<std::unique_ptr<View>> views;
   std::vector<std::unique_ptr<QtWindow>> windows;
   std::map<std::string, Object> objects;  // by object name
-  std::vector<std::string> usedActions;
+  std::set<std::string> usedActions;
   std::vector<std::string> found;  // problems
 };
 

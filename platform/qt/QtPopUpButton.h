@@ -2,11 +2,12 @@
 
 #include <QComboBox>
 
-#include "platform/qt/QtView.h"
+#include "platform/qt/QtControl.h"
+#include "platform/toolkit/Controls.h"
 
 namespace tavrin {
 
-// A pop-up on a combo box. Its action runs also when the user picks the item that is selected.
+// A pop-up on a combo box. Its action also runs when the user picks the selected item again.
 class QtPopUpButton : public QtControlOf<PopUpButton, QComboBox> {
  public:
   explicit QtPopUpButton(QComboBox& box);

@@ -2,11 +2,12 @@
 
 #include <QSlider>
 
-#include "platform/qt/QtView.h"
+#include "platform/qt/QtControl.h"
+#include "platform/toolkit/Controls.h"
 
 namespace tavrin {
 
-// A slider. Its action runs at every step of a drag, too.
+// A slider. Its action also runs at every step of a drag.
 class QtSlider : public QtControlOf<Slider, QSlider> {
  public:
   explicit QtSlider(QSlider& slider);

@@ -4,7 +4,7 @@
 
 namespace tavrin {
 
-QtTextLabel::QtTextLabel(QPlainTextEdit& text) : QtViewOf(text) {
+QtTextLabel::QtTextLabel(QPlainTextEdit& text) : QtLabelOf(text) {
   text.setReadOnly(true);
   text.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   text.setTabChangesFocus(true);
@@ -15,13 +15,6 @@ void QtTextLabel::setStringValue(const std::string& text) {
   if (!widget) return;
   widget->setProperty(kRawText, QByteArray::fromStdString(text));
   widget->setPlainText(shownText(text));
-}
-
-void QtTextLabel::setTextColor(TextColor color) {
-  if (!widget) return;
-  const bool grey = color == TextColor::grey;
-  widget->setProperty(kTextColor, grey ? QStringLiteral("grey") : QStringLiteral("black"));
-  widget->setEnabled(!grey);
 }
 
 }  // namespace tavrin

@@ -2,17 +2,16 @@
 
 #include <QPlainTextEdit>
 
-#include "platform/qt/QtView.h"
+#include "platform/qt/QtLabelOf.h"
 
 namespace tavrin {
 
 // A label for a longer text, which the user can scroll, select and copy.
-class QtTextLabel : public QtViewOf<Label, QPlainTextEdit> {
+class QtTextLabel : public QtLabelOf<QPlainTextEdit> {
  public:
   explicit QtTextLabel(QPlainTextEdit& text);
 
   void setStringValue(const std::string& text) override;
-  void setTextColor(TextColor color) override;
 };
 
 }  // namespace tavrin

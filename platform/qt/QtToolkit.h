@@ -10,8 +10,8 @@ class QWidget;
 
 namespace tavrin {
 
-// The toolkit on Qt Widgets. A program makes one after its QApplication, installs it, and takes it
-// away before it goes.
+// The toolkit on Qt Widgets. A program makes one after its QApplication, installs it, and
+// uninstalls it before it goes.
 class QtToolkit : public Toolkit {
  public:
   std::shared_ptr<LoadedInterface> loadInterface(const Bundle& bundle, const std::string& name,
@@ -23,12 +23,12 @@ class QtToolkit : public Toolkit {
   bool runModalForWindow(Window& window) override;
   void stopModal() override { runs.stop(); }
 
-  // Whom to tell of every window that comes up modally, from inside its run; none by default.
+  // Called with every window that comes up modally, from inside its run; nobody by default.
   void onModalWindow(std::function<void(QWidget&)> observer);
 
-  // The widget of a view, for a program to put into its own layout; null for a null object and
-  // once the widget has been deleted. It belongs to the interface that the view was loaded with:
-  // a program may give it a parent and delete that.
+  // The widget of a view, for a program to put into its own layout; null for a null object and once
+  // the widget has been deleted. It belongs to the interface that the view was loaded with, but a
+  // program may give it a parent and delete that.
   static QWidget* widgetOf(View& view);
 
  private:

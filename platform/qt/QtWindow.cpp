@@ -3,22 +3,22 @@
 #include <algorithm>
 #include <utility>
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QWindow>
 
+#include "platform/qt/ContentSize.h"
 #include "platform/qt/ShownText.h"
 
 namespace tavrin {
 
-// Turns every way of closing into QtWindow::close, past the dialog's own ways.
+// Turns every way of closing into QtWindow::close, bypassing the dialog's own.
 class QtWindow::Events : public QObject {
  public:
   explicit Events(QtWindow& owner) : window(owner) { owner.widget->installEventFilter(this); }
@@ -36,63 +36,6 @@ class QtWindow::Events : public QObject {
   QtWindow& window;
 };
 
-namespace {
-
-// Lines of this many average characters are read with ease.
-constexpr int kLineLength = 72;
-
-int lineWidth(const QWidget& text) { return text.fontMetrics().averageCharWidth() * kLineLength; }
-
-// A layout forgets its own measures only, not those of the layouts in it.
-void measureAnew(QLayout& layout) {
-  for (int i = 0; i < layout.count(); ++i)
-    if (QLayout* inner = layout.itemAt(i)->layout()) measureAnew(*inner);
-  layout.invalidate();
-}
-
-void wrapLines(const QList<QLabel*>& labels, bool wrap) {
-  for (QLabel* label : labels) label->setWordWrap(wrap);
-}
-
-// As wide as the longest line, within reason; lines that are longer wrap.
-int contentWidth(const QWidget& content, int widest) {
-  const QList<QLabel*> labels = content.findChildren<QLabel*>();
-  wrapLines(labels, false);
-  measureAnew(*content.layout());
-  const int width = content.layout()->totalSizeHint().width();
-  wrapLines(labels, true);
-  measureAnew(*content.layout());
-  return std::min(width, widest);
-}
-
-QSize contentSize(const QWidget& content, int widest) {
-  QLayout& layout = *content.layout();
-  const int width = contentWidth(content, widest);
-  const int height = layout.hasHeightForWidth() ? layout.totalHeightForWidth(width)
-                                                : layout.totalSizeHint().height();
-  return {width, std::max(height, layout.totalMinimumSize().height())};
-}
-
-// No more of a monstrous text is measured than a screen can show.
-QSize textSize(const QPlainTextEdit& text, int widest) {
-  const QString start = text.toPlainText().left(8000);
-  const QFontMetrics metrics = text.fontMetrics();
-  const QRect lines =
-      metrics.boundingRect(QRect(0, 0, widest, QWIDGETSIZE_MAX), Qt::TextWordWrap, start);
-  const int edge = 2 * (int(text.document()->documentMargin()) + text.frameWidth());
-  return {lines.width() + edge + 2 * metrics.averageCharWidth(),
-          lines.height() + edge + metrics.lineSpacing() / 2};
-}
-
-QSize scrolledSize(const QAbstractScrollArea& area, int widest) {
-  if (const auto* text = qobject_cast<const QPlainTextEdit*>(&area)) return textSize(*text, widest);
-  const auto* contents = qobject_cast<const QScrollArea*>(&area);
-  const bool isLaidOut = contents && contents->widget() && contents->widget()->layout();
-  return isLaidOut ? contentSize(*contents->widget(), widest) : area.sizeHint();
-}
-
-}  // namespace
-
 QtWindow::QtWindow(QDialog& dialog) : widget(&dialog), events(std::make_unique<Events>(*this)) {}
 
 QtWindow::~QtWindow() = default;
@@ -109,13 +52,13 @@ QWidget* QtWindow::coveredWindow() const {
   return nullptr;
 }
 
-// What scrolls is made large enough to show everything, as far as the screen has room. There is
-// always room for a scroll bar: lines that wrapped because of it would then call for it.
+// Scroll areas are made large enough to show everything, as far as the screen has room. Room for a
+// scroll bar is always left: lines that wrapped because of the bar would make it necessary.
 void QtWindow::fitScrolledContents(const QSize& room) {
   for (QAbstractScrollArea* area : widget->findChildren<QAbstractScrollArea*>()) {
     const QSize bar(area->verticalScrollBar()->sizeHint().width(), 0);
-    const int widest = std::min(room.width(), lineWidth(*widget)) - bar.width();
-    area->setMinimumSize((scrolledSize(*area, widest) + bar).boundedTo(room));
+    const int widest = std::min(room.width(), easyLineWidth(*widget)) - bar.width();
+    area->setMinimumSize((contentSize(*area, widest) + bar).boundedTo(room));
   }
 }
 
@@ -123,25 +66,33 @@ void QtWindow::center() {
   if (!widget) return;
   QWidget* covered = coveredWindow();
   const QScreen* screen = covered ? covered->screen() : widget->screen();
-  const QRect available = screen->availableGeometry();
-  widget->ensurePolished();
-  fitScrolledContents(available.size() * 3 / 4);
-  widget->layout()->activate();
-  widget->resize(widget->layout()->totalMinimumSize().boundedTo(available.size()));
-  QRect frame = widget->rect();
-  frame.moveCenter(covered ? covered->frameGeometry().center() : available.center());
-  frame.moveLeft(std::clamp(frame.left(), available.left(),
-                            std::max(available.left(), available.right() - frame.width())));
-  frame.moveTop(std::clamp(frame.top(), available.top(),
-                           std::max(available.top(), available.bottom() - frame.height())));
-  widget->move(frame.topLeft());
+  fit(screen->availableSize());
+  widget->move(placeOver(covered, screen->availableGeometry()));
   if (!covered) return;
   widget->winId();
   covered->winId();
   widget->windowHandle()->setTransientParent(covered->window()->windowHandle());
 }
 
-// A screen reader reads a window's description as it comes up: the lines that name no control.
+void QtWindow::fit(const QSize& screen) {
+  widget->ensurePolished();
+  fitScrolledContents(screen * 3 / 4);
+  widget->layout()->activate();
+  widget->resize(widget->layout()->totalMinimumSize().boundedTo(screen));
+}
+
+// In the middle of what it covers, but on the screen.
+QPoint QtWindow::placeOver(const QWidget* covered, const QRect& screen) const {
+  QRect frame = widget->rect();
+  frame.moveCenter(covered ? covered->frameGeometry().center() : screen.center());
+  const int right = std::max(screen.left(), screen.right() - frame.width());
+  const int bottom = std::max(screen.top(), screen.bottom() - frame.height());
+  return {std::clamp(frame.left(), screen.left(), right),
+          std::clamp(frame.top(), screen.top(), bottom)};
+}
+
+// A screen reader reads a window's description aloud as it comes up: the lines that name no
+// control.
 void QtWindow::describe() {
   QStringList lines;
   for (const QLabel* label : widget->findChildren<QLabel*>())
@@ -171,8 +122,7 @@ void QtWindow::close() {
   if (const auto body = closing) body();
   if (widget) {
     widget->hide();
-    // A closed window covers nothing; were it remembered, two windows that take turns would each
-    // become the other's parent.
+    // Otherwise two windows that take turns would become each other's parent.
     widget->windowHandle()->setTransientParent(nullptr);
   }
   isClosing = false;

@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <QPointer>
 
-#include "platform/toolkit/Toolkit.h"
+#include "platform/toolkit/Window.h"
 
 namespace tavrin {
 
@@ -26,19 +26,21 @@ class QtWindow : public Window {
   QDialog* dialog() const { return widget; }
   bool isUp() const { return up; }
 
-  // What must live on while the window runs or closes.
+  // What must stay alive while the window runs or closes.
   void setOwner(std::weak_ptr<void> whole) { owner = std::move(whole); }
   std::shared_ptr<void> keepAlive() const { return owner.lock(); }
-  // Called as the window closes, while it is still to be seen.
+  // Called as the window closes, while it is still visible.
   void onClosing(std::function<void()> body) { closing = std::move(body); }
-  // Called when it is down; for whoever runs it.
+  // Called once it is down; for whoever runs it modally.
   void onClosed(std::function<void()> body) { closed = std::move(body); }
 
  private:
   class Events;
 
   QWidget* coveredWindow() const;
+  void fit(const QSize& screen);
   void fitScrolledContents(const QSize& room);
+  QPoint placeOver(const QWidget* covered, const QRect& screen) const;
   void focusFirstChoice();
   void describe();
 

@@ -17,7 +17,7 @@ bool breaksLayout(QChar c) {
 }
 
 QString blankedAndCut(const std::string& text, qsizetype limit, bool keepLineBreaks) {
-  // A character has at most four bytes, so the rest cannot come into view.
+  // A character has at most four bytes, so the rest would be cut anyway.
   const auto bytes = std::min<qsizetype>(text.size(), limit * 4 + 4);
   QString shown = QString::fromUtf8(text.data(), bytes);
   if (shown.size() > limit) shown = shown.left(limit - 1) + QChar(0x2026);

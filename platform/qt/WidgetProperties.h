@@ -4,8 +4,8 @@
 
 namespace tavrin {
 
-// What the toolkit notes on the widgets themselves, for programs that look at a panel from outside
-// and for tests: the text on a widget may have been made fit to show, these are as they were set.
+// What the toolkit notes on the widgets themselves, for tests and for programs that look at a panel
+// from outside. The text on a widget may have been altered to be shown; these are as they were set.
 
 // Dynamic properties.
 inline constexpr char kRawText[] = "tavrinText";       // QByteArray, UTF-8: a button's or label's
