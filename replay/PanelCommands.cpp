@@ -21,24 +21,14 @@ Json summaryOf(PDEPanel& panel) {
   return lines;
 }
 
-// The state after the user's hand did something; why it could not, else.
+// The state after the user's hand did something, or why it could not.
 Result<Json> afterWork(const PanelSession& session, const Result<bool>& worked) {
   if (!worked) return Failure{worked.reason()};
   return withState(session);
 }
 
-const std::map<Verb, Handler>& protocolHandlers() {
+const std::map<Verb, Handler>& questions() {
   static const std::map<Verb, Handler> handlers = {
-      {Verb::panelView,
-       [](auto& session, const auto&) {
-         session.askForView();
-         return withState(session);
-       }},
-      {Verb::willShow,
-       [](auto& session, const auto&) {
-         session.willShow();
-         return withState(session);
-       }},
       {Verb::shouldHide,
        [](auto& session, const auto&) {
          return Json{{"result", session.panel().shouldHide()}};
@@ -50,16 +40,6 @@ const std::map<Verb, Handler>& protocolHandlers() {
       {Verb::saveValues,
        [](auto& session, const auto&) {
          return Json{{"result", session.panel().saveValuesAndReturnError(nullptr)}};
-       }},
-      {Verb::restoreValues,
-       [](auto& session, const auto&) {
-         const bool result = session.panel().restoreValuesAndReturnError(nullptr);
-         return withState(session, {{"result", result}});
-       }},
-      {Verb::optionDidChange,
-       [](auto& session, const auto& command) {
-         session.panel().PPDOptionKeyValueDidChange(command.key, command.choice);
-         return withState(session);
        }},
       {Verb::summaryInfo,
        [](auto& session, const auto&) {
@@ -73,34 +53,60 @@ const std::map<Verb, Handler>& protocolHandlers() {
   return handlers;
 }
 
-const std::map<Verb, Handler>& dialogHandlers() {
+const std::map<Verb, Handler>& refreshes() {
   static const std::map<Verb, Handler> handlers = {
-      {Verb::mark,
-       [](auto& session, const auto& command) {
-         session.host().mark(*command.key, *command.choice);
-         return Json::object();
+      {Verb::panelView,
+       [](auto& session, const auto&) {
+         session.askForView();
+         return withState(session);
        }},
-      {Verb::unmark,
-       [](auto& session, const auto& command) {
-         session.host().unmark(*command.key);
-         return Json::object();
+      {Verb::willShow,
+       [](auto& session, const auto&) {
+         session.willShow();
+         return withState(session);
        }},
-      {Verb::page,
-       [](auto& session, const auto& command) {
-         session.host().setPaper(command.page);
-         return Json::object();
+      {Verb::restoreValues,
+       [](auto& session, const auto&) {
+         const bool result = session.panel().restoreValuesAndReturnError(nullptr);
+         return withState(session, {{"result", result}});
        }},
-      {Verb::columns,
+      {Verb::optionDidChange,
        [](auto& session, const auto& command) {
-         session.host().setColumns(command.columns);
-         return Json::object();
+         session.panel().PPDOptionKeyValueDidChange(command.key, command.choice);
+         return withState(session);
        }},
       {Verb::state, [](auto& session, const auto&) { return withState(session); }},
   };
   return handlers;
 }
 
-const std::map<Verb, Handler>& userHandlers() {
+const std::map<Verb, Handler>& changesElsewhere() {
+  static const std::map<Verb, Handler> handlers = {
+      {Verb::mark,
+       [](auto& session, const auto& command) {
+         session.mark(*command.key, *command.choice);
+         return Json::object();
+       }},
+      {Verb::unmark,
+       [](auto& session, const auto& command) {
+         session.unmark(*command.key);
+         return Json::object();
+       }},
+      {Verb::page,
+       [](auto& session, const auto& command) {
+         session.host().pageFormat()->setPaper(command.page);
+         return Json::object();
+       }},
+      {Verb::columns,
+       [](auto& session, const auto& command) {
+         session.host().printSettings()->setValue(kPMLayoutColumns, command.columns);
+         return Json::object();
+       }},
+  };
+  return handlers;
+}
+
+const std::map<Verb, Handler>& usersDoings() {
   static const std::map<Verb, Handler> handlers = {
       {Verb::choose,
        [](auto& session, const auto& command) {
@@ -124,7 +130,7 @@ const std::map<Verb, Handler>& userHandlers() {
 }  // namespace
 
 Result<Json> carryOutOnPanel(PanelSession& session, const ReplayCommand& command) {
-  for (const auto* handlers : {&protocolHandlers(), &dialogHandlers(), &userHandlers()})
+  for (const auto* handlers : {&questions(), &refreshes(), &changesElsewhere(), &usersDoings()})
     if (const auto found = handlers->find(command.verb); found != handlers->end())
       return found->second(session, command);
   return Failure{"This command is not for a panel."};

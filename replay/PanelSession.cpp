@@ -1,11 +1,16 @@
 #include "replay/PanelSession.h"
 
+#include <iostream>
+#include <utility>
+
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include "host/printer/MarkedOptions.h"
 #include "host/printer/PPDLoader.h"
 #include "platform/qt/MakeChild.h"
 #include "platform/qt/QtToolkit.h"
+#include "platform/text/Quoted.h"
 #include "replay/WidgetState.h"
 
 namespace tavrin {
@@ -14,16 +19,6 @@ namespace {
 Result<PPDPtr> printerOf(const ReplayCommand& command) {
   if (!command.ppd) return PPDPtr();
   return loadPPD(*command.ppd);
-}
-
-std::unique_ptr<ReplayHost> hostFor(const std::string& id, EventLog& log, PPDPtr ppd,
-                                    const ReplayCommand& command) {
-  auto host = std::make_unique<ReplayHost>(id, log, std::move(ppd));
-  if (command.markDefaults) host->markDefaults();
-  for (const auto& [key, choice] : command.marks) host->mark(key, choice);
-  host->setPaper(command.page);
-  host->setColumns(command.columns);
-  return host;
 }
 
 // A window of the panel's own size.
@@ -37,20 +32,43 @@ std::unique_ptr<QWidget> windowAround(QWidget& panel) {
 
 }  // namespace
 
-PanelSession::PanelSession(std::string id, std::unique_ptr<ReplayHost> panelHost)
-    : name(std::move(id)), dialog(std::move(panelHost)) {}
+PanelSession::PanelSession(const std::string& id, PPDPtr printerPPD, EventLog& log)
+    : name(id), ppd(std::move(printerPPD)), dialog(ppd.get()) {
+  dialog.onWillChange = [id, &log](const std::string& key, const OptString& choice) {
+    log.optionWillChange(id, key, choice);
+  };
+  dialog.onResize = [id, &log] { log.viewDidResize(id); };
+}
 
 Result<std::unique_ptr<PanelSession>> PanelSession::open(const std::string& id, PDEPlugIn& plugIn,
                                                          EventLog& log,
                                                          const ReplayCommand& command) {
   auto ppd = printerOf(command);
   if (!ppd) return Failure{ppd.reason()};
-  auto host = hostFor(id, log, std::move(*ppd), command);
-  auto made = plugIn.PDEPanelsForType(kPrintDialogPanelType, &host->callback());
+  std::unique_ptr<PanelSession> session(new PanelSession(id, std::move(*ppd), log));
+  session->prepare(command);
+  auto made = plugIn.PDEPanelsForType(kPrintDialogPanelType, &session->dialog);
   if (!made || made->empty()) return Failure{"The plug-in has no panel for the Print dialog."};
-  std::unique_ptr<PanelSession> session(new PanelSession(id, std::move(host)));
   session->pdePanel = std::move(made->front());
   return session;
+}
+
+void PanelSession::prepare(const ReplayCommand& command) {
+  if (command.markDefaults) ppdMarkDefaults(ppd.get());
+  for (const auto& [key, choice] : command.marks) mark(key, choice);
+  dialog.pageFormat()->setPaper(command.page);
+  dialog.printSettings()->setValue(kPMLayoutColumns, command.columns);
+}
+
+void PanelSession::mark(const std::string& key, const std::string& choice) {
+  if (!markChoice(ppd.get(), key, choice))
+    std::cerr << "tavrin-replay: The PPD has no choice " << quoted(choice) << " of " << quoted(key)
+              << "; nothing is marked.\n";
+}
+
+void PanelSession::unmark(const std::string& key) {
+  ppd_option_t* option = ppdFindOption(ppd.get(), key.c_str());
+  if (option) tavrin::unmark(*ppd, *option);
 }
 
 // The widget is the plug-in's: it leaves the window before both go.

@@ -3,12 +3,13 @@
 #include <memory>
 #include <string>
 
+#include "host/panels/PanelHost.h"
 #include "platform/contract/PrintDialogExtension.h"
 #include "platform/text/Result.h"
+#include "ppd/CupsHandles.h"
 #include "replay/EventLog.h"
 #include "replay/Json.h"
 #include "replay/ReplayCommand.h"
-#include "replay/ReplayHost.h"
 
 class QWidget;
 
@@ -18,7 +19,7 @@ namespace tavrin {
 class PanelSession {
  public:
   // Loads the printer's PPD, marks what the command says and gets a panel from the plug-in. The
-  // reason when the PPD cannot be loaded or the plug-in has no panel. Borrows the plug-in only for
+  // reason if the PPD cannot be loaded or the plug-in has no panel. Borrows the plug-in only for
   // the call, the log for the session's life.
   static Result<std::unique_ptr<PanelSession>> open(const std::string& id, PDEPlugIn& plugIn,
                                                     EventLog& log, const ReplayCommand& command);
@@ -28,7 +29,14 @@ class PanelSession {
 
   const std::string& id() const { return name; }
   PDEPanel& panel() { return *pdePanel; }
-  ReplayHost& host() { return *dialog; }
+  // The dialog's side, whose job other panes change.
+  PanelHost& host() { return dialog; }
+
+  // Marks a choice in the PPD, telling nobody. An option or choice that the PPD lacks marks nothing
+  // and is named on standard error: the dialog may do so, but the script perhaps did not mean to.
+  void mark(const std::string& key, const std::string& choice);
+  // Takes the option's mark away, telling nobody.
+  void unmark(const std::string& key);
 
   // Asks the panel for its view.
   void askForView();
@@ -36,7 +44,7 @@ class PanelSession {
   // one.
   void willShow();
 
-  // The panel's view; null before it was asked for and when there is none.
+  // The panel's view; null before it was asked for and if there is none.
   QWidget* widget() const;
   // The same, but null before it is shown.
   QWidget* shownWidget() const;
@@ -44,12 +52,14 @@ class PanelSession {
   Json state() const;
 
  private:
-  PanelSession(std::string id, std::unique_ptr<ReplayHost> panelHost);
+  PanelSession(const std::string& id, PPDPtr printerPPD, EventLog& log);
+  void prepare(const ReplayCommand& command);
   void showOnceReady();
 
   std::string name;
-  std::unique_ptr<ReplayHost> dialog;  // has the PPD, so it outlives the panel
-  std::unique_ptr<PDEPanel> pdePanel;
+  PPDPtr ppd;
+  PanelHost dialog;
+  std::unique_ptr<PDEPanel> pdePanel;  // goes before what it was given
   std::shared_ptr<View> view;
   std::unique_ptr<QWidget> window;
   bool toldToShow = false;

@@ -78,9 +78,8 @@ Replayer::Answer Replayer::initWithBundle(const ReplayCommand& command) {
 }
 
 Replayer::Answer Replayer::panelsForType(const ReplayCommand& command) {
-  EventLog unread;
-  ReplayHost host("", unread, nullptr);
-  const auto made = plugIn.PDEPanelsForType(command.type, &host.callback());
+  PanelHost host(nullptr);
+  const auto made = plugIn.PDEPanelsForType(command.type, &host);
   return Json{{"panels", made ? Json(made->size()) : Json(nullptr)}};
 }
 

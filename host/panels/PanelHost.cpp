@@ -4,10 +4,6 @@
 
 namespace tavrin {
 
-PanelHost::PanelHost(ppd_file_s* printerPPD, const PMPrintSettings* jobSettings,
-                     const PMPageFormat* jobFormat)
-    : ppd(printerPPD), settings(jobSettings), format(jobFormat) {}
-
 bool PanelHost::willChangePPDOptionKeyValue(const std::string& key, const OptString& ppdChoice) {
   const bool marked = ppdChoice && markChoice(ppd, key, *ppdChoice);
   if (onWillChange) onWillChange(key, ppdChoice);

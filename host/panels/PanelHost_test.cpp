@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "host/panels/HostJob.h"
 #include "tests/fakes/FakePPD.h"
 
 namespace tavrin {
@@ -16,15 +15,19 @@ class PanelHostTest : public testing::Test {
   }
 
   PPDPtr ppd = makePPD({paperTypeOption(), mirrorOption()});
-  HostPrintSettings settings;
-  HostPageFormat format;
-  PanelHost host{ppd.get(), &settings, &format};
+  PanelHost host{ppd.get()};
 };
 
-TEST_F(PanelHostTest, HandsOutWhatItWasGiven) {
-  EXPECT_EQ(host.ppdFile(), ppd.get());
-  EXPECT_EQ(host.printSettings(), &settings);
-  EXPECT_EQ(host.pageFormat(), &format);
+TEST_F(PanelHostTest, HandsOutThePPDAndTheJob) {
+  PDEPlugInCallback& seen = host;
+  EXPECT_EQ(seen.ppdFile(), ppd.get());
+  EXPECT_EQ(seen.printSettings()->value(kPMLayoutColumns), std::nullopt);
+  EXPECT_EQ(seen.pageFormat()->paper(), nullptr);
+  host.printSettings()->setValue(kPMLayoutColumns, "2");
+  host.pageFormat()->setPaper("A4");
+  EXPECT_EQ(seen.printSettings()->value(kPMLayoutColumns), "2");
+  ASSERT_NE(seen.pageFormat()->paper(), nullptr);
+  EXPECT_EQ(seen.pageFormat()->paper()->ppdPaperName(), "A4");
 }
 
 TEST_F(PanelHostTest, MarksTheChoiceAndTells) {
@@ -60,7 +63,7 @@ TEST_F(PanelHostTest, TellsButDoesNotMarkWhatThePrinterLacks) {
 }
 
 TEST_F(PanelHostTest, WorksWithoutAPPD) {
-  PanelHost bare(nullptr, nullptr, nullptr);
+  PanelHost bare(nullptr);
   EXPECT_FALSE(bare.willChangePPDOptionKeyValue("MediaType", "IronOn"));
 }
 

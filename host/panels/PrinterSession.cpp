@@ -6,7 +6,7 @@
 namespace tavrin {
 
 PrinterSession::PrinterSession(SharedPPD ppd)
-    : file(std::move(ppd)), ppdMarks(*file), host(file.get(), &settings, &format) {
+    : file(std::move(ppd)), ppdMarks(*file), host(file.get()) {
   host.onWillChange = [this](const std::string&, const OptString&) {
     if (!isTakingChoices) ppdMarks.marksWereReplaced();
   };
@@ -59,7 +59,7 @@ std::string PrinterSession::restorePanels() {
 }
 
 void PrinterSession::setPagesPerSheet(int pages) {
-  settings.setValue(kPMLayoutColumns, std::to_string(layoutColumns(pages)));
+  host.printSettings()->setValue(kPMLayoutColumns, std::to_string(layoutColumns(pages)));
 }
 
 std::string PrinterSession::takePanelChoices() {
@@ -77,7 +77,9 @@ std::string PrinterSession::savePanels() {
   return {};
 }
 
-void PrinterSession::followPaper() { format.setPaper(ppdMarks.choice(kPaperSizeKeyword)); }
+void PrinterSession::followPaper() {
+  host.pageFormat()->setPaper(ppdMarks.choice(kPaperSizeKeyword));
+}
 
 void PrinterSession::tellPanels(const std::string& keyword, const OptString& choice) {
   for (const auto& panel : ownPanels) panel->PPDOptionKeyValueDidChange(keyword, choice);

@@ -7,7 +7,6 @@
 
 #include <QObject>
 
-#include "host/panels/HostJob.h"
 #include "host/panels/PanelHost.h"
 #include "host/panels/PlugInLoader.h"
 #include "host/printer/PPDMarks.h"
@@ -61,8 +60,6 @@ class PrinterSession : public QObject {
 
   SharedPPD file;
   PPDMarks ppdMarks;
-  HostPrintSettings settings;
-  HostPageFormat format;
   PanelHost host;
   bool isTakingChoices = false;
   LoadedPlugIn loaded;
