@@ -21,6 +21,10 @@ Result<PPDPtr> printerOf(const ReplayCommand& command) {
   return loadPPD(*command.ppd);
 }
 
+void sayOfThePPD(const std::string& lack, const std::string& consequence) {
+  std::cerr << "tavrin-replay: The PPD has no " << lack << "; nothing is " << consequence << ".\n";
+}
+
 // A window of the panel's own size.
 std::unique_ptr<QWidget> windowAround(QWidget& panel) {
   auto window = std::make_unique<QWidget>();
@@ -62,13 +66,14 @@ void PanelSession::prepare(const ReplayCommand& command) {
 
 void PanelSession::mark(const std::string& key, const std::string& choice) {
   if (!markChoice(ppd.get(), key, choice))
-    std::cerr << "tavrin-replay: The PPD has no choice " << quoted(choice) << " of " << quoted(key)
-              << "; nothing is marked.\n";
+    sayOfThePPD("choice " + quoted(choice) + " of " + quoted(key), "marked");
 }
 
 void PanelSession::unmark(const std::string& key) {
-  ppd_option_t* option = ppdFindOption(ppd.get(), key.c_str());
-  if (option) tavrin::unmark(*ppd, *option);
+  if (ppd_option_t* option = ppdFindOption(ppd.get(), key.c_str()))
+    tavrin::unmark(*ppd, *option);
+  else
+    sayOfThePPD("option " + quoted(key), "unmarked");
 }
 
 // The widget is the plug-in's: it leaves the window before both go.

@@ -35,7 +35,7 @@ class PanelSession {
   // Marks a choice in the PPD, telling nobody. An option or choice that the PPD lacks marks nothing
   // and is named on standard error: the dialog may do so, but the script perhaps did not mean to.
   void mark(const std::string& key, const std::string& choice);
-  // Takes the option's mark away, telling nobody.
+  // Takes the option's mark away, telling nobody; names an unknown option likewise.
   void unmark(const std::string& key);
 
   // Asks the panel for its view.
