@@ -4,8 +4,6 @@
 
 namespace tavrin {
 
-Json jsonOf(const OptString& text) { return text ? Json(*text) : Json(nullptr); }
-
 void EventLog::add(const std::string& event, const Json& fields) {
   Json entry = {{"event", event}};
   entry.update(fields);

@@ -3,12 +3,11 @@
 #include <string>
 
 #include "platform/text/OptionalString.h"
-#include "platform/toolkit/HelpViewer.h"
 #include "replay/Json.h"
 
 namespace tavrin {
 
-// What happens during a command, in order, in the form that its reply has.
+// What happens during a command, in order, as its reply tells it.
 class EventLog {
  public:
   void optionWillChange(const std::string& panel, const std::string& key, const OptString& choice);
@@ -25,23 +24,6 @@ class EventLog {
   void add(const std::string& event, const Json& fields);
 
   Json events = Json::array();
-};
-
-// An absent text is null.
-Json jsonOf(const OptString& text);
-
-// A help viewer that shows nothing and writes down what it was asked.
-class RecordingHelpViewer : public HelpViewer {
- public:
-  explicit RecordingHelpViewer(EventLog& eventLog) : log(eventLog) {}
-
-  void registerHelpBook(const std::string& path) override { log.helpBookRegistered(path); }
-  void gotoPage(const std::string& book, const OptString& page, const OptString&) override {
-    log.helpPageShown(book, page);
-  }
-
- private:
-  EventLog& log;
 };
 
 }  // namespace tavrin

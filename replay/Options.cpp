@@ -57,8 +57,9 @@ std::string helpText() {
   std::string text = parser.helpText().toStdString() + "\nCommands (the field \"do\"):\n";
   for (const std::string& verb : verbNames()) text += "  " + verb + '\n';
   return text +
-         "\nExit status: 0 every reply is ok, 1 one is not, 2 bad usage or no plug-in,\n"
-         "3 a message window came up and the script had no answer left for it.\n";
+         "\nExit status: 0 every reply is ok, 1 one is not, 2 bad usage, no plug-in,\n"
+         "or a picture that could not be written, 3 a message window came up and the script\n"
+         "had no answer left for it.\n";
 }
 
 }  // namespace tavrin

@@ -28,12 +28,12 @@ class ReplayerTest : public testing::Test {
   QtToolkit toolkit;
   EventLog log;
   Screenshots pictures;
-  WindowAnswers windows{log, pictures};
+  WindowAnswers windows{toolkit, log, pictures};
   LoadedPlugIn plugIn;
   std::unique_ptr<Replayer> replayer;
 };
 
-// The program has no event loop of its own in which widgets would go.
+// The program has no event loop in which widgets could be deleted later.
 TEST_F(ReplayerTest, NothingIsLeftOfAClosedPanel) {
   const auto before = QApplication::allWidgets().size();
   for (const char* line : {R"({"do":"open","ppd":null})", R"({"do":"panelView"})",

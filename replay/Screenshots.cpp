@@ -33,7 +33,7 @@ Result<Screenshots> Screenshots::inFolder(const std::filesystem::path& folder) {
 
 void Screenshots::panel(const std::string& id, QWidget& widget) {
   if (folder.empty()) return;
-  // Some styles draw a slider's marks otherwise the first time after the window was left.
+  // Some styles draw a slider's marks differently the first time after the window lost the focus.
   widget.grab();
   const QImage picture = widget.grab().toImage();
   QImage& last = lastOfPanel[id];

@@ -19,17 +19,17 @@ class Screenshots {
   // No pictures.
   Screenshots() = default;
 
-  // Pictures in this folder, which is made when it is missing; the reason when it cannot be.
+  // Pictures in this folder, which is made if it is missing; the reason if it cannot be.
   static Result<Screenshots> inFolder(const std::filesystem::path& folder);
 
-  // A picture of a panel, when it looks other than on its last picture.
+  // A picture of a panel, if it looks different from its last picture.
   void panel(const std::string& id, QWidget& widget);
   // A picture of a message window.
   void window(const std::string& name, QWidget& widget);
-  // The next panel with this id is another one.
+  // The panel is gone: the next one with this id is pictured even if it looks the same.
   void forget(const std::string& id) { lastOfPanel.erase(id); }
 
-  // Why a picture could not be written; empty when all could.
+  // Why the first picture that could not be written could not; empty if all could.
   const std::string& failure() const { return reason; }
 
  private:

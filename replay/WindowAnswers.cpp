@@ -4,12 +4,13 @@
 #include <QCoreApplication>
 #include <QWidget>
 
+#include "platform/qt/QtToolkit.h"
 #include "replay/WidgetState.h"
 
 namespace tavrin {
 namespace {
 
-// The button whose object name starts so; null when the window has none that is shown.
+// The visible button whose object name starts so; null if the window has none.
 QAbstractButton* buttonNamed(QWidget& window, const char* prefix) {
   for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
     if (button->objectName().startsWith(QLatin1String(prefix)) && button->isVisible())
@@ -23,6 +24,13 @@ std::string countOfUnused(std::size_t count) {
 }
 
 }  // namespace
+
+WindowAnswers::WindowAnswers(QtToolkit& windowToolkit, EventLog& eventLog, Screenshots& screenshots)
+    : toolkit(windowToolkit), log(eventLog), pictures(screenshots) {
+  toolkit.onModalWindow([this](QWidget& window) { windowCameUp(window); });
+}
+
+WindowAnswers::~WindowAnswers() { toolkit.onModalWindow({}); }
 
 void WindowAnswers::expect(const std::vector<WindowAnswer>& commandAnswers) {
   answers.assign(commandAnswers.begin(), commandAnswers.end());

@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <iostream>
+#include <memory>
 
 #include <QApplication>
 #include <QFile>
@@ -11,6 +12,7 @@
 #include "platform/files/RootFolder.h"
 #include "platform/qt/QtToolkit.h"
 #include "replay/Options.h"
+#include "replay/RecordingHelpViewer.h"
 #include "replay/Replayer.h"
 
 using namespace tavrin;
@@ -24,7 +26,7 @@ int giveUp(const std::string& reason) {
   return cannotStart;
 }
 
-// The off-screen platform keeps saying what it has no screen for.
+// The off-screen platform keeps saying what it cannot do without a screen.
 void showMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
   if (!message.startsWith("This plugin does not support"))
     std::cerr << message.toStdString() << '\n';
@@ -34,7 +36,7 @@ bool isBlank(const std::string& line) {
   return line.find_first_not_of(" \t\r\n\v\f") == std::string::npos;
 }
 
-// Texts of a script or a PPD may hold bytes that are no UTF-8; a reply may not.
+// Texts of a script or a PPD may hold bytes that are not UTF-8; a reply may not.
 void write(const Json& reply) {
   std::cout << reply.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
 }
@@ -51,26 +53,27 @@ int playScript(std::istream& script, Replayer& replayer, const WindowAnswers& wi
   return allOk ? everythingOk : somethingNotOk;
 }
 
-int play(const Options& options, PDEPlugIn& plugIn, QtToolkit& toolkit, Screenshots pictures) {
-  std::ifstream file;
-  if (!options.script.empty()) {
-    file.open(options.script, std::ios::binary);
-    if (!file || std::filesystem::is_directory(options.script))
-      return giveUp("The script \"" + options.script.string() + "\" cannot be read.");
-  }
+int play(std::istream& script, PDEPlugIn& plugIn, QtToolkit& toolkit, Screenshots& pictures) {
   EventLog log;
-  RecordingHelpViewer helpViewer(log);
-  HelpViewer::install(&helpViewer);
-  WindowAnswers windows(log, pictures);
-  toolkit.onModalWindow([&windows](QWidget& window) { windows.windowCameUp(window); });
-  int status = cannotStart;
-  {
-    Replayer replayer(plugIn, log, windows, pictures);
-    status = playScript(options.script.empty() ? std::cin : file, replayer, windows);
-  }
-  toolkit.onModalWindow({});
-  HelpViewer::install(nullptr);
-  return pictures.failure().empty() ? status : giveUp(pictures.failure());
+  const RecordingHelpViewer helpViewer(log);
+  WindowAnswers windows(toolkit, log, pictures);
+  Replayer replayer(plugIn, log, windows, pictures);
+  return playScript(script, replayer, windows);
+}
+
+// A picture that is missing spoils a success; it does not hide what the replies say.
+int statusWithPictures(int status, const Screenshots& pictures) {
+  if (pictures.failure().empty()) return status;
+  const int spoilt = giveUp(pictures.failure());
+  return status == everythingOk ? spoilt : status;
+}
+
+Result<std::unique_ptr<std::istream>> scriptOf(const Options& options) {
+  if (options.script.empty()) return std::make_unique<std::istream>(std::cin.rdbuf());
+  auto file = std::make_unique<std::ifstream>(options.script, std::ios::binary);
+  if (!*file || std::filesystem::is_directory(options.script))
+    return Failure{"The script \"" + options.script.string() + "\" cannot be read."};
+  return std::unique_ptr<std::istream>(std::move(file));
 }
 
 Result<LoadedPlugIn> plugInFor(const Options& options) {
@@ -90,13 +93,15 @@ int run(const Options& options, QtToolkit& toolkit) {
   if (!plugIn) return giveUp(plugIn.reason());
   auto pictures = picturesFor(options);
   if (!pictures) return giveUp(pictures.reason());
-  return play(options, *plugIn->principal, toolkit, *pictures);
+  auto script = scriptOf(options);
+  if (!script) return giveUp(script.reason());
+  return statusWithPictures(play(**script, *plugIn->principal, toolkit, *pictures), *pictures);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The panel's window is nobody's to see, and the arguments are ours alone: Qt would take some.
+  // Nobody sees the panel's window. Qt gets no arguments, because it would take some of ours.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(showMessage);
   int programNameOnly = 1;

@@ -1,5 +1,5 @@
-# The pictures of short sessions: the panel only when it looks other than before, each message
-# window as it comes up. Run in the folder testdata with PROGRAM, SCRIPTS and FOLDER.
+# The pictures of short sessions: the panel only when it looks different, each message window as it
+# comes up. Run in the folder testdata with PROGRAM, SCRIPTS and FOLDER.
 
 # check_pictures(<script> <picture>...): a script of the folder SCRIPTS, or one at a path.
 function(check_pictures script)
@@ -43,6 +43,22 @@ set(show [[
 ]])
 file(WRITE ${FOLDER}.jsonl "${show}{\"do\": \"close\"}\n${show}")
 check_pictures(${FOLDER}.jsonl 001-panel-1.png 002-panel-1.png)
+
+# A picture that cannot be written takes away the success, not what the replies say.
+function(check_unwritable script expected)
+  file(REMOVE_RECURSE ${FOLDER})
+  file(MAKE_DIRECTORY ${FOLDER}/new/001-panel-1.png)  # a folder where the first picture belongs
+  execute_process(COMMAND ${PROGRAM} --root root --screenshots ${FOLDER}/new ${SCRIPTS}/${script}
+    RESULT_VARIABLE status OUTPUT_VARIABLE replies ERROR_VARIABLE said)
+  if(NOT status EQUAL expected OR NOT said MATCHES "001-panel-1.png\" cannot be written"
+     OR replies STREQUAL "")
+    message(SEND_ERROR "${script}: status ${status}, said: ${said}")
+  endif()
+endfunction()
+
+check_unwritable(code-08-glossy-in-black.jsonl 2)
+check_unwritable(answers-that-do-not-fit.jsonl 1)
+check_unwritable(no-answer-left.jsonl 3)
 
 # With the slider in view, which some styles draw otherwise the first time after a window.
 check_pictures(code-10-mirror-on-envelope.jsonl
