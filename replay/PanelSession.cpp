@@ -11,7 +11,7 @@
 #include "platform/qt/MakeChild.h"
 #include "platform/qt/QtToolkit.h"
 #include "platform/text/Quoted.h"
-#include "replay/WidgetState.h"
+#include "replay/PanelState.h"
 
 namespace tavrin {
 namespace {

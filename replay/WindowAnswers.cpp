@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "platform/qt/QtToolkit.h"
-#include "replay/WidgetState.h"
+#include "replay/WindowContents.h"
 
 namespace tavrin {
 namespace {

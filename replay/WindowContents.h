@@ -8,12 +8,6 @@ class QWidget;
 
 namespace tavrin {
 
-// Reads from real widgets, found by their object names, what a person sees.
-
-// {"controls": ..., "views": ...} of a panel: every control by its object name, and the views that
-// make the panel's shape.
-Json panelState(const QWidget& panel);
-
 // A message window's short name: "MsgOne" for the window "ibMsgOneWindow", "Instructions" for the
 // one with the instructions.
 std::string windowName(const QWidget& window);
