@@ -7,20 +7,17 @@
 #include <gtest/gtest.h>
 
 #include "tests/fixtures/Environment.h"
-#include "tests/fixtures/Lists.h"
 #include "tests/fixtures/TemporaryFolder.h"
+#include "tests/fixtures/XmlList.h"
 
 namespace tavrin {
 namespace {
 
 using test::LocaleEnvironment;
+using test::xmlDictionary;
 using test::xmlEntry;
 using test::xmlList;
 using Languages = std::vector<std::string>;
-
-std::string dictionary(const std::string& entries) {
-  return xmlList("<dict>" + entries + "</dict>");
-}
 
 TEST(UserLanguages, GoFromTheMostSpecificToTheLeast) {
   const LocaleEnvironment locale{{"LC_ALL", "pt_BR.UTF-8"}};
@@ -47,7 +44,7 @@ TEST(UserLanguages, AListOfLanguagesGoesBeforeTheLocale) {
   EXPECT_EQ(userLanguages(), (Languages{"de_AT", "de", "fr"}));
 }
 
-TEST(UserLanguages, AreNoneInTheCLocale) {
+TEST(UserLanguages, AreEmptyInTheCLocale) {
   for (const char* name : {"C", "POSIX", "C.UTF-8"}) {
     const LocaleEnvironment locale{{"LC_ALL", name}, {"LANGUAGE", "de"}};
     EXPECT_EQ(userLanguages(), Languages()) << name;
@@ -80,8 +77,8 @@ class BundleTest : public testing::Test {
 };
 
 TEST_F(BundleTest, AnswersFromItsInformationDictionary) {
-  folder.write("Contents/Info.plist",
-               dictionary(xmlEntry("CFBundleExecutable", "Sample") + "<key>Number</key><true/>"));
+  folder.write("Contents/Info.plist", xmlDictionary(xmlEntry("CFBundleExecutable", "Sample") +
+                                                    "<key>Number</key><true/>"));
   ASSERT_NE(bundle().infoDictionary(), nullptr);
   EXPECT_EQ(bundle().info("CFBundleExecutable"), "Sample");
   EXPECT_FALSE(bundle().info("Number"));
@@ -99,30 +96,30 @@ TEST_F(BundleTest, WithoutADictionaryHasNoInformation) {
 }
 
 TEST_F(BundleTest, TakesEachTextFromTheNearestLanguage) {
-  writeTable("pt_BR", dictionary(xmlEntry("Quality", "Qualidade BR")));
-  writeTable("pt", dictionary(xmlEntry("Quality", "Qualidade") + xmlEntry("Paper", "Papel")));
-  writeTable("de", dictionary(xmlEntry("Source", "Quelle")));
+  writeTable("pt_BR", xmlDictionary(xmlEntry("Quality", "Qualidade BR")));
+  writeTable("pt", xmlDictionary(xmlEntry("Quality", "Qualidade") + xmlEntry("Paper", "Papel")));
+  writeTable("de", xmlDictionary(xmlEntry("Source", "Quelle")));
   EXPECT_EQ(bundle().localizedString("Quality"), "Qualidade BR");
   EXPECT_EQ(bundle().localizedString("Paper"), "Papel");
   EXPECT_EQ(bundle().localizedString("Source"), "Source");
 }
 
 TEST_F(BundleTest, AnUnusableTableIsAsIfAbsent) {
-  writeTable("pt", dictionary(xmlEntry("Paper", "Papel")));
+  writeTable("pt", xmlDictionary(xmlEntry("Paper", "Papel")));
   for (const std::string& table :
        {std::string("\"Paper\" = \"Folha\";"), xmlList("<array><string>Paper</string></array>"),
-        std::string(), dictionary("<key>Paper</key><integer>1</integer>"),
-        dictionary(xmlEntry("Paper", "Pap\xE9"))}) {
+        std::string(), xmlDictionary("<key>Paper</key><integer>1</integer>"),
+        xmlDictionary(xmlEntry("Paper", "Pap\xE9"))}) {
     writeTable("pt_BR", table);
     EXPECT_EQ(bundle().localizedString("Paper"), "Papel") << table;
   }
 }
 
-TEST_F(BundleTest, ShowsTheKeysToWhoReadsEnglish) {
-  writeTable("de", dictionary(xmlEntry("Paper", "Papier")));
+TEST_F(BundleTest, ShowsTheKeysToReadersOfEnglish) {
+  writeTable("de", xmlDictionary(xmlEntry("Paper", "Papier")));
   const LocaleEnvironment english{{"LANG", "en_US.UTF-8"}, {"LANGUAGE", "en:de"}};
   EXPECT_EQ(bundle().localizedString("Paper"), "Paper");
-  writeTable("en", dictionary(xmlEntry("Paper", "Paper Type")));
+  writeTable("en", xmlDictionary(xmlEntry("Paper", "Paper Type")));
   EXPECT_EQ(bundle().localizedString("Paper"), "Paper Type");
   const LocaleEnvironment c{{"LC_ALL", "C"}};
   EXPECT_EQ(bundle().localizedString("Paper"), "Paper");

@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/fixtures/Environment.h"
-#include "tests/fixtures/Lists.h"
 #include "tests/fixtures/TemporaryFolder.h"
+#include "tests/fixtures/XmlList.h"
 
 namespace tavrin {
 namespace {
@@ -22,7 +22,7 @@ class HelpBookTest : public testing::Test {
     return folder.write("book/" + name, "<title>" + title + "</title>");
   }
   void writeInfo(const std::string& entries) {
-    folder.write("book/Contents/Info.plist", test::xmlList("<dict>" + entries + "</dict>"));
+    folder.write("book/Contents/Info.plist", test::xmlDictionary(entries));
   }
   HelpBook book() const { return helpBookAt(folder.path() / "book"); }
 
@@ -109,7 +109,7 @@ TEST_F(HelpBookTest, ThatContainsItselfEnds) {
   EXPECT_EQ(book().startPage, "");
 }
 
-TEST_F(HelpBookTest, WithoutAFolderIsNoBook) {
+TEST_F(HelpBookTest, WithoutAFolderIsNotABook) {
   for (const char* name : {"missing", "", "file"}) {
     folder.write("file", "<title>x</title>");
     const HelpBook none = helpBookAt(folder.path() / name);
@@ -121,7 +121,7 @@ TEST_F(HelpBookTest, WithoutAFolderIsNoBook) {
 
 TEST_F(HelpBookTest, WithAnOversizeStartPageHasNoTitle) {
   const auto start = write("index.html", "Title");
-  std::ofstream(start, std::ios::app) << test::repeated(" ", 1024 * 1024);
+  std::ofstream(start, std::ios::app) << std::string(1024 * 1024, ' ');
   EXPECT_EQ(book().startPage, start);
   EXPECT_EQ(book().name, "");
 }

@@ -7,14 +7,14 @@
 #include <unistd.h>
 
 #include "platform/files/PropertyList.h"
-#include "tests/fixtures/Lists.h"
+#include "tests/fixtures/HostileLists.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 // The time that each costly list takes, and the memory that a process grows by as it reads it.
 
 namespace {
 
-using tavrin::test::HostileList;
+using tavrin::test::NamedList;
 
 // The peak memory (KiB) of a process that does nothing else. What is free in this process is given
 // back first, or the child would live on it unseen.
@@ -32,7 +32,7 @@ long peakMemory(Work work) {
   return usage.ru_maxrss;
 }
 
-void readList(benchmark::State& state, const HostileList& list) {
+void readList(benchmark::State& state, const NamedList& list) {
   const tavrin::test::TemporaryFolder folder;
   const auto file = folder.write("list.plist", list.bytes);
   const auto read = [&] { benchmark::DoNotOptimize(tavrin::readPropertyList(file)); };
@@ -44,7 +44,7 @@ void readList(benchmark::State& state, const HostileList& list) {
 int registerAll() {
   auto lists = tavrin::test::hostileLists();
   for (auto& list : tavrin::test::largeLists()) lists.push_back(list);
-  for (const HostileList& list : lists) {
+  for (const NamedList& list : lists) {
     benchmark::RegisterBenchmark(list.name.c_str(), readList, list)->Unit(benchmark::kMillisecond);
   }
   return static_cast<int>(lists.size());

@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/fixtures/Lists.h"
+#include "tests/fixtures/BinaryList.h"
+#include "tests/fixtures/HostileLists.h"
 #include "tests/fixtures/TemporaryFolder.h"
+#include "tests/fixtures/XmlList.h"
 
 namespace tavrin {
 namespace {
@@ -72,7 +74,7 @@ TEST(XmlList, TheLastOfTwoEqualKeysWins) {
   EXPECT_EQ(list->stringAt({"a"}), "2");
 }
 
-TEST(XmlList, TextThatIsNotUtf8IsNoText) {
+TEST(XmlList, TextThatIsNotUtf8IsNotAText) {
   EXPECT_TRUE(isSomethingElse(xmlList("<string>caf\xE9</string>")));
   const auto list = parsePropertyList(
       xmlList("<dict>" + xmlEntry("k\xFF", "v") + xmlEntry("good", "v") + "</dict>"));
@@ -115,7 +117,7 @@ TEST(XmlList, NestsDeepEnough) {
   EXPECT_FALSE(parsePropertyList(nested(32)));
 }
 
-TEST(XmlList, CutAnywhereIsNoList) {
+TEST(XmlList, IsUnsoundWhenCutAnywhere) {
   const std::string whole = xmlList("<dict>" + xmlEntry("a", "b&amp;c") +
                                     "<key>d</key><array><true/><data>AAAA</data></array></dict>");
   ASSERT_TRUE(parsePropertyList(whole));
@@ -150,7 +152,7 @@ TEST(BinaryList, TheLastOfTwoEqualKeysWins) {
   EXPECT_EQ(list->stringAt({"a"}), "2");
 }
 
-TEST(BinaryList, TextThatIsNotUtf8IsNoText) {
+TEST(BinaryList, TextThatIsNotUtf8IsNotAText) {
   EXPECT_TRUE(isSomethingElse(binaryList({binaryText("caf\xE9")})));
 }
 
@@ -158,7 +160,7 @@ TEST(BinaryList, MayShareWhatIsSmall) {
   EXPECT_TRUE(parsePropertyList(binaryList({binaryArray({1, 1, 1}), binaryText("shared")})));
 }
 
-TEST(BinaryList, CutAnywhereIsNoListAndChangedAnywhereIsHarmless) {
+TEST(BinaryList, IsUnsoundWhenCutAnywhereAndHarmlessWhenChangedAnywhere) {
   const std::string whole =
       binaryList({binaryDictionary({1, 2, 3, 4}), binaryText("a"), binaryText("b"),
                   binaryArray({1, 1}), std::string("\x61\0\xFC", 3)});
@@ -175,13 +177,13 @@ TEST(BinaryList, CutAnywhereIsNoListAndChangedAnywhereIsHarmless) {
   }
 }
 
-TEST(PropertyList, HostileOnesAreRefused) {
+TEST(PropertyList, HostileListsAreRefused) {
   for (const auto& [name, bytes] : test::hostileLists()) {
     EXPECT_FALSE(parsePropertyList(bytes)) << name;
   }
 }
 
-TEST(PropertyList, LargeOnesAreRead) {
+TEST(PropertyList, LargeListsAreRead) {
   for (const auto& [name, bytes] : test::largeLists()) {
     EXPECT_LE(bytes.size(), kPropertyListSizeLimit) << name;
     EXPECT_TRUE(parsePropertyList(bytes)) << name;
@@ -205,7 +207,7 @@ TEST(PropertyList, FileMayBeAsLargeAsTheLimit) {
   EXPECT_FALSE(readPropertyList(folder.write("list.plist", bytes + ' ')));
 }
 
-TEST(PropertyList, WhatIsNoFileIsNoList) {
+TEST(PropertyList, WhatIsNotAFileIsNotAList) {
   const test::TemporaryFolder folder;
   ASSERT_EQ(mkfifo((folder.path() / "fifo").c_str(), 0600), 0);
   std::filesystem::create_symlink("/dev/zero", folder.path() / "device");
