@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/qt/WidgetProperties.h"
-#include "tests/fixtures/TestPanel.h"
+#include "tests/fixtures/TestWindows.h"
 
 namespace tavrin {
 namespace {
@@ -124,7 +124,7 @@ TEST_F(ModalRunsTest, ARunInsideARun) {
 }
 
 // An OK handler stops the run and closes the window, whose delegate stops once more.
-TEST_F(ModalRunsTest, StoppingTwiceStopsNoRunAround) {
+TEST_F(ModalRunsTest, StoppingTwiceDoesNotStopTheRunAround) {
   int loopsAround = 0;
   whenUp([&](QWidget& shown) {
     if (shown.objectName() == "ibMsgTwoWindow") {
@@ -133,7 +133,7 @@ TEST_F(ModalRunsTest, StoppingTwiceStopsNoRunAround) {
       return;
     }
     EXPECT_TRUE(show(window("ibMsgTwoWindow")));
-    // Only a run that goes on handles this.
+    // Handled only by a run that goes on.
     QTimer::singleShot(0, &shown, [&] {
       ++loopsAround;
       toolkit.stopModal();

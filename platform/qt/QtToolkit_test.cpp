@@ -12,6 +12,7 @@
 #include "platform/files/Bundle.h"
 #include "platform/qt/WidgetProperties.h"
 #include "tests/fixtures/TestPanel.h"
+#include "tests/fixtures/TestWindows.h"
 
 namespace tavrin {
 namespace {
