@@ -73,6 +73,13 @@ PPDPtr makePPD(const std::vector<PPDOptionText>& options,
   return parsePPD(ppdText(options, attributes));
 }
 
+void unmark(ppd_file_t& ppd, const std::string& option) {
+  while (ppd_choice_t* marked = ppdFindMarkedChoice(&ppd, option.c_str())) {
+    marked->marked = 0;
+    cupsArrayRemove(ppd.marked, marked);
+  }
+}
+
 PPDOptionText printQualityOption() {
   return {"PrintQuality/Print Quality",
           "PickOne",

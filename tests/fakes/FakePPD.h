@@ -5,7 +5,7 @@
 
 #include "ppd/CupsHandles.h"
 
-// PPDs for tests, written down as short as a test can read them.
+// PPDs for tests, written as briefly as a test can read them.
 
 namespace tavrin {
 
@@ -21,10 +21,13 @@ struct PPDOptionText {
 std::string ppdText(const std::vector<PPDOptionText>& options,
                     const std::vector<std::string>& attributes = {});
 
-// The PPD of such a text, with its defaults marked; stops the test when libcups refuses it.
+// The PPD of such a text, with its defaults marked; stops the test if libcups refuses it.
 PPDPtr parsePPD(const std::string& text, bool markDefaults = true);
 PPDPtr makePPD(const std::vector<PPDOptionText>& options,
                const std::vector<std::string>& attributes = {});
+
+// Takes every mark of an option away.
+void unmark(ppd_file_t& ppd, const std::string& option);
 
 // The family's options, one function each.
 PPDOptionText printQualityOption();

@@ -66,7 +66,7 @@ bool PanelUnderTest::carryOut(const Step& step) {
     case Step::Verb::mark:
       return mark(step.name, step.text);
     case Step::Verb::unmark:
-      return mark(step.name, std::nullopt);
+      return unmark(step.name);
     case Step::Verb::restore:
       return panel->restoreValuesAndReturnError(nullptr);
     case Step::Verb::willShow:
@@ -113,19 +113,18 @@ bool PanelUnderTest::slide(int value) {
   return true;
 }
 
-// Marks or unmarks as a host does; a choice that the option lacks cannot be marked.
+// As a host does; a choice that the option lacks cannot be marked.
 bool PanelUnderTest::mark(const std::string& key, const OptString& choice) {
   ppd_option_t* const record = option(key);
-  if (record == nullptr) return false;
-  if (choice) {
-    if (ppdFindChoice(record, choice->c_str()) == nullptr) return false;
-    ppdMarkOption(ppd.get(), key.c_str(), choice->c_str());
-    return true;
-  }
-  while (ppd_choice_t* marked = ppdFindMarkedChoice(ppd.get(), key.c_str())) {
-    marked->marked = 0;
-    cupsArrayRemove(ppd->marked, marked);
-  }
+  if (record == nullptr || !choice || ppdFindChoice(record, choice->c_str()) == nullptr)
+    return false;
+  ppdMarkOption(ppd.get(), key.c_str(), choice->c_str());
+  return true;
+}
+
+bool PanelUnderTest::unmark(const std::string& key) {
+  if (option(key) == nullptr) return false;
+  tavrin::unmark(*ppd, key);
   return true;
 }
 

@@ -33,7 +33,7 @@ class PanelUnderTest {
   bool carryOut(const Step& step);
 
   Settings settings();
-  // The conflicts of the panel as it stands, by a checker of its own; flagged ones left out.
+  // The conflicts of the panel as it stands, found by a separate checker, without the flagged ones.
   std::vector<int> conflicts();
 
   ppd_option_t* option(const std::string& key) const {
@@ -48,6 +48,7 @@ class PanelUnderTest {
   bool click(const std::string& button);
   bool slide(int value);
   bool mark(const std::string& key, const OptString& choice);
+  bool unmark(const std::string& key);
   bool canBeWorked(const std::string& control, bool hidden, bool enabled) const;
 
   PPDPtr ppd;

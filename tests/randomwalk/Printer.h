@@ -22,8 +22,8 @@ const T& oneOf(Dice& dice, const std::vector<T>& list) {
   return list[static_cast<std::size_t>(roll(dice, static_cast<int>(list.size())))];
 }
 
-// A printer of the family, as a walk finds it: any option may be missing, choices may stand in
-// another order or be written in other letters, and the defaults may not be marked.
+// A printer of the family, as a walk may find it: any option may be missing, choices may be in
+// another order or in another letter case, and the defaults may not be marked.
 struct Printer {
   std::string ppd;  // the PPD's text
   bool markDefaults = true;
@@ -33,7 +33,7 @@ struct Printer {
 
 Printer randomPrinter(Dice& dice);
 
-// What the family's preferences file may say of the cartridges; no file when there is no first.
+// What the family's preferences file may say of the cartridges; no file if there is no first.
 struct CartridgeSet {
   OptString first, second;
 };

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/randomwalk/ReplayFolder.h"
 #include "tests/randomwalk/Shrink.h"
 #include "tests/randomwalk/Walk.h"
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "tests/randomwalk/Plan.h"
+
 namespace tavrin::walk {
 
 // The list without every part that `fails` does not need: halves are tried first, then ever smaller
@@ -29,5 +31,8 @@ std::vector<T> fewest(std::vector<T> list, Fails fails) {
   }
   return list;
 }
+
+// The fewest steps of a failing plan that still fail.
+Plan shrunk(const Plan& failing);
 
 }  // namespace tavrin::walk

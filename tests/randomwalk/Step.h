@@ -42,13 +42,4 @@ struct Step {
 
 std::vector<Step> randomSteps(Dice& dice, int count, int panels);
 
-// The step as a line of a replay script, with the answers that were used; a reopened panel is only
-// closed by it.
-std::string replayLines(const Step& step, const std::vector<Answer>& used);
-// The line that asks a panel for its tickets, and one of those tickets.
-std::string savingLine(int panel);
-std::string ticketLine(int panel, const std::string& key, const OptString& ticket);
-// The lines that open a panel on "printer-<panel>.ppd".
-std::string openingLines(int panel, bool markDefaults);
-
 }  // namespace tavrin::walk

@@ -5,64 +5,12 @@
 #include "ppd/PPDKeywords.h"
 #include "tests/fixtures/FreshConflicts.h"
 #include "tests/randomwalk/Invariants.h"
+#include "tests/randomwalk/ReplayLines.h"
 
 namespace tavrin::walk {
 namespace {
 
-using Verb = Step::Verb;
-using Tickets = std::map<std::string, OptString>;
-
 constexpr int kTooManyWindows = 100;
-
-Tickets ticketsOf(PanelUnderTest& panel) {
-  Tickets tickets;
-  for (const auto& [key, setting] : panel.settings()) tickets[key] = setting.ticket;
-  return tickets;
-}
-
-// Whether the step ends in a check for conflicts.
-bool checksConflicts(const Step& step) {
-  return step.name == "ibPaperType" || step.name == "ibPrintQuality" ||
-         step.name == "ibBlackAndWhite" || step.name == "ibMIrror";
-}
-
-// Whether the step brings the panel's controls in line with its model.
-bool refreshes(const Step& step) {
-  return step.verb == Verb::hostChange || step.verb == Verb::restore ||
-         step.verb == Verb::willShow || step.verb == Verb::reopen;
-}
-
-OptString keywordAt(const ppd_option_t* option, int index) {
-  if (option == nullptr || index >= option->num_choices) return std::nullopt;
-  return option->choices[index].choice;
-}
-
-OptString keywordOf(ppd_option_t* option, const char* choice) {
-  const ppd_choice_t* found = option != nullptr ? ppdFindChoice(option, choice) : nullptr;
-  return found != nullptr ? OptString(found->choice) : std::nullopt;
-}
-
-// Equal, or changed as iron-on paper or its going changes a mirror.
-bool mirrorFollows(const OptString& expected, const OptString& now, bool ironOn, bool refreshed) {
-  if (now == expected) return true;
-  return refreshed &&
-         (ironOn ? expected == "False" && now == "True" : expected == "True" && now == "False");
-}
-
-std::string ticketsFault(Tickets expected, Tickets now, bool refreshed) {
-  const bool ironOn = now[kNSPaperTypeKey] == "IronOn";
-  if (!mirrorFollows(expected[kNSMirrorKey], now[kNSMirrorKey], ironOn, refreshed)) {
-    return "the mirror is " + now[kNSMirrorKey].value_or("absent");
-  }
-  expected.erase(kNSMirrorKey);
-  now.erase(kNSMirrorKey);
-  for (const auto& [key, ticket] : expected) {
-    if (now[key] != ticket) {
-      return key + " is " + now[key].value_or("absent") + ", not " + ticket.value_or("absent");
-    }
-  }
-  return now.size() == expected.size() ? "" : "other settings are handed over";
-}
 
 // The flag that a window's code sets as the window is composed.
 void flagConflict(FlagState& flags, int code) {
@@ -74,16 +22,6 @@ void flagConflict(FlagState& flags, int code) {
 }
 
 }  // namespace
-
-Plan randomPlan(unsigned seed, int steps) {
-  Dice dice(seed);
-  Plan plan;
-  const int panels = chance(dice, 30) ? 2 : 1;
-  for (int i = 0; i < panels; ++i) plan.printers.push_back(randomPrinter(dice));
-  plan.cartridges = randomCartridges(dice);
-  plan.steps = randomSteps(dice, steps, panels);
-  return plan;
-}
 
 Walk::Walk(const Plan& toWalk, Figures& found) : plan(toWalk), figures(found) {
   forgetConflicts();
@@ -145,10 +83,10 @@ void Walk::take(const Step& next) {
   windowsOfStep = 0;
   std::vector<Tickets> before;
   for (const auto& each : panels) before.push_back(ticketsOf(*each));
-  expected = expectedOf(next);
+  expected = afterStep(next, *panel, current());
   toolkit.answers = {[this](FakeInterface& windows) { answerWindow(windows); }};
 
-  if (next.verb == Verb::reopen) {
+  if (next.verb == Step::Verb::reopen) {
     ++figures.steps;
     lines += replayLines(next, {});
     open(next.panel);
@@ -161,56 +99,6 @@ void Walk::take(const Step& next) {
   checkExpected(-1);
   checkOthers(before, next.panel);
   checkEnd(next);
-}
-
-// What the step must leave behind before any window comes up.
-Walk::Expected Walk::expectedOf(const Step& next) {
-  Expected made{current(), refreshes(next)};
-  Tickets& tickets = made.outcome.tickets;
-  const auto set = [&](const std::string& key, const OptString& ticket) {
-    if (tickets.contains(key)) tickets[key] = ticket;
-  };
-  if (checksConflicts(next)) made.outcome.flags.instruction.assign(5, false);
-  if (next.verb == Verb::hostChange) set(next.name, next.text);
-  if (next.verb == Verb::restore) {
-    for (auto& [key, ticket] : tickets) {
-      const ppd_choice_t* marked = ppdFindMarkedChoice(panel->host().ppd, key.c_str());
-      if (marked != nullptr) ticket = marked->choice;
-      if (marked == nullptr && key == kNSMirrorKey) ticket = keywordOf(panel->option(key), "False");
-    }
-  }
-  FakeInterface& controls = panel->controls();
-  const auto choices = [&](const char* key) { return panel->option(key); };
-  if (next.verb == Verb::slide)
-    set(kNSSharpeningKey, keywordAt(choices(kSharpeningKey), next.number + 1));
-  if (next.name == "ibAutoImageSharpening")
-    set(kNSSharpeningKey, keywordAt(choices(kSharpeningKey), 0));
-  if (next.name == "ibManualImageSharpening")
-    set(kNSSharpeningKey, keywordAt(choices(kSharpeningKey), 1));
-  if (next.name == "ibPrintQuality")
-    set(kNSPrintQualityKey, keywordAt(choices(kPrintQualityKey), next.number));
-  if (next.name == "ibPaperSource")
-    set(kNSPaperSourceKey, keywordAt(choices(kPaperSourceKey), next.number));
-  if (next.name == "ibDryTimePopUp")
-    set(kNSDupDryTimeKey, keywordAt(choices(kDupDryTimeKey), next.number));
-  if (next.name == "ibBlackAndWhite") {
-    set(kNSColorModelKey, keywordAt(choices(kColorModelKey), 1 - controls.button(next.name).state));
-  }
-  if (next.name == "ibMIrror") {
-    set(kNSMirrorKey, controls.button(next.name).state == 0 ? "True" : "False");
-  }
-  if (next.name == "ibDryTimeCheckBox") {
-    set(kNSDupDryTimeKey, keywordOf(choices(kDupDryTimeKey),
-                                    controls.button(next.name).state == 0 ? "True" : "False"));
-  }
-  if (next.name == "ibPaperType") {
-    const OptString paper = keywordAt(choices(kPaperTypeKey), next.number);
-    set(kNSPaperTypeKey, paper);
-    // Whoever switched it on, iron-on paper is mirrored; other paper may switch it off.
-    if (paper == "IronOn") set(kNSMirrorKey, "True");
-    if (paper != "IronOn") made.mayLoseMirror = true;
-  }
-  return made;
 }
 
 void Walk::checkExpected(int composedCode) {
@@ -292,10 +180,10 @@ void Walk::answerConflict(FakeInterface& windows, const std::string& name) {
   windows.press("ibOkButton_" + name, "clickOkButton_" + name + ":");
 }
 
-// The step's next answer without the choices that the window lacks; when there is none left, one
-// choice after the other. The first alone may lead nowhere: a host can report iron-on paper to the
-// panel of a printer without paper types, and then the mirror image that was switched off comes on
-// again at once.
+// The step's next answer without the choices that the window lacks; once all are used, each choice
+// in turn. The first choice alone may lead nowhere: a host can report iron-on paper to the panel of
+// a printer without paper types, and then a mirror image that was switched off comes on again at
+// once.
 Answer Walk::nextAnswer(const std::string& window) {
   const bool given = answered < step->answers.size();
   Answer answer =

@@ -10,21 +10,13 @@
 #include "tests/fakes/FakeToolkit.h"
 #include "tests/fixtures/PrinterRoot.h"
 #include "tests/randomwalk/PanelUnderTest.h"
-#include "tests/randomwalk/Step.h"
-#include "tests/randomwalk/WindowRules.h"
+#include "tests/randomwalk/Plan.h"
+#include "tests/randomwalk/StepRules.h"
+#include "tests/randomwalk/Tickets.h"
 
 namespace tavrin::walk {
 
-// Everything that a walk depends on.
-struct Plan {
-  std::vector<Printer> printers;  // one panel each
-  CartridgeSet cartridges;
-  std::vector<Step> steps;
-};
-
-Plan randomPlan(unsigned seed, int steps);
-
-// What walks came across: code and choice to how often, choice 0 for a window that was closed.
+// What walks came across: how often each code and choice; choice 0 is a window that was closed.
 struct Figures {
   long steps = 0;
   long windows = 0;
@@ -37,31 +29,23 @@ class Walk {
   Walk(const Plan& plan, Figures& figures);
   ~Walk();
 
-  // What went wrong, in a sentence; empty when all is well.
+  // What went wrong, in a sentence; empty if all is well.
   const std::string& fault() const { return firstFault; }
   // The walk as a replay script, up to where it stopped.
   const std::string& script() const { return lines; }
   // The tickets of each panel at the end.
-  std::vector<std::map<std::string, OptString>> tickets() const;
+  std::vector<Tickets> tickets() const;
   // Where "/Library/Printers/..." was; as long as the walk lives.
   std::filesystem::path rootFolder() const { return root.file("/"); }
 
  private:
-  // What must be so when the next window comes up or the step ends.
-  struct Expected {
-    Outcome outcome;
-    bool refreshed = false;  // the controls were brought in line: the mirror's rule may have run
-    bool mayLoseMirror = false;  // other paper than iron-on was picked
-  };
-
   void open(int panel);
   void take(const Step& step);
-  Expected expectedOf(const Step& step);
   void answerWindow(FakeInterface& windows);
   void answerConflict(FakeInterface& windows, const std::string& name);
   Answer nextAnswer(const std::string& window);
   void checkExpected(int composedCode);
-  void checkOthers(const std::vector<std::map<std::string, OptString>>& before, int except);
+  void checkOthers(const std::vector<Tickets>& before, int except);
   void checkEnd(const Step& step);
   void fail(const std::string& sentence);
   Outcome current();
@@ -75,7 +59,7 @@ class Walk {
   std::string firstFault;
   bool ended = false;
 
-  // Of the step under way.
+  // About the step under way.
   PanelUnderTest* panel = nullptr;
   const Step* step = nullptr;
   std::size_t answered = 0;
@@ -85,13 +69,5 @@ class Walk {
   int notifications = 0;
   int windowsOfStep = 0;
 };
-
-// The fewest steps of a failing plan that still fail.
-Plan shrunk(const Plan& failing);
-
-// Writes the walk of a plan as a replay: script.jsonl, the PPDs, the root folder with the cartridge
-// preferences, and tickets.jsonl with what each panel hands over at the end. Gives the fault and
-// the script.
-std::string writeReplay(const Plan& plan, const std::filesystem::path& folder);
 
 }  // namespace tavrin::walk

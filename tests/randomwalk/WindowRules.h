@@ -30,7 +30,7 @@ struct Outcome {
 std::string windowOfCode(int code);
 int choicesOfWindow(const std::string& window);
 
-// What must be so once a window that came up with `before` was answered with OK for that choice.
+// What must be true once a window that came up with `before` was answered with OK for that choice.
 Outcome afterOk(const std::string& window, int choice, Outcome before);
 
 }  // namespace tavrin::walk
