@@ -29,7 +29,7 @@ bool FieldReader::truth() const {
 long long FieldReader::wholeNumber() const {
   if (!value.is_number_integer()) mustBe("a whole number");
   const auto read = value.get<long long>();
-  // A number too large would come out as another one, below zero.
+  // A number that is too large would come out negative.
   if (value.is_number_unsigned() && read < 0) mustBe("a smaller number");
   return read;
 }

@@ -8,14 +8,14 @@
 
 namespace tavrin {
 
-// A line that cannot be a command, with the sentence for the reply. The names in it are the
-// script's and may hold NULs, so it is no C string.
+// A line that cannot be a command, with the sentence for the reply. The names in the sentence come
+// from the script and may hold NULs, so it is not a C string.
 struct SyntaxError {
   std::string sentence;
 };
 
-// One field of a line, read in the form that its place asks for. Every function throws a
-// SyntaxError that names the field when it has another form.
+// One field of a line, read in the form that its place calls for. Every function throws a
+// SyntaxError that names the field if it has another form.
 class FieldReader {
  public:
   FieldReader(std::string fieldName, const Json& fieldValue)

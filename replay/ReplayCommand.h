@@ -47,7 +47,7 @@ struct WindowAnswer {
 // A main keyword of the PPD and a choice of it.
 using MarkedChoice = std::pair<std::string, std::string>;
 
-// One line of a script. Only the fields that its verb takes mean something; the others keep their
+// One line of a script. Only the fields that its verb takes have a meaning; the others keep their
 // defaults.
 struct ReplayCommand {
   Verb verb = Verb::state;
@@ -70,16 +70,16 @@ struct ReplayCommand {
   std::vector<WindowAnswer> answers;
 };
 
-// Longer lines (bytes) are no commands.
+// Longer lines (bytes) are refused.
 inline constexpr std::size_t kScriptLineLimit = 16 << 20;
 
-// Takes the next line of a script, without its end; absent behind the last one. Of a line that is
-// too long only the beginning is given, still too long, so that it does not fill the memory.
+// Takes the next line of a script, without its line break; absent after the last one. Of a line
+// that is too long only the beginning is given, one byte past the limit, so that it does not fill
+// memory.
 std::optional<std::string> nextLine(std::istream& script);
 
-// Reads a line of a script. The reason of a failure names the offending word: a line that is no
-// JSON object or too long, an unknown verb, a field that the verb does not take, lacks, or takes in
-// another form.
+// Reads a line of a script. The reason names what is wrong: a line that is too long or not a JSON
+// object, an unknown verb, or a field that is unknown to the verb, missing, or of another form.
 Result<ReplayCommand> parseCommand(const std::string& line);
 
 // Every verb as scripts spell it.

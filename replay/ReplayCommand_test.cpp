@@ -61,7 +61,7 @@ TEST(ReplayCommand, APanelMayBeToldOfAnAbsentChoiceButNothingAbsentIsMarked) {
   EXPECT_TRUE(mentions(reasonFor(R"({"do":"mark","key":"Mirror","choice":null})"), "\"choice\""));
 }
 
-TEST(ReplayCommand, NamesALineThatIsNoObject) {
+TEST(ReplayCommand, NamesALineThatIsNotAnObject) {
   for (const char* line : {"{\"do\":", "[1]", "null", "open", "{} {}", "\"state\""})
     EXPECT_TRUE(mentions(reasonFor(line), line)) << line;
 }
@@ -70,7 +70,7 @@ TEST(ReplayCommand, RefusesBytesThatAreNotUtf8) {
   EXPECT_NE(reasonFor("{\"do\":\"\xff\xfe\"}"), "");
 }
 
-TEST(ReplayCommand, ANulEndsNoLine) {
+TEST(ReplayCommand, ANulDoesNotEndALine) {
   using namespace std::string_literals;
   EXPECT_NE(reasonFor("{\"do\":\"state\"}\0{\"do\":"s), "");
   EXPECT_NE(reasonFor("{\"do\":\"state\"}\0"s), "");

@@ -38,7 +38,7 @@ Json Replayer::play(const std::string& line) {
   // What the command left to the event loop happens before the next one, as it does before a
   // person's next click.
   QCoreApplication::processEvents();
-  // Widgets that are to be deleted later otherwise wait for an event loop, and there is none.
+  // Widgets that are to be deleted later would wait for an event loop, and there is none.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   takePictures();
   return reply(answer, log.take());

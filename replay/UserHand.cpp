@@ -10,7 +10,7 @@
 namespace tavrin {
 namespace {
 
-// Why a person could not work the control; empty when nothing stands in the way.
+// Why a person could not work the control; empty if nothing stands in the way.
 std::string hindrance(const QWidget& widget) {
   if (!widget.isVisible()) return "it cannot be seen";
   if (!widget.isEnabled()) return "it is disabled";
@@ -31,7 +31,7 @@ Failure outOfRange(const std::string& control, const std::string& what, long lon
 Result<QWidget*> UserHand::find(const std::string& control) const {
   if (!panel) return Failure{"Nobody can work " + quoted(control) + ": the panel has no view yet."};
   QWidget* widget = panel->findChild<QWidget*>(QString::fromStdString(control));
-  // Qt finds any widget for the empty name, and parts of widgets by names of its own.
+  // Qt finds any widget by the empty name, and the parts of its widgets by names of its own.
   if (widget && widget->objectName().startsWith("ib")) return widget;
   return Failure{"The panel has no control " + quoted(control) + "."};
 }
@@ -71,7 +71,7 @@ Result<bool> UserHand::slide(const std::string& control, long long value) const 
   const int last = (*slider)->maximum();
   if (value < first || value > last) return outOfRange(control, "value", value, first, last);
   const int position = static_cast<int>(value);
-  // Moving the knob runs the action; a knob that stands there already has to be told to.
+  // Moving the knob runs the action; a knob that is there already has to be told.
   if ((*slider)->sliderPosition() != position)
     (*slider)->setSliderPosition(position);
   else

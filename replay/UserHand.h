@@ -8,12 +8,12 @@ class QWidget;
 
 namespace tavrin {
 
-// Works the controls of a panel as a person does: only what can be seen and is enabled, and with
-// the control's action running afterwards, also when it stands as before. Each gives the reason
-// when a person could not do it; nothing has happened then.
+// Works the controls of a panel as a person does: only those that are visible and enabled, and the
+// control's action runs afterwards, even if nothing changed. Each function gives the reason if a
+// person could not do it; nothing has happened then.
 class UserHand {
  public:
-  // The panel whose controls are worked, as a widget; null when it has no view yet.
+  // The widget of the panel whose controls are worked; null if it has no view yet.
   explicit UserHand(QWidget* panelWidget) : panel(panelWidget) {}
 
   // Picks an item of a pop-up by its place, from 0.

@@ -22,7 +22,7 @@ std::string contentsOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
-// A book of its own folder goes by the title of its start page.
+// A book that is only a folder goes by the title of its start page.
 TEST(SampleHelp, TheR420BookGoesByItsShorterName) {
   const HelpBook book = helpBookAt(kPrinters / "2006/Tavrin420Help");
   EXPECT_EQ(book.name, "Tavrin 420 Series Help");

@@ -140,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, SamplePrinter, testing::ValuesIn(kSamples),
                            return name;
                          });
 
-// A new sample printer belongs into the table above.
+// A new sample printer belongs in the table above.
 TEST(SamplePrinters, AreAllInTheTable) {
   std::set<std::string> listed, present;
   for (const Sample& sample : kSamples) listed.insert(sample.file);
@@ -150,7 +150,7 @@ TEST(SamplePrinters, AreAllInTheTable) {
   EXPECT_EQ(present, listed);
 }
 
-// Every name that the conflict rules rewrite, raw and rewritten, and the names that they look into.
+// Every name that the conflict rules rewrite, before and after, and the names that they look at.
 TEST(SamplePrinters, HaveEveryFormOfPaperName) {
   std::set<std::string> names;
   for (const Sample& sample : kSamples) {

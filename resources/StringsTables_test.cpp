@@ -76,7 +76,7 @@ TEST(StringsTables, NoKeyIsLeftOver) {
   }
 }
 
-// What the value is appended to keeps its blank.
+// Labels to which a value is appended keep their blank.
 TEST(StringsTables, PrefixesEndInABlank) {
   for (const std::string& language : languages()) {
     const Table table = tableOf(language);
@@ -86,7 +86,7 @@ TEST(StringsTables, PrefixesEndInABlank) {
   }
 }
 
-// The one text that may name the printer; a "%" anywhere else would be a slip.
+// The one text that may name the printer; a "%" anywhere else would be a mistake.
 TEST(StringsTables, OnlyTheUtilityStepHasAPlaceholder) {
   for (const std::string& language : languages()) {
     for (const auto& [key, text] : tableOf(language)) {

@@ -28,7 +28,7 @@ def listed: to_entries | map("    \(.key): \(.value)") | join("\n");
 
 def changes($before): with_entries(select($before[.key] != .value));
 
-# What a person reads on a pop-up's item; before the panel is shown, its number.
+# What a person reads on a pop-up's item; its number until the panel is shown.
 def item($state): $state.controls[.control].items[.index].title // "item \(.index + 1)";
 
 def name: setting_names[.control] // .control;
@@ -75,7 +75,7 @@ def outcome($reply; $before):
   elif $reply.state then $reply.state | settings | changes($before) | listed | select(. != "")
   else empty end;
 
-# What was there before the panel was shown nobody has seen.
+# Nobody saw what was there before the panel was shown.
 reduce range($replies | length) as $i ({said: [], state: null, visible: false};
   $commands[$i] as $command | $replies[$i] as $reply
   | (.visible or $command.do == "willShow") as $visible

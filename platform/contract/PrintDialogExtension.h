@@ -28,9 +28,9 @@ class PDEPlugInCallback {
  public:
   virtual ~PDEPlugInCallback() = default;
 
-  // The parsed PPD of the selected printer; null when it has none.
+  // The parsed PPD of the selected printer; null if it has none.
   virtual ppd_file_s* ppdFile() = 0;
-  // The job's print settings and page format; null when the host has none.
+  // The job's print settings and page format; null if the host has none.
   virtual const PMPrintSettings* printSettings() = 0;
   virtual const PMPageFormat* pageFormat() = 0;
 
@@ -60,13 +60,13 @@ class PDEPanel {
   virtual bool saveValuesAndReturnError(std::string* error) = 0;
   // Takes the choices that are marked in the PPD.
   virtual bool restoreValuesAndReturnError(std::string* error) = 0;
-  // The PPD main keywords that the panel shows; the host leaves them out of its own panes.
+  // The PPD main keywords that the panel shows; the host omits them from its own panes.
   virtual std::vector<std::string> supportedPPDOptionKeys() = 0;
-  // A choice was changed elsewhere in the dialog.
+  // A choice has been changed elsewhere in the dialog.
   virtual void PPDOptionKeyValueDidChange(const OptString& key, const OptString& ppdChoice) = 0;
   // Lines for the dialog's summary: label to value.
   virtual std::map<std::string, OptString> summaryInfo() = 0;
-  // False when the panel has shown help of its own, true when the dialog should show its help.
+  // False if the panel has shown its own help, true if the dialog should show the dialog's.
   virtual bool shouldShowHelp() = 0;
 };
 
@@ -77,17 +77,17 @@ class PDEPlugIn {
  public:
   virtual ~PDEPlugIn() = default;
 
-  // Tells the plug-in its bundle (may be null); false when it cannot work.
+  // Tells the plug-in its bundle (may be null); false if it cannot work.
   virtual bool initWithBundle(const Bundle* bundle) = 0;
 
-  // The panels for a panel type, each with that host; absent when there are none. The host owns
+  // New panels of a panel type, each talking to that host; absent if there are none. The host owns
   // them and outlives them.
   virtual std::optional<PDEPanels> PDEPanelsForType(const std::string& type,
                                                     PDEPlugInCallback* withHostInfo) = 0;
 };
 
 // The binary contract with a module. Host and module must be built against the same number; it
-// grows with every change to a class above, in PrintJob.h or in Toolkit.h.
+// grows with every change to a class above, in PrintJob.h or in the toolkit.
 inline constexpr unsigned kPDEInterfaceVersion = 1;
 
 enum class PDEModuleAnswer : int {

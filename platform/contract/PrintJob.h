@@ -12,7 +12,7 @@ class PMPrintSettings {
  public:
   virtual ~PMPrintSettings() = default;
 
-  // PMPrintSettingsGetValue: the value that is set for a key; absent when none is.
+  // PMPrintSettingsGetValue: the value set for a key; absent if none is.
   virtual OptString value(const std::string& key) const = 0;
 };
 
@@ -24,7 +24,7 @@ class PMPaper {
  public:
   virtual ~PMPaper() = default;
 
-  // PMPaperGetPPDPaperName: the paper's keyword in the PPD's "PageSize"; absent when it has none.
+  // PMPaperGetPPDPaperName: the paper's keyword in the PPD's "PageSize"; absent if it has none.
   virtual OptString ppdPaperName() const = 0;
 };
 

@@ -12,7 +12,7 @@ constexpr std::size_t kTrailerSize = 32;
 // Real lists nest a handful of times. A limit on depth also ends every cycle, and libplist
 // compares each object with all that it lies in.
 constexpr int kDepthLimit = 32;
-// What a list may grow to in memory, and about what an object takes of that besides its bytes.
+// What a list may grow to in memory, and about how much of that an object takes besides its bytes.
 constexpr std::size_t kGrowthLimit = 4 * 1024 * 1024;
 constexpr std::size_t kObjectSize = 128;
 
@@ -51,7 +51,7 @@ class BinaryList {
   bool charge(std::size_t size);
   bool hasNul(const Object& object, std::size_t characterSize) const;
 
-  // Whether so many bytes lie before the offset table.
+  // Whether that many bytes lie before the offset table.
   bool holds(std::size_t at, std::uint64_t size) const {
     return at <= offsetTable && size <= offsetTable - at;
   }
@@ -120,8 +120,8 @@ bool BinaryList::readObject(std::uint64_t index, Object& object) const {
   return !hasCount || object.count < 0xF || readCount(object);
 }
 
-// Objects are followed wherever they are used, shared ones again each time, because libplist
-// copies them there.
+// Objects are followed wherever they are used, shared ones each time anew, because libplist copies
+// them there.
 bool BinaryList::visit(std::uint64_t index, int depth) {
   Object object;
   if (depth > kDepthLimit || !readObject(index, object)) return false;

@@ -62,7 +62,7 @@ bool isCLocale(std::string_view locale) {
   return name == "C" || name == "POSIX";
 }
 
-// Languages become folder names, so nothing else may come through.
+// Languages become folder names, so nothing else may pass.
 bool isLanguage(std::string_view name) {
   constexpr std::string_view kAllowed =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-@";

@@ -30,14 +30,14 @@ bool isInside(const fs::path& file, const fs::path& folder) {
   return !relative.empty() && *relative.begin() != "..";
 }
 
-// The file of that name in the folder; empty when there is none or it is elsewhere in truth.
+// The file of that name in the folder; empty if there is none or it really lies elsewhere.
 fs::path pageIn(const fs::path& folder, const fs::path& name) {
   fs::path file = folder / name;
   std::error_code failure;
   return fs::is_regular_file(file, failure) && isInside(file, folder) ? file : fs::path();
 }
 
-// The folder's one HTML page; empty when it has none, or several of which any might be meant.
+// The folder's only HTML page; empty if it has none or several.
 fs::path onlyPage(const fs::path& folder) {
   fs::path only;
   std::error_code failure;

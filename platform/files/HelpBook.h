@@ -17,12 +17,12 @@ struct HelpBook {
 // Reads the book at a folder on this machine, in the user's language where it has pages for it:
 // in the folder that "CFBundleHelpBookFolder" names among the bundle's resources, else in the
 // resources, else in the folder itself. The start page is index.html, index.htm or the only page,
-// and never a file from outside. A book without a start page has an empty one; a
-// folder that is no book has an empty name as well.
+// and never a file from outside. It is empty for a book without one; for a folder that is not a
+// book, so is the name.
 HelpBook helpBookAt(const std::filesystem::path& folder);
 
-// The file of a page inside the book; empty when the book has no such page or the name leads out
-// of the book.
+// The file of a page inside the book; empty if the book has no such page or the name leads out of
+// the book.
 std::filesystem::path helpPage(const HelpBook& book, const OptString& page);
 
 }  // namespace tavrin

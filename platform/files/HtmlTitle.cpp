@@ -18,7 +18,8 @@ constexpr string_view kBlanks = " \t\r\n\f";
 constexpr std::array<std::pair<string_view, char>, 4> kEntities = {
     {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}}};
 
-// Cuts the text before the mark off and returns it, the mark dropped; all of it without a mark.
+// Takes off the text before the mark, and the mark, and returns the text; takes all if there is no
+// mark.
 string_view takeUntil(string_view& text, string_view mark) {
   const std::size_t end = text.find(mark);
   const string_view taken = text.substr(0, end);
@@ -36,7 +37,7 @@ string_view takeWord(string_view& text, string_view ends) {
   return word;
 }
 
-// The value of an attribute, at the place where it starts.
+// The value of an attribute, from where it starts.
 string_view takeValue(string_view& tag) {
   if (tag.starts_with('"') || tag.starts_with('\'')) {
     const string_view quote = tag.substr(0, 1);
@@ -46,7 +47,7 @@ string_view takeValue(string_view& tag) {
   return takeWord(tag, kBlanks);
 }
 
-// An attribute's value in what follows a tag's name; empty when the tag has none of that name.
+// An attribute's value in what follows a tag's name; empty if the tag has no such attribute.
 string_view attribute(string_view tag, string_view wanted) {
   while (true) {
     skip(tag, " \t\r\n\f/=");
@@ -89,7 +90,7 @@ struct Titles {
   std::string title;
 };
 
-// Takes one tag, from behind its "<", and with <title> the text up to the next tag.
+// Takes one tag, which starts after its "<"; reads a title where it declares one.
 void takeTag(string_view& rest, Titles& titles) {
   if (rest.starts_with("!--")) {
     takeUntil(rest, "-->");

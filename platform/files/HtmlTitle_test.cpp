@@ -36,7 +36,7 @@ TEST(HtmlTitle, IsNotLookedForInComments) {
   EXPECT_FALSE(htmlTitle("<!-- <title>old</title>"));
 }
 
-TEST(HtmlTitle, IsAbsentInWhatDeclaresNone) {
+TEST(HtmlTitle, IsAbsentIfNoneIsDeclared) {
   for (const char* html : {"", "text", "<p>text</p>", "<title></title>", "<title> \n </title>",
                            "<title>\xFF\xFE</title>", "<titles>x</titles>", "title>x</title>"}) {
     EXPECT_FALSE(htmlTitle(html)) << html;

@@ -12,17 +12,17 @@ namespace {
 
 // Real lists nest a handful of times.
 constexpr std::size_t kDepthLimit = 32;
-// About 100 bytes each in libplist, and as many in ours.
+// About 100 bytes each in libplist, and as many here.
 constexpr std::size_t kElementLimit = 65'000;
-// libplist compares a new key with the ones before it, with all of them where the keys are made
-// so: a dictionary of n keys costs n * n. This many take some 12 ms: one dictionary of 1,700 keys.
+// libplist compares a new key with the ones before it, with all of them if the keys are chosen so:
+// a dictionary of n keys costs n * n. This many take about 12 ms: one dictionary of 1,700 keys.
 constexpr std::size_t kComparisonLimit = 3'000'000;
-// libplist moves the rest of a text at each character reference in it. Some 3 ms.
+// libplist moves the rest of a text at each character reference in it. About 3 ms.
 constexpr std::size_t kMoveLimit = 300'000'000;
 
 using std::string_view;
 
-// The number of elements, or more: comments count as well, so that there is no way to hide one.
+// The number of elements, or more: comments count as well, so that no element can hide.
 std::size_t elementCount(string_view list) {
   const auto all = std::count(list.begin(), list.end(), '<');
   std::size_t closing = 0;
@@ -106,8 +106,8 @@ bool Nesting::skipPast(string_view end) {
   return true;
 }
 
-// A tag, a declaration or a processing instruction. One with a ">" inside quotes is refused: no
-// list needs it, and readers differ on where it ends.
+// A tag, a declaration or a processing instruction. One with a ">" in quotes is refused: no list
+// needs it, and readers differ on where it ends.
 bool Nesting::takeTag() {
   const std::size_t end = rest.find('>');
   if (end == string_view::npos) return false;

@@ -20,7 +20,7 @@ TEST(InterfaceFile, TakesPlainWidgets) {
   EXPECT_TRUE(isSoundInterface(ui("<widget class=\"QLabel\" name=\"a\"/>")));
 }
 
-TEST(InterfaceFile, RefusesWhatIsNoInterface) {
+TEST(InterfaceFile, RefusesWhatIsNotAnInterface) {
   for (const char* bytes : {"", "<ui>", "hello", "<ui version=\"4.0\"/>", "<html/>"})
     EXPECT_FALSE(isSoundInterface(bytes)) << bytes;
 }
@@ -105,7 +105,7 @@ TEST_F(InterfaceFileOnDisk, IsRefusedWhenItIsTooLarge) {
   EXPECT_FALSE(readInterfaceFile(write(ui("").toStdString() + std::string(300 * 1024, ' '))));
 }
 
-TEST_F(InterfaceFileOnDisk, IsNoPipeAndNoFolder) {
+TEST_F(InterfaceFileOnDisk, IsNeitherAPipeNorAFolder) {
   const auto pipe = folder.filePath("pipe").toStdString();
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   EXPECT_FALSE(readInterfaceFile(pipe));

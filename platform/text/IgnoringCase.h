@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
-// Comparing keywords, option names and tags, whose letter case does not count. Only the letters of
-// ASCII have a case here, whatever the user's language.
+// For comparing keywords, option names and tags, whose letter case does not matter. Only ASCII
+// letters have a case here, whatever the user's language.
 
 namespace tavrin {
 

@@ -7,12 +7,12 @@
 namespace tavrin {
 
 // Why something could not be done: a sentence for the person at the screen that names the thing
-// and, where there is one, the way out.
+// and, if there is one, the way out.
 struct Failure {
   std::string reason;
 };
 
-// The value of a call that can fail, or the reason why there is none.
+// The value of a call that can fail, or the reason why it failed.
 template <class T>
 class [[nodiscard]] Result {
  public:
@@ -21,13 +21,13 @@ class [[nodiscard]] Result {
 
   explicit operator bool() const { return std::holds_alternative<T>(content); }
 
-  // The value; only after a test that there is one.
+  // The value; call only after checking that there is one.
   T& operator*() { return std::get<T>(content); }
   const T& operator*() const { return std::get<T>(content); }
   T* operator->() { return &std::get<T>(content); }
   const T* operator->() const { return &std::get<T>(content); }
 
-  // The reason; only after a test that there is no value.
+  // The reason; call only after checking that there is no value.
   const std::string& reason() const { return std::get<Failure>(content).reason; }
 
  private:

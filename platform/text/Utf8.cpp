@@ -8,7 +8,7 @@
 namespace tavrin {
 namespace {
 
-// The number of bytes in the sequence that a byte starts; 0 for a byte that can start none.
+// The number of bytes in the sequence that a byte starts; 0 for a byte that cannot start one.
 std::size_t sequenceLength(unsigned char lead) {
   if (lead < 0x80) return 1;
   if (lead < 0xC2) return 0;
@@ -19,7 +19,7 @@ std::size_t sequenceLength(unsigned char lead) {
 
 bool isContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
 
-// The smallest character that needs a sequence of so many bytes.
+// The smallest character that needs a sequence of that many bytes.
 constexpr std::array<std::uint32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
 
 bool isSequence(std::string_view bytes) {

@@ -5,12 +5,11 @@
 namespace tavrin {
 
 // Whether the bytes are UTF-8 throughout: no stray or missing continuation bytes, no overlong
-// forms, no surrogates, nothing above U+10FFFF. The empty text is. Texts from files go through
-// here before anything shows or compares them.
+// forms, no surrogates, nothing above U+10FFFF. True of the empty text. Texts from files are
+// checked with this before anything shows or compares them.
 bool isUtf8(std::string_view bytes);
 
-// The bytes without the beginning of a character that was cut at their end: what is left of a text
-// of UTF-8 that had to be made shorter.
+// The bytes of a text in UTF-8 that was cut short, without the character that the cut went through.
 std::string_view wholeCharacters(std::string_view bytes);
 
 }  // namespace tavrin

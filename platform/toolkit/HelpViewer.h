@@ -7,7 +7,7 @@
 namespace tavrin {
 
 // Shows help books. It exists so that a panel can ask for a page of its printer's help without
-// knowing whether a browser, a window of the dialog or a test looks at it.
+// knowing whether a browser, a window of the dialog or a test will show it.
 class HelpViewer {
  public:
   virtual ~HelpViewer() = default;
@@ -19,7 +19,7 @@ class HelpViewer {
   static void install(HelpViewer* viewer);
 
   // AHRegisterHelpBook: makes the book known. The path is as the printer's software names it,
-  // without the root folder; the caller has seen that something is there.
+  // without the root folder; the caller has checked that it exists.
   virtual void registerHelpBook(const std::string& path) = 0;
 
   // AHGotoPage: shows a page of a registered book, its start page when the page is absent.

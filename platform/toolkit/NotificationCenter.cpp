@@ -21,8 +21,8 @@ void NotificationCenter::removeObserver(const void* owner) {
   if (deliveries == 0) sweep();
 }
 
-// While a notification is under way its handlers must stay where they are, so removed observers
-// are only marked until the outermost post is over, also when a handler throws.
+// Handlers must stay where they are while a notification is under way, so removed observers are
+// only marked until the outermost post is over, even if a handler throws.
 void NotificationCenter::sweep() {
   observers.remove_if([](const Observer& o) { return o.owner == nullptr; });
 }

@@ -1,5 +1,5 @@
-// Talks to the program as another program would: each command is written only when the reply to the
-// one before has come. The script is a pipe with a name, as reading standard input would flush the
+// Talks to the program as another program would: each command is written only after the reply to
+// the one before. The script is a named pipe, because reading standard input would flush the
 // replies by itself.
 //
 //     check_conversation PROGRAM
@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
   if (argc != 2) return 2;
   const QTemporaryDir folder;
   QFile script(folder.filePath("script"));
-  if (mkfifo(QFile::encodeName(script.fileName()), 0600) != 0) fail("There is no pipe.");
+  if (mkfifo(QFile::encodeName(script.fileName()), 0600) != 0) fail("The pipe cannot be made.");
   QProcess program;
   program.start(argv[1], {script.fileName()});
   if (!script.open(QFile::WriteOnly | QFile::Unbuffered)) fail("The pipe cannot be opened.");

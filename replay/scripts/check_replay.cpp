@@ -1,6 +1,6 @@
 // Plays the script NAME.jsonl and compares the replies with NAME.expected.jsonl, which a person has
 // read and kept, byte for byte. Says which command answered differently and where. Standard error
-// must hold the lines of NAME.expected.err, and none where there is no such file.
+// must hold the lines of NAME.expected.err, or nothing if there is no such file.
 //
 //     check_replay PROGRAM STATUS NAME ACTUAL [ARGUMENT...]
 //

@@ -8,7 +8,7 @@
 #include "platform/contract/PrintJob.h"
 #include "platform/toolkit/HelpViewer.h"
 
-// The rest of what surrounds a panel: a job, a host and a help viewer that remember.
+// What surrounds a panel besides the toolkit: a job, a host and a help viewer that remember.
 
 namespace tavrin {
 

@@ -9,7 +9,7 @@
 
 namespace tavrin {
 
-// What happened to a panel, in order; it outlives the panel.
+// What happened to a panel, in order. Outlives the panel.
 struct PanelDiary {
   std::vector<std::string> calls;
   std::vector<std::pair<std::string, OptString>> told;  // of choices made elsewhere
