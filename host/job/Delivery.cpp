@@ -5,7 +5,7 @@
 #include "host/job/JobOptions.h"
 #include "host/server/IppRequest.h"
 #include "host/support/CupsOptions.h"
-#include "host/support/Sentences.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -78,8 +78,8 @@ Cancellable<Done> Delivery::sendBytes(Document& document, const CancelFlag& canc
 }
 
 NoValue Delivery::noAnswer() const {
-  return server.noAnswer(inQuotes(jobTitle(request)) + " could not be printed on " +
-                         inQuotes(request.printer));
+  return server.noAnswer(quoted(jobTitle(request)) + " could not be printed on " +
+                         quoted(request.printer));
 }
 
 }  // namespace tavrin

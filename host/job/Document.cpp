@@ -12,7 +12,7 @@
 #include "host/job/DocumentName.h"
 #include "host/job/ReadWhenThere.h"
 #include "host/job/RereadableInput.h"
-#include "host/support/Sentences.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -21,7 +21,7 @@ namespace {
 constexpr std::size_t kLookAhead = 512;
 
 Failure about(const std::string& document, const std::string& problem) {
-  return {"The document " + inQuotes(document) + " " + problem + "."};
+  return {"The document " + quoted(document) + " " + problem + "."};
 }
 
 }  // namespace

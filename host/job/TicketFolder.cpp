@@ -8,7 +8,7 @@
 #include "host/job/DurableFile.h"
 #include "host/job/HiddenFolder.h"
 #include "host/job/Ticket.h"
-#include "host/support/Sentences.h"
+#include "platform/text/Quoted.h"
 #include "platform/text/Utf8.h"
 
 namespace tavrin {
@@ -22,7 +22,7 @@ constexpr int kMostFolders = 10000;
 constexpr std::size_t kLongestName = 100;  // bytes
 
 Failure cannotWrite(const fs::path& output) {
-  return {"The job cannot be written to the folder " + inQuotes(output.string()) + ": " +
+  return {"The job cannot be written to the folder " + quoted(output.string()) + ": " +
           std::strerror(errno) + ". Choose another folder."};
 }
 
@@ -73,7 +73,7 @@ Result<fs::path> publish(HiddenFolder& folder, const fs::path& output, const std
     }
     if (errno != EEXIST) return cannotWrite(output);
   }
-  return Failure{inQuotes(output.string()) + " is full of jobs named " + inQuotes(name) +
+  return Failure{quoted(output.string()) + " is full of jobs named " + quoted(name) +
                  ". Move some of them away."};
 }
 

@@ -1,8 +1,8 @@
 #include "host/panels/PlugInLoader.h"
 
 #include "host/panels/PlugInModule.h"
-#include "host/support/Sentences.h"
 #include "platform/files/FileName.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -41,8 +41,8 @@ Result<std::unique_ptr<PDEPlugIn>> principalObject(const fs::path& bundle,
                                      std::to_string(kPDEInterfaceVersion) +
                                      ". Install the plug-in that belongs to this program.");
   if (answer != PDEModuleAnswer::made || !made)
-    return plugInFailure(
-        bundle, "lacks its principal class, " + inQuotes(className) + ". Install it again.");
+    return plugInFailure(bundle,
+                         "lacks its principal class, " + quoted(className) + ". Install it again.");
   return std::unique_ptr<PDEPlugIn>(made);
 }
 
@@ -51,7 +51,7 @@ Result<std::unique_ptr<PDEPlugIn>> principalObject(const fs::path& bundle,
 Result<LoadedPlugIn> loadPlugIn(const fs::path& bundleFolder) {
   std::error_code error;
   if (!fs::is_directory(bundleFolder, error))
-    return Failure{"There is no plug-in bundle " + inQuotes(bundleFolder.string()) + "."};
+    return Failure{"There is no plug-in bundle " + quoted(bundleFolder.string()) + "."};
   auto bundle = std::make_unique<const Bundle>(Bundle::atPath(bundleFolder));
   const auto description = describe(*bundle);
   if (!description) return Failure{description.reason()};

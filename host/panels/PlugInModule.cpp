@@ -4,7 +4,7 @@
 #include <dlfcn.h>
 #include <system_error>
 
-#include "host/support/Sentences.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -34,7 +34,7 @@ bool anybodyCanWrite(const fs::path& path) {
 }  // namespace
 
 Failure plugInFailure(const fs::path& bundle, const std::string& problem) {
-  return {"The plug-in " + inQuotes(bundle.string()) + " " + problem};
+  return {"The plug-in " + quoted(bundle.string()) + " " + problem};
 }
 
 Result<fs::path> moduleFile(const fs::path& bundle, const std::string& executable) {
@@ -46,7 +46,7 @@ Result<fs::path> moduleFile(const fs::path& bundle, const std::string& executabl
                                module->parent_path(), *module}) {
     if (anybodyCanWrite(path))
       return plugInFailure(bundle, "is not safe to load: every user can write to " +
-                                       inQuotes(path.string()) +
+                                       quoted(path.string()) +
                                        ". Take that permission away with chmod o-w.");
   }
   return module;

@@ -6,6 +6,7 @@
 
 #include "host/support/Sentences.h"
 #include "platform/files/FileName.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -54,14 +55,14 @@ std::vector<fs::path> trustedPlugInFolders() {
 Result<fs::path> findPlugIn(const std::string& extension, const std::vector<fs::path>& folders) {
   const std::string name = bundleName(extension);
   if (name.empty())
-    return Failure{inQuotes(extension) + " names no plug-in: a plug-in's name ends in .plugin."};
+    return Failure{quoted(extension) + " names no plug-in: a plug-in's name ends in .plugin."};
   std::vector<std::string> places;
   for (const fs::path& folder : folders) {
     std::error_code error;
     if (fs::is_directory(folder / name, error)) return folder / name;
     places.push_back(folder.string());
   }
-  return Failure{"The plug-in " + inQuotes(name) + " is not installed; it was looked for in " +
+  return Failure{"The plug-in " + quoted(name) + " is not installed; it was looked for in " +
                  joined(places) + "."};
 }
 

@@ -5,6 +5,7 @@
 #include "host/support/CupsOptions.h"
 #include "host/support/Sentences.h"
 #include "platform/text/IgnoringCase.h"
+#include "platform/text/Quoted.h"
 #include "ppd/PPDRecords.h"
 
 namespace tavrin {
@@ -97,8 +98,8 @@ std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options)
   for (const auto& [name, value] : options) {
     const ppd_option_t* option = ppdFindOption(&ppd, name.c_str());
     if (option && !markValue(ppd, *option, value))
-      problems.push_back("The printer's option " + inQuotes(option->keyword) + " has no choice " +
-                         inQuotes(value) + ".");
+      problems.push_back("The printer's option " + quoted(option->keyword) + " has no choice " +
+                         quoted(value) + ".");
   }
   return problems;
 }

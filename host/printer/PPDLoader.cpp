@@ -9,8 +9,8 @@
 #include <unistd.h>
 #include <vector>
 
-#include "host/support/Sentences.h"
 #include "platform/files/FileDescriptor.h"
+#include "platform/text/Quoted.h"
 #include "platform/text/Utf8.h"
 #include "ppd/PPDRecords.h"
 
@@ -19,7 +19,7 @@ namespace tavrin {
 namespace {
 
 Failure about(const std::string& name, const std::string& problem) {
-  return {"The printer description " + inQuotes(name) + " " + problem + "."};
+  return {"The printer description " + quoted(name) + " " + problem + "."};
 }
 
 std::string megabytes(std::size_t bytes) { return std::to_string(bytes >> 20) + " MiB"; }

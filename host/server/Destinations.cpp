@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "host/server/IppRequest.h"
-#include "host/support/Sentences.h"
+#include "platform/text/Quoted.h"
 #include "ppd/PPDRecords.h"
 
 namespace tavrin {
@@ -96,7 +96,7 @@ Cancellable<PrinterState> readPrinterState(const std::string& queue, const Cance
   if (!server) return server.why();
   const IppPtr answer = ask(server->http(), printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue));
   if (!answer)
-    return server->noAnswer("The printer " + inQuotes(queue) + " cannot be asked for its state");
+    return server->noAnswer("The printer " + quoted(queue) + " cannot be asked for its state");
   PrinterState state;
   state.activity = activityFrom(integerIn(*answer, "printer-state"));
   state.acceptsJobs = booleanIn(*answer, "printer-is-accepting-jobs", true);

@@ -6,8 +6,8 @@
 #include <unistd.h>
 
 #include "host/printer/PPDLoader.h"
-#include "host/support/Sentences.h"
 #include "platform/files/FileDescriptor.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -46,14 +46,13 @@ bool receive(const PrintServer& server, int file) {
 // What the server sends as the queue's PPD, in a file of memory: nobody else can open it, and
 // nothing is left behind.
 Cancellable<FileDescriptor> fetch(const PrintServer& server, const std::string& queue) {
-  const std::string printer = "The printer " + inQuotes(queue);
-  const std::string problem =
-      "The description of the printer " + inQuotes(queue) + " cannot be read";
+  const std::string printer = "The printer " + quoted(queue);
+  const std::string problem = "The description of the printer " + quoted(queue) + " cannot be read";
   const http_status_t status = get(server.http(), "/printers/" + queue + ".ppd");
   if (server.gaveUp()) return server.noAnswer(problem);
   if (status == HTTP_STATUS_NOT_FOUND) return Failure{printer + " does not exist or has no PPD."};
   if (status != HTTP_STATUS_OK)
-    return Failure{problem + ": the print server says " + inQuotes(httpStatus(status)) + "."};
+    return Failure{problem + ": the print server says " + quoted(httpStatus(status)) + "."};
   FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
   if (receive(server, file.get())) return file;
   if (server.gaveUp()) return server.noAnswer(problem);
@@ -64,7 +63,7 @@ Cancellable<FileDescriptor> fetch(const PrintServer& server, const std::string& 
 
 Cancellable<PPDPtr> readPrinterPPD(const std::string& queue, const CancelFlag& cancel,
                                    Patience patience) {
-  if (!fitsInPath(queue)) return Failure{inQuotes(queue) + " is not the name of a printer."};
+  if (!fitsInPath(queue)) return Failure{quoted(queue) + " is not the name of a printer."};
   const auto server = PrintServer::connect(cancel, patience);
   if (!server) return server.why();
   const auto file = fetch(*server, queue);

@@ -8,9 +8,6 @@
 
 namespace tavrin {
 
-// A name as a sentence shows it.
-inline std::string inQuotes(std::string_view name) { return '"' + std::string(name) + '"'; }
-
 // The words with the separator between them.
 inline std::string joined(const std::vector<std::string>& words,
                           std::string_view separator = ", ") {
