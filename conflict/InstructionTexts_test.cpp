@@ -131,24 +131,5 @@ TEST_F(Instructions, AStepOfMostOfAMegabyteIsShown) {
   EXPECT_NE(text(3).find(step + "%nTavrin P1\n3) "), std::string::npos);
 }
 
-TEST_F(Instructions, TheWindowTextsAreTranslatedBeforeTheyAreJoined) {
-  const TestStrings strings(Translations{{"Paper Type: ", "Papier – %@ "},
-                                         {"Paper Size: ", "Größe: "},
-                                         {"is not compatible with", "verträgt sich nicht mit"},
-                                         {"Conflicting settings", "Widerspruch"},
-                                         {"Paper Type: Plain", "Papier – Normal"},
-                                         {"OK", "Gut"}});
-  panel.setPaper("Greeting");
-  panel.format.name = "BannerBA4";
-  process({choosing("MsgFive", 1)});
-  const SeenWindow& window = seen.at(0);
-  EXPECT_EQ(window.label("ibLabelA_MsgFive"), "Papier – %@ Greeting Card");
-  EXPECT_EQ(window.label("ibLabelB_MsgFive"), "verträgt sich nicht mit");
-  EXPECT_EQ(window.label("ibLabelC_MsgFive"), "Größe: Banner");
-  EXPECT_EQ(window.label("ibLabelA_FirstButton_MsgFive"), "Papier – Normal");
-  EXPECT_EQ(window.title, "Widerspruch");
-  EXPECT_EQ(toolkit.interface("Conflicts")->button("ibOkButton_MsgFive").title, "Gut");
-}
-
 }  // namespace
 }  // namespace tavrin
