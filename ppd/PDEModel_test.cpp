@@ -83,6 +83,30 @@ TEST(PDEModel, KnowsAbsentFromEmpty) {
   }
 }
 
+TEST(PDEModel, AnswersForASettingAsItsNamedFunctionsDo) {
+  ppd_option_t record{};
+  PDEModel model;
+  model.bind(Setting::mirror, &record);
+  model.choose(Setting::mirror, {"On", "True"});
+  EXPECT_EQ(model.mirrorOption(), &record);
+  EXPECT_EQ(model.mirror(), "On");
+  EXPECT_EQ(model.mirrorTicket(), "True");
+  model.setMIrrorTicket("False");
+  EXPECT_EQ(model.choice(Setting::mirror), (SettingChoice{"On", "False"}));
+}
+
+TEST(PDEModel, HasOneDryTimeWhicheverKindOfOptionItIsBoundTo) {
+  ppd_option_t record{};
+  PDEModel popUp;
+  popUp.setDryTimePopUpOption(&record);
+  EXPECT_EQ(popUp.option(Setting::dryTime), &record);
+  EXPECT_EQ(popUp.dryTimeCheckBoxOption(), nullptr);
+  PDEModel checkBox;
+  checkBox.setDryTimeCheckBoxOption(&record);
+  EXPECT_EQ(checkBox.option(Setting::dryTime), &record);
+  EXPECT_EQ(checkBox.dryTimePopUpOption(), nullptr);
+}
+
 TEST(PDEModel, MayBeGivenTheTextThatItHolds) {
   PDEModel model;
   model.setMirror("On");

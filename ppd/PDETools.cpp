@@ -11,9 +11,9 @@ namespace {
 constexpr char kPageSizeKey[] = "PageSize";
 constexpr std::string_view kPrintersFolder = "/Library/Printers/Tavrin/";
 
-OptString keywordOrText(const ppd_choice_t* choice, bool keyword) {
+OptString decoded(const ppd_choice_t* choice, ChoicePart part) {
   if (choice == nullptr) return std::nullopt;
-  return decodeUTF8(keyword ? choice->choice : choice->text);
+  return decodeUTF8(part == ChoicePart::keyword ? choice->choice : choice->text);
 }
 
 // The value of the first attribute of that name; null when there is none.
@@ -68,18 +68,35 @@ OptString PDETools::getOptionsDefault(const std::string& option, ppd_file_t* wit
 }
 
 OptString PDETools::getLocalizedPaperSize(const OptString& paper, ppd_file_t* withPPD) const {
-  return getOptionsChoice(paper, ppdFindOption(withPPD, kPageSizeKey), false);
+  return getOptionsChoice(paper, ppdFindOption(withPPD, kPageSizeKey), ChoicePart::text);
 }
 
 OptString PDETools::getOptionsChoice(const OptString& choice, ppd_option_t* withOption,
-                                     bool andFlag) const {
+                                     ChoicePart part) const {
   if (withOption == nullptr || !choice) return std::nullopt;
-  return keywordOrText(ppdFindChoice(withOption, choice->c_str()), andFlag);
+  return decoded(ppdFindChoice(withOption, choice->c_str()), part);
+}
+
+SettingChoice PDETools::optionsChoice(const OptString& keyword, ppd_option_t* option) const {
+  return {getOptionsChoice(keyword, option, ChoicePart::text),
+          getOptionsChoice(keyword, option, ChoicePart::keyword)};
+}
+
+SettingChoice PDETools::choiceAt(long index, const ppd_option_t* option,
+                                 StringEncoding encoding) const {
+  if (option == nullptr || index < 0 || index >= option->num_choices) return {};
+  const ppd_choice_t& choice = option->choices[index];
+  return {decode(choice.text, encoding), decode(choice.choice, encoding)};
 }
 
 OptString PDETools::getPPDMarkedChoice(const std::string& option, ppd_file_t* withPPD,
-                                       bool andFlag) const {
-  return keywordOrText(ppdFindMarkedChoice(withPPD, option.c_str()), andFlag);
+                                       ChoicePart part) const {
+  return decoded(ppdFindMarkedChoice(withPPD, option.c_str()), part);
+}
+
+SettingChoice PDETools::markedChoice(const std::string& option, ppd_file_t* ppd) const {
+  return {getPPDMarkedChoice(option, ppd, ChoicePart::text),
+          getPPDMarkedChoice(option, ppd, ChoicePart::keyword)};
 }
 
 OptString PDETools::getModelYear(ppd_file_t* ppd) const {

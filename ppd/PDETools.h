@@ -5,6 +5,7 @@
 #include <cups/ppd.h>
 
 #include "platform/text/OptionalString.h"
+#include "ppd/Setting.h"
 #include "ppd/TextEncoding.h"
 
 namespace tavrin {
@@ -15,6 +16,12 @@ inline constexpr char kWindowsANSI[] = "WindowsANSI";
 inline constexpr char kJIS83_RKSJ[] = "JIS83-RKSJ";
 inline constexpr char kUTF_8[] = "UTF-8";
 inline constexpr char kUTF8[] = "UTF8";
+
+// The two sides of a choice: the text for people and the keyword as the PPD spells it.
+enum class ChoicePart { text, keyword };
+
+// The part that a flag of the named operations means.
+constexpr ChoicePart choicePart(bool flag) { return flag ? ChoicePart::keyword : ChoicePart::text; }
 
 // Every question that the panel asks of a PPD. Stateless: make one where it is needed. PPDs and
 // option records are borrowed, and may be null unless an operation says otherwise; what a PPD does
@@ -43,13 +50,28 @@ class PDETools {
   // The text of a paper name in "PageSize".
   OptString getLocalizedPaperSize(const OptString& paper, ppd_file_t* withPPD) const;
 
-  // A choice of an option, found by its keyword: the keyword as the PPD spells it (flag true) or
-  // the text for people (flag false).
-  OptString getOptionsChoice(const OptString& choice, ppd_option_t* withOption, bool andFlag) const;
+  // A choice of an option, found by its keyword: the keyword (flag true) or the text (flag false).
+  OptString getOptionsChoice(const OptString& choice, ppd_option_t* withOption,
+                             bool andFlag) const {
+    return getOptionsChoice(choice, withOption, choicePart(andFlag));
+  }
+  OptString getOptionsChoice(const OptString& choice, ppd_option_t* withOption,
+                             ChoicePart part) const;
+  // Both parts of such a choice.
+  SettingChoice optionsChoice(const OptString& keyword, ppd_option_t* option) const;
+
+  // The choice at a position of an option; absent when there is no such position.
+  SettingChoice choiceAt(long index, const ppd_option_t* option, StringEncoding encoding) const;
 
   // The marked choice of an option: its keyword (flag true) or text (flag false); absent when
   // nothing is marked.
-  OptString getPPDMarkedChoice(const std::string& option, ppd_file_t* withPPD, bool andFlag) const;
+  OptString getPPDMarkedChoice(const std::string& option, ppd_file_t* withPPD, bool andFlag) const {
+    return getPPDMarkedChoice(option, withPPD, choicePart(andFlag));
+  }
+  OptString getPPDMarkedChoice(const std::string& option, ppd_file_t* withPPD,
+                               ChoicePart part) const;
+  // Both parts of such a choice.
+  SettingChoice markedChoice(const std::string& option, ppd_file_t* ppd) const;
 
   // The folder that names the driver's generation: a year such as "2007", or "Drivers"; absent
   // without "TavDriverPath".

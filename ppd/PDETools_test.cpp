@@ -92,6 +92,19 @@ TEST(PDETools, GivesAChoicesKeywordOrText) {
   EXPECT_EQ(tools.getOptionsChoice("IronOn", nullptr, true), std::nullopt);
 }
 
+TEST(PDETools, GivesBothPartsOfAChoice) {
+  const PPDPtr ppd = makePPD({paperTypeOption()});
+  ppd_option_t* option = tools.getPPDOption(kPaperTypeKey, ppd.get());
+  EXPECT_EQ(tools.optionsChoice("ironon", option), (SettingChoice{"Iron-On Transfer", "IronOn"}));
+  EXPECT_EQ(tools.optionsChoice("Silk", option), SettingChoice{});
+  EXPECT_EQ(tools.optionsChoice("IronOn", nullptr), SettingChoice{});
+  ppdMarkOption(ppd.get(), "MediaType", "IronOn");
+  EXPECT_EQ(tools.markedChoice("MediaType", ppd.get()),
+            (SettingChoice{"Iron-On Transfer", "IronOn"}));
+  EXPECT_EQ(tools.markedChoice("Mirror", ppd.get()), SettingChoice{});
+  EXPECT_EQ(tools.markedChoice("MediaType", nullptr), SettingChoice{});
+}
+
 TEST(PDETools, GivesTheMarkedChoice) {
   const PPDPtr ppd = makePPD({paperTypeOption()});
   EXPECT_EQ(tools.getPPDMarkedChoice("MediaType", ppd.get(), true), "Automatic");

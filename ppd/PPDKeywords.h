@@ -2,8 +2,8 @@
 
 #include <string>
 
-// The PPD main keywords that the panel works with, each as a C string for the lookups that take
-// one and as a string for the rest.
+// The PPD's keywords that the panel works with; main keywords as a C string for the lookups that
+// take one and as a string for the rest.
 
 namespace tavrin {
 
@@ -24,6 +24,16 @@ inline const std::string kNSMirrorKey = kMirrorKey;
 inline const std::string kNSDupDryTimeKey = kDupDryTimeKey;
 inline const std::string kNSTray2OptionKey = "Tray2Option";
 
+// The choices that a new panel starts with, where the printer has them.
+inline const std::string kNSPrintQualityDefault = "Automatic";
+inline const std::string kNSPaperTypeDefault = "Automatic";
+inline const std::string kNSPaperSourceDefault = "Tray1";
+inline const std::string kNSColorModelDefault = "Color";
+inline const std::string kNSMirrorDefault = "False";
+inline const std::string kNSSharpeningDefault = "Automatic";
+inline const std::string kNSDupDryTimePopUpDefault = "Automatic";
+inline const std::string kNSDupDryTimeCheckboxDefault = "False";
+
 // Vendor attributes: where the driver's bundle and the printer's help lie.
 inline const std::string CUPS_DRIVER_KEY = "TavDriverPath";
 inline const std::string HELP_KEY = "TavHelpPath";
@@ -32,6 +42,7 @@ inline const std::string HELP_KEY = "TavHelpPath";
 inline const std::string kNSIronOn = "IronOn";
 inline const std::string kNSTransparency = "Transparency";
 inline const std::string kNSBlack = "Black";
+inline const std::string kNSTrue = "True";  // switches something on
 
 // A label of the panel and of its summary.
 inline const std::string kNSPrintBlackAndWhiteLabel = "Print in Black and White";

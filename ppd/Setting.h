@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "platform/text/OptionalString.h"
+#include "ppd/PPDKeywords.h"
+
+namespace tavrin {
+
+// What the panel lets people set.
+enum class Setting {
+  paperType,
+  printQuality,
+  paperSource,
+  blackAndWhite,
+  mirror,
+  imageSharpening,
+  dryTime
+};
+
+// What a setting is set to: one choice of its option, twice. Either may be absent.
+struct SettingChoice {
+  OptString value;   // the choice's text, which the panel and its summary show
+  OptString ticket;  // the choice's keyword, which the job gets
+
+  // Absent equals absent here.
+  friend bool operator==(const SettingChoice&, const SettingChoice&) = default;
+};
+
+// Which printers of the family have a setting.
+enum class Printers { all, some };
+
+// One row of the table of settings.
+struct SettingRow {
+  Setting setting;
+  const std::string& keyword;        // the main keyword of its option
+  const std::string& defaultChoice;  // what a new panel starts with, where the option has it
+  Printers printers;
+};
+
+// Every setting, in the order in which the host gets them. Dry time has two kinds of option, of
+// which a printer has at most one; the default here is the pop-up's.
+inline constexpr SettingRow kSettings[] = {
+    {Setting::paperType, kNSPaperTypeKey, kNSPaperTypeDefault, Printers::all},
+    {Setting::printQuality, kNSPrintQualityKey, kNSPrintQualityDefault, Printers::all},
+    {Setting::paperSource, kNSPaperSourceKey, kNSPaperSourceDefault, Printers::some},
+    {Setting::blackAndWhite, kNSColorModelKey, kNSColorModelDefault, Printers::all},
+    {Setting::mirror, kNSMirrorKey, kNSMirrorDefault, Printers::all},
+    {Setting::imageSharpening, kNSSharpeningKey, kNSSharpeningDefault, Printers::all},
+    {Setting::dryTime, kNSDupDryTimeKey, kNSDupDryTimePopUpDefault, Printers::some},
+};
+
+inline const SettingRow& rowOf(Setting setting) {
+  return kSettings[static_cast<std::size_t>(setting)];
+}
+
+// The setting of a PPD main keyword, which is compared to the letter; absent for any other.
+std::optional<Setting> settingWithKeyword(const OptString& keyword);
+
+}  // namespace tavrin
