@@ -1,34 +1,16 @@
 #include "plugin/MainPDE.h"
 
-#include <filesystem>
-#include <system_error>
-
-#include "platform/files/RootFolder.h"
-#include "platform/toolkit/HelpViewer.h"
+#include "controller/PrinterHelp.h"
 #include "platform/toolkit/NotificationCenter.h"
 #include "ppd/PDETools.h"
-#include "ppd/PPDKeywords.h"
 #include "ppd/PlugInBundle.h"
+#include "ppd/Setting.h"
 
 namespace tavrin {
 namespace {
 
 const std::string kPanelKind = "com.tavrin.print.pde.TavrinPDEKind";
 const std::string kPanelNameKey = "Print Settings";
-const std::string kDriversFolder = "Drivers";
-constexpr int kFirstYearWithDriverBundle = 2007;
-
-// Which attribute leads to the printer's help: older models keep it in a path of its own.
-const std::string& helpAttribute(const OptString& modelYear) {
-  if (modelYear == kDriversFolder) return CUPS_DRIVER_KEY;
-  return integerValue(modelYear) < kFirstYearWithDriverBundle ? HELP_KEY : CUPS_DRIVER_KEY;
-}
-
-bool somethingIsAt(const std::string& path) {
-  std::error_code failure;
-  const std::filesystem::path place = pathBelowRoot(path);
-  return !place.empty() && std::filesystem::exists(place, failure);
-}
 
 }  // namespace
 
@@ -47,7 +29,7 @@ MainPDE::MainPDE(PDEPlugInCallback* callback)
   }
   mEncoding = tools.getEncodingFromPPD(mPPD);
   registerObserver();
-  registerHelpBook();
+  PrinterHelp(mPPD, mEncoding).registerBook();
   const PMPageFormat* pageFormat = mPDEPluginCallbackObject->pageFormat();
   const PMPrintSettings* printSettings = mPDEPluginCallbackObject->printSettings();
   mPDEController = TavPDEController::initializeWithPPD(mPPD, mEncoding, printSettings, pageFormat);
@@ -63,13 +45,6 @@ void MainPDE::registerObserver() {
   NotificationCenter::defaultCenter().addObserver(this,
                                                   PDEControllerDisclosureButtonChangedNotification,
                                                   [this](const void*) { panelViewIsResized(); });
-}
-
-void MainPDE::registerHelpBook() {
-  const PDETools tools;
-  const OptString path =
-      tools.getComponentPath(helpAttribute(tools.getModelYear(mPPD)), mPPD, mEncoding);
-  if (path && somethingIsAt(*path)) HelpViewer::current().registerHelpBook(*path);
 }
 
 std::string MainPDE::panelKind() { return kPanelKind; }
@@ -116,56 +91,25 @@ std::vector<std::string> MainPDE::supportedPPDOptionKeys() {
 
 void MainPDE::PPDOptionKeyValueDidChange(const OptString& key, const OptString& ppdChoice) {
   PDEModel& model = mPDEController->pdeModel();
-  const auto text = [&ppdChoice](ppd_option_t* option) {
-    return PDETools().getOptionsChoice(ppdChoice, option, false);
-  };
-
-  if (key == kNSPaperTypeKey) {
-    model.setPaperTypeTicket(ppdChoice);
-    model.setPaperType(text(model.paperTypeOption()));
-  } else if (key == kNSPrintQualityKey) {
-    model.setPrintQualityTicket(ppdChoice);
-    model.setPrintQuality(text(model.printQualityOption()));
-  } else if (key == kNSPaperSourceKey) {
-    model.setPaperSourceTicket(ppdChoice);
-    model.setPaperSource(text(model.paperSourceOption()));
-  } else if (key == kNSColorModelKey) {
-    model.setBlackAndWhiteTicket(ppdChoice);
-    model.setBlackAndWhite(text(model.blackAndWhiteOption()));
-  } else if (key == kNSMirrorKey) {
-    model.setMIrrorTicket(ppdChoice);
-    model.setMirror(text(model.mirrorOption()));
-  } else if (key == kNSSharpeningKey) {
-    model.setImageSharpeningTicket(ppdChoice);
-    model.setImageSharpening(text(model.imageSharpeningOption()));
-  } else if (key == kNSDupDryTimeKey) {
-    ppd_option_t* popUp = model.dryTimePopUpOption();
-    ppd_option_t* option = popUp != nullptr ? popUp : model.dryTimeCheckBoxOption();
-    if (option != nullptr) {
-      model.setDryTimeTicket(ppdChoice);
-      model.setDryTime(text(option));
-    }
+  const auto setting = settingWithKeyword(key);
+  // The ticket is kept even where the printer lacks the option; dry time is the one exception.
+  if (setting && (setting != Setting::dryTime || model.option(*setting) != nullptr)) {
+    const OptString text =
+        PDETools().getOptionsChoice(ppdChoice, model.option(*setting), ChoicePart::text);
+    model.choose(*setting, {text, ppdChoice});
   }
   mPDEController->updateControls();
 }
 
+// What every printer of the family has is handed over whatever it holds; the rest where this
+// printer has it.
 void MainPDE::changePPDOptionKeyValue() {
   const PDEModel& model = mPDEController->pdeModel();
-  PDEPlugInCallback& host = *mPDEPluginCallbackObject;
-  const bool hasDryTime =
-      model.dryTimePopUpOption() != nullptr || model.dryTimeCheckBoxOption() != nullptr;
-
-  // Only some printers of the family have a second paper source or a dry time; the other five
-  // settings are handed over whatever they hold.
-  host.willChangePPDOptionKeyValue(kNSPaperTypeKey, model.paperTypeTicket());
-  host.willChangePPDOptionKeyValue(kNSPrintQualityKey, model.printQualityTicket());
-  if (model.paperSourceOption() != nullptr) {
-    host.willChangePPDOptionKeyValue(kNSPaperSourceKey, model.paperSourceTicket());
+  for (const SettingRow& row : kSettings) {
+    if (row.printers == Printers::some && model.option(row.setting) == nullptr) continue;
+    mPDEPluginCallbackObject->willChangePPDOptionKeyValue(row.keyword,
+                                                          model.choice(row.setting).ticket);
   }
-  host.willChangePPDOptionKeyValue(kNSColorModelKey, model.blackAndWhiteTicket());
-  host.willChangePPDOptionKeyValue(kNSMirrorKey, model.mirrorTicket());
-  host.willChangePPDOptionKeyValue(kNSSharpeningKey, model.imageSharpeningTicket());
-  if (hasDryTime) host.willChangePPDOptionKeyValue(kNSDupDryTimeKey, model.dryTimeTicket());
 }
 
 void MainPDE::panelViewIsResized() { mPDEPluginCallbackObject->panelViewDidResize(); }

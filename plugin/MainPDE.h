@@ -40,7 +40,6 @@ class MainPDE final : public PDEPanel {
 
   void changePPDOptionKeyValue();
   void registerObserver();
-  void registerHelpBook();
   void panelViewIsResized();
 
   // How a host without ppdFile was served; no such host is left.
