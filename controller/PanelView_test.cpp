@@ -21,6 +21,29 @@ TEST_F(MainView, IsLoadedOnce) {
   EXPECT_EQ(view.get(), &panel().view("ibPDEView"));
 }
 
+TEST_F(MainView, OfAMissingFileIsLookedForAgain) {
+  toolkit.missing = {"TavrinPDENIB"};
+  start(makePPD(fullPrinter()));
+  EXPECT_EQ(controller->mainView(), nullptr);
+  toolkit.missing = {};
+  EXPECT_NE(controller->mainView(), nullptr);
+}
+
+TEST_F(MainView, IsNullInAFileWithoutItAndTheRestIsLaidOutOnce) {
+  toolkit.unconnected = {"ibPDEView"};
+  int loads = 0;
+  toolkit.onLoad = [&loads](const std::string&, FakeInterface& file) {
+    ++loads;
+    file.view("ibHeaderView").place = {0, 100, 400, 200};
+  };
+  start(makePPD({tray2Option("False")}));
+  for (int call = 0; call < 3; ++call) {
+    EXPECT_EQ(controller->mainView(), nullptr);
+    EXPECT_EQ(loads, 1);
+    EXPECT_EQ(frameOf("ibHeaderView"), (Rect{0, 65, 400, 200}));
+  }
+}
+
 TEST_F(MainView, StartsCollapsed) {
   show(fullPrinter());
   EXPECT_TRUE(panel().view("ibAdvancedView").hidden);

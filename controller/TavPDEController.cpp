@@ -81,10 +81,9 @@ OptString TavPDEController::selectedItemFromIndex(long index, const char* withKe
 // --- The panel ---
 
 std::shared_ptr<View> TavPDEController::mainView() {
-  if (view.root() == nullptr) {
-    // A file without the root view is not loaded again: outlets may be on its other objects.
-    if (!panel)
-      panel = Toolkit::current().loadInterface(plugInBundle(), "TavrinPDENIB", bindings());
+  if (!panel) {
+    panel = Toolkit::current().loadInterface(plugInBundle(), "TavrinPDENIB", bindings());
+    if (!panel) return nullptr;
     controls.layOut();
     view.layOut(hasTray2Support);
     displayAdvancedOptions(!pdeTools.isRunningOn105OrLater());
