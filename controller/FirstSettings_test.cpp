@@ -1,3 +1,5 @@
+#include "controller/FirstSettings.h"
+
 #include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {

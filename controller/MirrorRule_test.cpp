@@ -1,3 +1,5 @@
+#include "controller/MirrorRule.h"
+
 #include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {

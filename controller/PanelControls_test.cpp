@@ -1,3 +1,5 @@
+#include "controller/PanelControls.h"
+
 #include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {

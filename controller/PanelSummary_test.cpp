@@ -1,3 +1,5 @@
+#include "controller/PanelSummary.h"
+
 #include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {

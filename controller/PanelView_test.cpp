@@ -1,3 +1,5 @@
+#include "controller/PanelView.h"
+
 #include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {

@@ -1,8 +1,11 @@
+#include "controller/PrinterHelp.h"
+
 #include <filesystem>
 #include <fstream>
 
 #include "platform/files/RootFolder.h"
 #include "tests/fixtures/ControllerTest.h"
+#include "tests/fixtures/CurrentFolder.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
@@ -88,6 +91,19 @@ TEST_F(Help, IsTheDialogsWhereThePrinterHasNone) {
   start(nullptr);
   EXPECT_TRUE(controller->shouldShowDefaultHelp());
   EXPECT_TRUE(viewer.books.empty());
+}
+
+TEST_F(Help, OfAPathThatNamesNothingIsNotLookedForInTheCurrentFolder) {
+  makeDriver("Driver", "<key>CFBundleHelpBookName</key><string>Book</string>");
+  const test::CurrentFolder current(root / "Driver");
+  for (const std::string path : {"Contents", ".", "", "/../Driver", "../2008/Driver"}) {
+    const std::vector<std::string> attributes = {"*TavDriverPath: \"" + path + "\"",
+                                                 "*TavHelpPath: \"" + path + "\""};
+    EXPECT_TRUE(dialogHelpWanted(attributes)) << path;
+    PrinterHelp(ppd.get(), kUTF8Encoding).registerBook();
+  }
+  EXPECT_TRUE(viewer.books.empty());
+  EXPECT_TRUE(viewer.registered.empty());
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include "controller/SharpeningControls.h"
+
 #include "tests/fixtures/ControllerTest.h"
 
 namespace tavrin {

@@ -1,3 +1,5 @@
+#include "controller/TavPDEController.h"
+
 #include "platform/toolkit/NotificationCenter.h"
 #include "tests/fixtures/ControllerTest.h"
 

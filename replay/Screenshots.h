@@ -29,7 +29,7 @@ class Screenshots {
   // The panel is gone: the next one with this id is pictured even if it looks the same.
   void forget(const std::string& id) { lastOfPanel.erase(id); }
 
-  // Why the first picture that could not be written could not; empty if all could.
+  // Why a picture could not be written, for the first of them; empty if all could be.
   const std::string& failure() const { return reason; }
 
  private:

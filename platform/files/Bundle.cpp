@@ -94,6 +94,7 @@ bool endsWithKeyLanguage(const std::vector<std::string>& languages) {
 
 Bundle Bundle::atPath(fs::path folder) {
   Bundle bundle;
+  if (folder.empty()) return bundle;
   bundle.information = readPropertyList(folder / "Contents" / "Info.plist");
   bundle.strings = readStrings(folder);
   bundle.folder = std::move(folder);

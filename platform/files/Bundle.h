@@ -18,8 +18,8 @@ class Bundle {
   // The empty bundle: it has no information, and every text is its own key.
   Bundle() = default;
 
-  // Opens the bundle at a folder. Always succeeds; infoDictionary() tells whether there is a
-  // bundle.
+  // Opens the bundle at a folder; the empty bundle for the empty path, which names nothing. Always
+  // succeeds; infoDictionary() tells whether there is a bundle.
   static Bundle atPath(std::filesystem::path folder);
 
   // The bundle whose module holds this address of code or static data; the empty bundle if that is

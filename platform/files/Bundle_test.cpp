@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/fixtures/CurrentFolder.h"
 #include "tests/fixtures/Environment.h"
 #include "tests/fixtures/TemporaryFolder.h"
 #include "tests/fixtures/XmlList.h"
@@ -84,6 +85,15 @@ TEST_F(BundleTest, AnswersFromItsInformationDictionary) {
   EXPECT_FALSE(bundle().info("Number"));
   EXPECT_FALSE(bundle().info("missing"));
   EXPECT_EQ(bundle().path(), folder.path());
+}
+
+TEST_F(BundleTest, OfTheEmptyPathIsEmptyWhateverTheCurrentFolderHolds) {
+  folder.write("Contents/Info.plist", dictionary(xmlEntry("CFBundleExecutable", "Sample")));
+  writeTable("pt", dictionary(xmlEntry("Quality", "Qualidade")));
+  const test::CurrentFolder current(folder.path());
+  const Bundle nothing = Bundle::atPath("");
+  EXPECT_EQ(nothing.infoDictionary(), nullptr);
+  EXPECT_EQ(nothing.localizedString("Quality"), "Quality");
 }
 
 TEST_F(BundleTest, WithoutADictionaryHasNoInformation) {

@@ -96,6 +96,7 @@ std::string titleOf(const fs::path& page) {
 }  // namespace
 
 HelpBook helpBookAt(const fs::path& folder) {
+  if (folder.empty()) return {};
   const OptString name = Bundle::atPath(folder).info("CFBundleHelpBookName");
   HelpBook book;
   const fs::path page = findStartPage(folder);

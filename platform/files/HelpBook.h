@@ -18,7 +18,7 @@ struct HelpBook {
 // in the folder that "CFBundleHelpBookFolder" names among the bundle's resources, else in the
 // resources, else in the folder itself. The start page is index.html, index.htm or the only page,
 // and never a file from outside. It is empty for a book without one; for a folder that is not a
-// book, so is the name.
+// book, and for the empty path, which names nothing, so is the name.
 HelpBook helpBookAt(const std::filesystem::path& folder);
 
 // The file of a page inside the book; empty if the book has no such page or the name leads out of

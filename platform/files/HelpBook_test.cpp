@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/fixtures/CurrentFolder.h"
 #include "tests/fixtures/Environment.h"
 #include "tests/fixtures/TemporaryFolder.h"
 #include "tests/fixtures/XmlList.h"
@@ -36,6 +37,14 @@ TEST_F(HelpBookTest, IsAFolderWithPages) {
   EXPECT_EQ(book().name, "Tavrin 420 Help");
   EXPECT_EQ(book().folder, folder.path() / "book");
   EXPECT_EQ(book().startPage, start);
+}
+
+TEST_F(HelpBookTest, IsNothingAtTheEmptyPathWhateverTheCurrentFolderHolds) {
+  writeInfo(xmlEntry("CFBundleHelpBookName", "Book"));
+  write("index.html");
+  const test::CurrentFolder current(folder.path() / "book");
+  EXPECT_EQ(helpBookAt("").name, "");
+  EXPECT_EQ(helpBookAt("").startPage, "");
 }
 
 TEST_F(HelpBookTest, StartsWithItsIndexElseWithItsOnlyPage) {

@@ -37,6 +37,7 @@ TEST(RegularFile, IsNothingElse) {
   for (const char* name : {"fifo", "device", "terminal", "circle", "missing", ".", "fifo/x", ""}) {
     EXPECT_FALSE(readRegularFile(folder.path() / name, 100)) << name;
   }
+  EXPECT_FALSE(readRegularFile("", 100)) << "the path that names nothing";
 }
 
 // Root reads everything, so the test becomes somebody else for a moment.
