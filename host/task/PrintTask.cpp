@@ -6,6 +6,7 @@
 
 #include "host/job/JobOptions.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/support/Sentences.h"
 
 namespace tavrin {
 namespace {
@@ -14,11 +15,9 @@ constexpr int kStateInterval = 10'000;  // milliseconds
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 
-std::string joined(const std::vector<std::string>& sentences) {
-  std::string text;
-  for (const std::string& sentence : sentences)
-    if (!sentence.empty()) text += (text.empty() ? "" : " ") + sentence;
-  return text;
+std::string inOneText(std::vector<std::string> sentences) {
+  std::erase(sentences, "");
+  return joined(sentences, " ");
 }
 
 std::string nameOf(const ppd_file_t& ppd) {
@@ -157,7 +156,7 @@ void PrintTask::goWithoutPPD(const QString& reason) {
   const QString sentence =
       tr("%1 The document can be printed all the same, with the printer's usual settings.")
           .arg(reason);
-  warn(joined({sentence.toStdString(), layoutProblem}));
+  warn(inOneText({sentence.toStdString(), layoutProblem}));
   enter(Stage::ready);
 }
 
@@ -171,7 +170,7 @@ std::string PrintTask::printerName() const {
 void PrintTask::beginSession(const SharedPPD& ppd) {
   current = std::make_unique<PrinterSession>(ppd);
   const std::string problems = markPrinter();  // the panels look at the marks as they come up
-  tell({joined({problems, current->loadPanels()})});
+  tell({inOneText({problems, current->loadPanels()})});
   enter(Stage::ready);
   emit sessionBegun();
 }
@@ -206,7 +205,7 @@ std::string PrintTask::markPrinter() {
   std::vector<std::string> problems =
       current->markAnew(before != kept.end() ? before->second : startOptions());
   problems.push_back(layoutProblem);
-  return joined(problems);
+  return inOneText(problems);
 }
 
 // --- The job ---
