@@ -5,7 +5,7 @@
 namespace tavrin {
 
 void FieldReader::mustBe(const std::string& form) const {
-  throw SyntaxError{"The field " + quoted(name) + " must be " + form + "."};
+  throw SyntaxError{"The field " + quotedInShort(name) + " must be " + form + "."};
 }
 
 std::string FieldReader::text() const {
@@ -74,7 +74,7 @@ WindowAnswer FieldReader::answer() const {
     else if (entry.key() == "end")
       read.end = field.end();
     else
-      throw SyntaxError{"An answer has no field " + quoted(entry.key()) + "."};
+      throw SyntaxError{"An answer has no field " + quotedInShort(entry.key()) + "."};
   }
   return read;
 }

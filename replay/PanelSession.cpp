@@ -66,14 +66,14 @@ void PanelSession::prepare(const ReplayCommand& command) {
 
 void PanelSession::mark(const std::string& key, const std::string& choice) {
   if (!markChoice(ppd.get(), key, choice))
-    sayOfThePPD("choice " + quoted(choice) + " of " + quoted(key), "marked");
+    sayOfThePPD("choice " + quotedInShort(choice) + " of " + quotedInShort(key), "marked");
 }
 
 void PanelSession::unmark(const std::string& key) {
   if (ppd_option_t* option = ppdFindOption(ppd.get(), key.c_str()))
     tavrin::unmark(*ppd, *option);
   else
-    sayOfThePPD("option " + quoted(key), "unmarked");
+    sayOfThePPD("option " + quotedInShort(key), "unmarked");
 }
 
 // The widget is the plug-in's: it leaves the window before both go.

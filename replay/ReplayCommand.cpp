@@ -87,11 +87,12 @@ void checkFieldNames(const Json& line, const std::string& verb, const Syntax& sy
   const std::set<std::string> known = fieldsOf(syntax);
   for (const auto& entry : line.items())
     if (!known.contains(entry.key()))
-      throw SyntaxError{"The command " + quoted(verb) + " has no field " + quoted(entry.key()) +
-                        "."};
+      throw SyntaxError{"The command " + quotedInShort(verb) + " has no field " +
+                        quotedInShort(entry.key()) + "."};
   for (const std::string& field : syntax.required)
     if (!line.contains(field))
-      throw SyntaxError{"The command " + quoted(verb) + " needs the field " + quoted(field) + "."};
+      throw SyntaxError{"The command " + quotedInShort(verb) + " needs the field " +
+                        quotedInShort(field) + "."};
 }
 
 std::string verbOf(const Json& line) {
@@ -103,7 +104,8 @@ ReplayCommand commandFrom(const Json& line) {
   const std::string verb = verbOf(line);
   const auto syntax = grammar().find(verb);
   if (syntax == grammar().end())
-    throw SyntaxError{"There is no command " + quoted(verb) + "; --help lists the commands."};
+    throw SyntaxError{"There is no command " + quotedInShort(verb) +
+                      "; --help lists the commands."};
   checkFieldNames(line, verb, syntax->second);
   ReplayCommand command;
   command.verb = syntax->second.verb;
@@ -129,12 +131,12 @@ std::optional<std::string> nextLine(std::istream& script) {
 Result<ReplayCommand> parseCommand(const std::string& line) {
   if (line.size() > kScriptLineLimit)
     return Failure{"The line is too long: a line has at most " + std::to_string(kScriptLineLimit) +
-                   " bytes. It begins: " + quoted(line) + "."};
+                   " bytes. It begins: " + quotedInShort(line) + "."};
   const Json parsed = Json::parse(line, nullptr, /*allow_exceptions=*/false);
   // The parser takes a NUL for the end of the line.
   const bool cut = line.find('\0') != std::string::npos;
   if (cut || !parsed.is_object())
-    return Failure{"The line is not a JSON object: " + quoted(line) + "."};
+    return Failure{"The line is not a JSON object: " + quotedInShort(line) + "."};
   try {
     return commandFrom(parsed);
   } catch (const SyntaxError& error) {

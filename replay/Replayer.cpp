@@ -26,7 +26,7 @@ Json panelIdentity(PDEPanel& panel) {
 }
 
 Failure noPanel(const OptString& id) {
-  return Failure{id ? "No panel " + quoted(*id) + " is open." : "No panel is open."};
+  return Failure{id ? "No panel " + quotedInShort(*id) + " is open." : "No panel is open."};
 }
 
 }  // namespace
@@ -72,7 +72,7 @@ Replayer::Answer Replayer::initWithBundle(const ReplayCommand& command) {
   if (!command.bundle) return Json{{"result", plugIn.initWithBundle(nullptr)}};
   std::error_code unreadable;
   if (!std::filesystem::is_directory(*command.bundle, unreadable))
-    return Failure{"There is no bundle folder " + quoted(*command.bundle) + "."};
+    return Failure{"There is no bundle folder " + quotedInShort(*command.bundle) + "."};
   const Bundle bundle = Bundle::atPath(*command.bundle);
   return Json{{"result", plugIn.initWithBundle(&bundle)}};
 }
@@ -85,7 +85,8 @@ Replayer::Answer Replayer::panelsForType(const ReplayCommand& command) {
 
 Replayer::Answer Replayer::open(const ReplayCommand& command) {
   const std::string id = command.panel.value_or("1");
-  if (find(id) != panels.end()) return Failure{"The panel " + quoted(id) + " is open already."};
+  if (find(id) != panels.end())
+    return Failure{"The panel " + quotedInShort(id) + " is open already."};
   auto session = PanelSession::open(id, plugIn, log, command);
   if (!session) return Failure{session.reason()};
   panels.push_back(std::move(*session));

@@ -19,8 +19,8 @@ std::string hindrance(const QWidget& widget) {
 
 Failure outOfRange(const std::string& control, const std::string& what, long long number,
                    long long first, long long last) {
-  const std::string reason =
-      "The control " + quoted(control) + " has no " + what + " " + std::to_string(number) + "; ";
+  const std::string reason = "The control " + quotedInShort(control) + " has no " + what + " " +
+                             std::to_string(number) + "; ";
   if (last < first) return Failure{reason + "it is empty."};
   return Failure{reason + "they go from " + std::to_string(first) + " to " + std::to_string(last) +
                  "."};
@@ -29,11 +29,12 @@ Failure outOfRange(const std::string& control, const std::string& what, long lon
 }  // namespace
 
 Result<QWidget*> UserHand::find(const std::string& control) const {
-  if (!panel) return Failure{"Nobody can work " + quoted(control) + ": the panel has no view yet."};
+  if (!panel)
+    return Failure{"Nobody can work " + quotedInShort(control) + ": the panel has no view yet."};
   QWidget* widget = panel->findChild<QWidget*>(QString::fromStdString(control));
   // Qt finds any widget by the empty name, and the parts of its widgets by names of its own.
   if (widget && widget->objectName().startsWith("ib")) return widget;
-  return Failure{"The panel has no control " + quoted(control) + "."};
+  return Failure{"The panel has no control " + quotedInShort(control) + "."};
 }
 
 template <class Kind>
@@ -41,9 +42,10 @@ Result<Kind*> UserHand::workable(const std::string& control, const std::string& 
   const Result<QWidget*> found = find(control);
   if (!found) return Failure{found.reason()};
   Kind* widget = qobject_cast<Kind*>(*found);
-  if (!widget) return Failure{"The control " + quoted(control) + " is no " + kind + "."};
+  if (!widget) return Failure{"The control " + quotedInShort(control) + " is no " + kind + "."};
   const std::string why = hindrance(*widget);
-  if (!why.empty()) return Failure{"Nobody can work " + quoted(control) + " now: " + why + "."};
+  if (!why.empty())
+    return Failure{"Nobody can work " + quotedInShort(control) + " now: " + why + "."};
   return widget;
 }
 

@@ -3,7 +3,7 @@
 #include <ranges>
 
 #include "host/support/CupsOptions.h"
-#include "host/support/Sentences.h"
+#include "host/support/Joined.h"
 #include "platform/text/IgnoringCase.h"
 #include "platform/text/Quoted.h"
 #include "ppd/PPDRecords.h"

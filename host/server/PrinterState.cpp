@@ -5,7 +5,7 @@
 
 #include <cups/ipp.h>
 
-#include "host/support/Sentences.h"
+#include "host/support/Joined.h"
 
 namespace tavrin {
 

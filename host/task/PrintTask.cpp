@@ -6,7 +6,7 @@
 
 #include "host/job/JobOptions.h"
 #include "host/printer/MarkedOptions.h"
-#include "host/support/Sentences.h"
+#include "host/support/Joined.h"
 
 namespace tavrin {
 namespace {

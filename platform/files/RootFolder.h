@@ -11,8 +11,8 @@ namespace tavrin {
 void setRootFolder(std::filesystem::path root);
 
 // Where such an absolute path lies on this machine. Empty for a text that is not an absolute path
-// or has a NUL or a ".." component, which could lead out of the root: such a path names nothing, and
-// whoever reads there finds nothing, whatever the current folder is.
+// or has a NUL or a ".." component, which could lead out of the root: such a path names nothing,
+// and whoever reads there finds nothing, whatever the current folder is.
 std::filesystem::path pathBelowRoot(const std::string& absolutePath);
 
 }  // namespace tavrin

@@ -87,7 +87,7 @@ void QtLoadedInterface::makeObjects() {
     const std::string name = widget->objectName().toStdString();
     const auto [place, isNew] = objects.emplace(name, Object{});
     if (!isNew) {
-      found.push_back("The interface file has several objects named " + quoted(name) + ".");
+      found.push_back("The interface file has several objects named " + quotedInShort(name) + ".");
       continue;
     }
     place->second = makeObject(*widget);
@@ -123,10 +123,11 @@ QtLoadedInterface::Object QtLoadedInterface::makeObject(QWidget& widget) {
 void QtLoadedInterface::bindAction(const QWidget& widget, const Object& object) {
   const std::string selector = widget.property(kAction).toString().toStdString();
   if (selector.empty()) return;
-  const std::string control = quoted(widget.objectName().toStdString());
+  const std::string control = quotedInShort(widget.objectName().toStdString());
   const auto action = bindings.actions.find(selector);
   if (action == bindings.actions.end()) {
-    found.push_back(control + " carries the action " + quoted(selector) + ", which nobody offers.");
+    found.push_back(control + " carries the action " + quotedInShort(selector) +
+                    ", which nobody offers.");
     return;
   }
   usedActions.insert(selector);
@@ -134,8 +135,8 @@ void QtLoadedInterface::bindAction(const QWidget& widget, const Object& object) 
       std::visit([this](const auto& body, auto* sender) { return runOnChange(body, sender); },
                  action->second, object);
   if (!fits)
-    found.push_back("The action " + quoted(selector) + " does not fit the kind of control that " +
-                    control + " is.");
+    found.push_back("The action " + quotedInShort(selector) +
+                    " does not fit the kind of control that " + control + " is.");
 }
 
 // False when the action is for another kind of control.
@@ -158,16 +159,16 @@ void QtLoadedInterface::connectOutlets() {
         std::visit([](auto* place, auto* target) { return connectOutlet(*place, *target); }, outlet,
                    object->second);
     if (!fits)
-      found.push_back("The interface file has no object of the right kind named " + quoted(name) +
-                      ".");
+      found.push_back("The interface file has no object of the right kind named " +
+                      quotedInShort(name) + ".");
   }
 }
 
 void QtLoadedInterface::reportUnusedActions() {
   for (const auto& [selector, body] : bindings.actions)
     if (!usedActions.contains(selector))
-      found.push_back("No control of the interface file carries the action " + quoted(selector) +
-                      ".");
+      found.push_back("No control of the interface file carries the action " +
+                      quotedInShort(selector) + ".");
 }
 
 void QtLoadedInterface::windowCloses() {

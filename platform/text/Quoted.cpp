@@ -6,10 +6,12 @@
 
 namespace tavrin {
 
-std::string quoted(const std::string& text) {
+std::string quoted(const std::string& name) { return '"' + name + '"'; }
+
+std::string quotedInShort(const std::string& text) {
   constexpr std::size_t kLongest = 200;
-  if (text.size() <= kLongest) return '"' + text + '"';
-  return '"' + std::string(wholeCharacters(std::string_view(text).substr(0, kLongest))) + "...\"";
+  if (text.size() <= kLongest) return quoted(text);
+  return quoted(std::string(wholeCharacters(std::string_view(text).substr(0, kLongest))) + "...");
 }
 
 }  // namespace tavrin

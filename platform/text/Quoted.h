@@ -4,8 +4,11 @@
 
 namespace tavrin {
 
-// A text in quotation marks, for a sentence; a long one is cut between two characters of UTF-8 and
-// ends in dots.
-std::string quoted(const std::string& text);
+// A name in quotation marks, for a sentence.
+std::string quoted(const std::string& name);
+
+// The same for a text of any length from a stranger's file: a long one is cut between two
+// characters of UTF-8 and ends in dots.
+std::string quotedInShort(const std::string& text);
 
 }  // namespace tavrin

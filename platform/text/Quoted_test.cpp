@@ -6,14 +6,19 @@ namespace tavrin {
 namespace {
 
 TEST(Quoted, StandsInQuotationMarks) {
-  EXPECT_EQ(quoted("Mirror"), "\"Mirror\"");
-  EXPECT_EQ(quoted(""), "\"\"");
-  EXPECT_EQ(quoted(std::string(200, 'x')).size(), 202u);
+  EXPECT_EQ(quotedInShort("Mirror"), "\"Mirror\"");
+  EXPECT_EQ(quotedInShort(""), "\"\"");
+  EXPECT_EQ(quotedInShort(std::string(200, 'x')).size(), 202u);
 }
 
 TEST(Quoted, IsCutBetweenCharacters) {
-  EXPECT_EQ(quoted(std::string(201, 'x')), '"' + std::string(200, 'x') + "...\"");
-  EXPECT_EQ(quoted(std::string(199, 'x') + "\u00FC"), '"' + std::string(199, 'x') + "...\"");
+  EXPECT_EQ(quotedInShort(std::string(201, 'x')), '"' + std::string(200, 'x') + "...\"");
+  EXPECT_EQ(quotedInShort(std::string(199, 'x') + "\u00FC"), '"' + std::string(199, 'x') + "...\"");
+}
+
+TEST(Quoted, ANameIsNeverCut) {
+  const std::string name(1000, 'x');
+  EXPECT_EQ(quoted(name), '"' + name + '"');
 }
 
 }  // namespace

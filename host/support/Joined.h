@@ -4,8 +4,6 @@
 #include <string_view>
 #include <vector>
 
-// What sentences for people are made of.
-
 namespace tavrin {
 
 // The words with the separator between them.
