@@ -27,8 +27,8 @@ bool fill(const FileDescriptor& file, std::string& text) {
 }  // namespace
 
 std::optional<std::string> readRegularFile(const std::filesystem::path& file, std::size_t limit) {
-  // Without O_NONBLOCK the open itself would wait for somebody to write into a FIFO; a terminal
-  // must not become the program's.
+  // Without O_NONBLOCK, opening a FIFO would wait until somebody writes to it; without O_NOCTTY, a
+  // terminal could become the program's.
   const FileDescriptor opened(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
   struct stat status = {};
   if (!opened || fstat(opened.get(), &status) != 0) return std::nullopt;
