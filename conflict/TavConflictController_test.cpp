@@ -195,6 +195,14 @@ TEST_F(ConflictLoop, AProgramThatEndsLeavesEverythingAsItIs) {
   EXPECT_EQ(toolkit.shown, Names{"ibMsgOneWindow"});
 }
 
+TEST_F(ConflictLoop, ACheckAfterOneThatWasCutShortShowsEveryWindow) {
+  ironOnAtDraft();
+  panel.format.name = "EnvelopeDL";
+  process({[](FakeInterface&) {}});
+  process({choosing("MsgOne", 1), choosing("MsgFive", 1)});
+  EXPECT_EQ(panel.codes(), std::vector<int>{});
+}
+
 TEST_F(ConflictLoop, AProgramThatEndsDuringInstructionsShowsNothingMore) {
   panel.setPaper("PhotoGlossy");
   panel.setColor("Black");
