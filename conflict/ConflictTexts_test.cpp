@@ -171,5 +171,24 @@ TEST_F(ConflictTextsTest, WithNoCartridgeToNameTheLinesStayAsTheyWere) {
   EXPECT_EQ(windows->label("ibLabelC_MsgFive").text, "Document Color: Black Only");
 }
 
+TEST_F(ConflictTextsTest, AnUnknownKindLeavesTheTextsThatDependOnTheKind) {
+  process({});  // loads the windows
+  const auto windows = toolkit.interface("Conflicts");
+  for (const int kind : {-1, 2, 7}) {
+    windows->label("ibLabelA_MsgTwo").text = "kept";
+    windows->label("ibLabelD_MsgTwo").text.clear();
+    panel.checker->composeMsgTwo(kind);
+    EXPECT_EQ(windows->label("ibLabelA_MsgTwo").text, "kept") << kind;
+    EXPECT_EQ(windows->label("ibLabelD_MsgTwo").text, "Choose an option to resolve the conflict:");
+  }
+  for (const int kind : {-1, 3, 7}) {
+    windows->label("ibLabelC_MsgFive").text = "kept";
+    windows->label("ibLabelD_MsgFive").text.clear();
+    panel.checker->composeMsgFive(kind);
+    EXPECT_EQ(windows->label("ibLabelC_MsgFive").text, "kept") << kind;
+    EXPECT_EQ(windows->label("ibLabelD_MsgFive").text, "Choose an option to resolve the conflict:");
+  }
+}
+
 }  // namespace
 }  // namespace tavrin
