@@ -35,21 +35,21 @@ enum class Printers { all, some };
 // One row of the table of settings.
 struct SettingRow {
   Setting setting;
+  Printers printers;
   const std::string& keyword;        // the main keyword of its option
   const std::string& defaultChoice;  // what a new panel starts with, where the option has it
-  Printers printers;
 };
 
 // Every setting, in the order in which the host gets them. Dry time has two kinds of option, of
 // which a printer has at most one; the default here is the pop-up's.
 inline constexpr SettingRow kSettings[] = {
-    {Setting::paperType, kNSPaperTypeKey, kNSPaperTypeDefault, Printers::all},
-    {Setting::printQuality, kNSPrintQualityKey, kNSPrintQualityDefault, Printers::all},
-    {Setting::paperSource, kNSPaperSourceKey, kNSPaperSourceDefault, Printers::some},
-    {Setting::blackAndWhite, kNSColorModelKey, kNSColorModelDefault, Printers::all},
-    {Setting::mirror, kNSMirrorKey, kNSMirrorDefault, Printers::all},
-    {Setting::imageSharpening, kNSSharpeningKey, kNSSharpeningDefault, Printers::all},
-    {Setting::dryTime, kNSDupDryTimeKey, kNSDupDryTimePopUpDefault, Printers::some},
+    {Setting::paperType, Printers::all, kNSPaperTypeKey, kNSPaperTypeDefault},
+    {Setting::printQuality, Printers::all, kNSPrintQualityKey, kNSPrintQualityDefault},
+    {Setting::paperSource, Printers::some, kNSPaperSourceKey, kNSPaperSourceDefault},
+    {Setting::blackAndWhite, Printers::all, kNSColorModelKey, kNSColorModelDefault},
+    {Setting::mirror, Printers::all, kNSMirrorKey, kNSMirrorDefault},
+    {Setting::imageSharpening, Printers::all, kNSSharpeningKey, kNSSharpeningDefault},
+    {Setting::dryTime, Printers::some, kNSDupDryTimeKey, kNSDupDryTimePopUpDefault},
 };
 
 inline const SettingRow& rowOf(Setting setting) {
