@@ -88,8 +88,8 @@ TEST_F(BundleTest, AnswersFromItsInformationDictionary) {
 }
 
 TEST_F(BundleTest, OfTheEmptyPathIsEmptyWhateverTheCurrentFolderHolds) {
-  folder.write("Contents/Info.plist", dictionary(xmlEntry("CFBundleExecutable", "Sample")));
-  writeTable("pt", dictionary(xmlEntry("Quality", "Qualidade")));
+  folder.write("Contents/Info.plist", xmlDictionary(xmlEntry("CFBundleExecutable", "Sample")));
+  writeTable("pt", xmlDictionary(xmlEntry("Quality", "Qualidade")));
   const test::CurrentFolder current(folder.path());
   const Bundle nothing = Bundle::atPath("");
   EXPECT_EQ(nothing.infoDictionary(), nullptr);

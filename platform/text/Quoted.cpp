@@ -11,7 +11,8 @@ std::string quoted(const std::string& name) { return '"' + name + '"'; }
 std::string quotedInShort(const std::string& text) {
   constexpr std::size_t kLongest = 200;
   if (text.size() <= kLongest) return quoted(text);
-  return quoted(std::string(wholeCharacters(std::string_view(text).substr(0, kLongest))) + "...");
+  const std::string_view start = std::string_view(text).substr(0, kLongest);
+  return quoted(std::string(wholeCharacters(start)) + "...");
 }
 
 }  // namespace tavrin
