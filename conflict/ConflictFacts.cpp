@@ -24,9 +24,9 @@ ConflictFacts ConflictFacts::of(const PDEModel& model, const PMPrintSettings* se
           .banner = isBanner(size),
           .envelope = isEnvelope(size),
           .severalPages = hasSeveralColumns(settings),
-          .draft = model.printQualityTicket() == "Draft",
+          .draft = model.printQualityTicket() == kNSDraft,
           .black = model.blackAndWhiteTicket() == kNSBlack,
-          .mirrored = model.mirrorTicket() == "True",
+          .mirrored = model.mirrorTicket() == kNSTrue,
           .onlyColorCartridge = cartridges.isColorOnly(),
           .photoCartridge = cartridges.isPhotoInstalled()};
 }

@@ -23,7 +23,8 @@ struct ConflictFacts {
   bool onlyColorCartridge, photoCartridge;
 };
 
-// By the ticket of a paper type; an absent one is no photo paper.
+// Whether the ticket of a paper type contains "Glossy", in this letter case; false for an absent
+// one.
 bool isPhotoPaper(const OptString& paperType);
 
 // Whether the layout puts two or more columns of pages on a sheet; false without settings.

@@ -11,42 +11,28 @@
 namespace tavrin {
 namespace {
 
-OptString textOf(const std::string& keyword, ppd_option_t* option) {
-  return PDETools().getOptionsChoice(keyword, option, false);
-}
-
 // A choice that the printer lacks has a keyword and no text.
-void takePaper(PDEModel& model, const std::string& keyword) {
-  model.setPaperType(textOf(keyword, model.paperTypeOption()));
-  model.setPaperTypeTicket(keyword);
-}
-
-void takeQuality(PDEModel& model, const std::string& keyword) {
-  model.setPrintQuality(textOf(keyword, model.printQualityOption()));
-  model.setPrintQualityTicket(keyword);
+void take(PDEModel& model, Setting setting, const std::string& keyword) {
+  model.choose(
+      setting,
+      {PDETools().getOptionsChoice(keyword, model.option(setting), ChoicePart::text), keyword});
 }
 
 void takeNormalIronOn(PDEModel& model) {
-  takeQuality(model, "Normal");
-  takePaper(model, kNSIronOn);
+  take(model, Setting::printQuality, "Normal");
+  take(model, Setting::paperType, kNSIronOn);
 }
 
 void takeDraftOnPlainPaper(PDEModel& model) {
-  takeQuality(model, "Draft");
-  takePaper(model, "Plain");
+  take(model, Setting::printQuality, kNSDraft);
+  take(model, Setting::paperType, "Plain");
 }
 
-void takePlainPaper(PDEModel& model) { takePaper(model, "Plain"); }
+void takePlainPaper(PDEModel& model) { take(model, Setting::paperType, "Plain"); }
 
-void takeColor(PDEModel& model) {
-  model.setBlackAndWhite(textOf("Color", model.blackAndWhiteOption()));
-  model.setBlackAndWhiteTicket("Color");
-}
+void takeColor(PDEModel& model) { take(model, Setting::blackAndWhite, kNSColorModelDefault); }
 
-void switchMirrorOff(PDEModel& model) {
-  model.setMirror("Off");
-  model.setMIrrorTicket("False");
-}
+void switchMirrorOff(PDEModel& model) { model.choose(Setting::mirror, kMirrorOff); }
 
 void ignoreDraft(PDEModel&) { IGNORE_IRONON_DRAFT_CONFLICT = true; }
 
@@ -62,7 +48,7 @@ void ignoreLayout(PDEModel& model) {
 
 constinit const ConflictKind kIronOnAtDraft = {
     .window = MessageWindow::msgOne,
-    .composing = 0,
+    .numberInWindow = 0,
     .isShown = nullptr,
     .isInstructed = nullptr,
     .steps = {},
@@ -71,35 +57,35 @@ constinit const ConflictKind kIronOnAtDraft = {
 // Another paper leads out of it, so its steps are those of the page set-up.
 constinit const ConflictKind kMirroredEnvelope = {
     .window = MessageWindow::msgTwo,
-    .composing = 0,
+    .numberInWindow = 0,
     .isShown = &HAS_MIRROR_CONFLICT,
     .isInstructed = &HAS_MIRROR_INSTRUCTION,
     .steps = pageSetUpSteps,
     .waysOut = {switchMirrorOff, nullptr, ignoreMirror}};
 
 constinit const ConflictKind kPagesPerSheet = {.window = MessageWindow::msgTwo,
-                                               .composing = 1,
+                                               .numberInWindow = 1,
                                                .isShown = &HAS_PAGESPERSHEET_CONFLICT,
                                                .isInstructed = &HAS_PAGESPERSHEET_INSTRUCTION,
                                                .steps = layoutSteps,
                                                .waysOut = {takePlainPaper, nullptr, ignoreLayout}};
 
 constinit const ConflictKind kPrintInBlack = {.window = MessageWindow::msgFive,
-                                              .composing = 1,
+                                              .numberInWindow = 1,
                                               .isShown = &HAS_PRINTINBLACK_CONFLICT,
                                               .isInstructed = &HAS_PRINTINBLACK_INSTRUCTION,
                                               .steps = colorSteps,
                                               .waysOut = {takeColor, nullptr, nullptr}};
 
 constinit const ConflictKind kCartridges = {.window = MessageWindow::msgFive,
-                                            .composing = 2,
+                                            .numberInWindow = 2,
                                             .isShown = &HAS_CARTINSTALLED_CONFLICT,
                                             .isInstructed = &HAS_CARTINSTALLED_INSTRUCTION,
                                             .steps = cartridgeSteps,
                                             .waysOut = {takeColor, nullptr, nullptr}};
 
 constinit const ConflictKind kPaperSize = {.window = MessageWindow::msgFive,
-                                           .composing = 0,
+                                           .numberInWindow = 0,
                                            .isShown = &HAS_PAPERSIZE_CONFLICT,
                                            .isInstructed = &HAS_PAPERSIZE_INSTRUCTION,
                                            .steps = pageSetUpSteps,

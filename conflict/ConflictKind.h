@@ -14,8 +14,8 @@ enum class MessageWindow { msgOne, msgTwo, msgFive };
 // A kind of conflict: the window that shows it, and what each way out of it does.
 struct ConflictKind {
   MessageWindow window;
-  // The kind that composeMsgTwo and composeMsgFive know it by.
-  int composing;
+  // Its number among the kinds of its window, by which composeMsgTwo and composeMsgFive know it.
+  int numberInWindow;
 
   // HAS_..._CONFLICT: it was shown and not dealt with yet. An OK deals with every kind of its
   // window that is flagged, also with those that a closed window or another panel left behind.

@@ -7,7 +7,7 @@ namespace {
 
 using Facts = ConflictFacts;
 
-constinit const ConflictRule kRules[] = {
+constexpr ConflictRule kRules[] = {
     {0, &Facts::ironOn, &Facts::draft, &kIronOnAtDraft, &IGNORE_IRONON_DRAFT_CONFLICT},
     {1, &Facts::ironOn, &Facts::banner, &kPaperSize},
     {2, &Facts::ironOn, &Facts::envelope, &kPaperSize},
@@ -24,6 +24,16 @@ constinit const ConflictRule kRules[] = {
     {11, &Facts::onlyColorCartridge, &Facts::black, &kCartridges},
     {12, &Facts::photoCartridge, &Facts::black, &kCartridges},
 };
+
+// A code is the place of its rule; it is known to replays, and never given to another rule.
+consteval bool codesAreInOrder() {
+  int place = 0;
+  for (const ConflictRule& rule : kRules) {
+    if (rule.code != place++) return false;
+  }
+  return true;
+}
+static_assert(codesAreInOrder());
 
 }  // namespace
 

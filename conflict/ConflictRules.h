@@ -20,7 +20,8 @@ struct ConflictRule {
   bool clashesIn(const ConflictFacts& facts) const;
 };
 
-// The rules that those facts break, by code: the order in which they are dealt with.
+// The rules that those facts break, in the order of the table, which is their priority and that of
+// their codes.
 std::vector<const ConflictRule*> brokenRules(const ConflictFacts& facts);
 
 }  // namespace tavrin

@@ -26,11 +26,11 @@ void ConflictTexts::fillMsgTwo(ConflictWindow& window, int kind) const {
   window.showCommonTexts();
   window.showChoice(secondChoice, {localized(kShowInstructions)});
   window.showChoice(thirdChoice, {localized(kContinue)});
-  if (kind == kMirroredEnvelope.composing) {
+  if (kind == kMirroredEnvelope.numberInWindow) {
     const std::string size = paperSizeLine();
     window.showClash(localized("Advanced Options: Mirror (ON)"), size);
     window.showChoice(firstChoice, {localized("Advanced Options: Mirror (OFF)"), size});
-  } else if (kind == kPagesPerSheet.composing) {
+  } else if (kind == kPagesPerSheet.numberInWindow) {
     const std::string layout = localized("Layout: Pages per Sheet (>1)");
     window.showClash(layout, paperTypeLine());
     window.showChoice(firstChoice, {layout, localized("Paper Type: Plain")});
@@ -40,12 +40,12 @@ void ConflictTexts::fillMsgTwo(ConflictWindow& window, int kind) const {
 void ConflictTexts::fillMsgFive(ConflictWindow& window, int kind) const {
   window.showCommonTexts();
   window.showChoice(secondChoice, {localized(kShowInstructions)});
-  if (kind == kPaperSize.composing) {
+  if (kind == kPaperSize.numberInWindow) {
     const std::string size = paperSizeLine();
     window.showClash(paperTypeLine(), size);
     window.showChoice(firstChoice, {localized("Paper Type: Plain"), size});
-  } else if (kind == kPrintInBlack.composing || kind == kCartridges.composing) {
-    const OptString line = kind == kPrintInBlack.composing ? paperTypeLine() : cartridgeLine();
+  } else if (kind == kPrintInBlack.numberInWindow || kind == kCartridges.numberInWindow) {
+    const OptString line = kind == kPrintInBlack.numberInWindow ? paperTypeLine() : cartridgeLine();
     window.showClash(line, localized("Document Color: Black Only"));
     window.showChoice(firstChoice, {line, localized("Document Color: Color")});
   }

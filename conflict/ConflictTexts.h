@@ -14,8 +14,8 @@ namespace tavrin {
 // Says in words what clashes and what each choice leads to. Model, format and PPD are borrowed;
 // format and PPD may be null.
 struct ConflictTexts {
-  // Fill a window for one of its kinds, by ConflictKind::composing. For any other number only the
-  // texts change that the window always has.
+  // Fill a window for one of its kinds, by ConflictKind::numberInWindow. For any other number only
+  // the texts change that the window always has.
   void fillMsgOne(ConflictWindow& window) const;
   void fillMsgTwo(ConflictWindow& window, int kind) const;
   void fillMsgFive(ConflictWindow& window, int kind) const;

@@ -66,6 +66,8 @@ void ConflictWindow::follow(Choice choice, const Button& sender) {
   }
 }
 
-Choice ConflictWindow::takeSelected() { return std::exchange(selected, firstChoice); }
+std::optional<Choice> ConflictWindow::takeSelected() {
+  return std::exchange(selected, firstChoice);
+}
 
 }  // namespace tavrin

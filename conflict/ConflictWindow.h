@@ -2,6 +2,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,8 +41,8 @@ class ConflictWindow {
   void selectFirst() { selected = firstChoice; }
   // Follows a choice button that was clicked; one that is off now selects nothing.
   void follow(Choice choice, const Button& sender);
-  // What was selected; from now on it is the first choice again.
-  Choice takeSelected();
+  // What was selected, absent before the first choice was; from now on it is the first choice.
+  std::optional<Choice> takeSelected();
 
   Outlet<Window> window;
   Outlet<Button> okButton;
@@ -55,7 +56,7 @@ class ConflictWindow {
   std::string name;
   Outlet<Label> labelA, labelB, labelC, labelD;
   std::vector<ChoiceParts> choices;
-  Choice selected = firstChoice;
+  std::optional<Choice> selected;
 };
 
 }  // namespace tavrin

@@ -162,5 +162,11 @@ TEST_F(Choices, AClickThatLeavesItsButtonOffChoosesNothing) {
   EXPECT_EQ(panel.model.printQualityTicket(), "Normal");
 }
 
+TEST(ConflictWindowChoice, NothingIsSelectedAtFirst) {
+  ConflictWindow window("MsgOne", {2, 2, 1});
+  EXPECT_EQ(window.takeSelected(), std::nullopt);
+  EXPECT_EQ(window.takeSelected(), firstChoice);
+}
+
 }  // namespace
 }  // namespace tavrin

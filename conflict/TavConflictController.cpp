@@ -126,8 +126,8 @@ void TavConflictController::windowWillClose() {
 
 void TavConflictController::compose(const ConflictKind& kind) {
   if (kind.window == MessageWindow::msgOne) composeMsgOne();
-  if (kind.window == MessageWindow::msgTwo) composeMsgTwo(kind.composing);
-  if (kind.window == MessageWindow::msgFive) composeMsgFive(kind.composing);
+  if (kind.window == MessageWindow::msgTwo) composeMsgTwo(kind.numberInWindow);
+  if (kind.window == MessageWindow::msgFive) composeMsgFive(kind.numberInWindow);
 }
 
 void TavConflictController::composeInstructionMsg(signed char kind) {
@@ -142,9 +142,9 @@ void TavConflictController::answer(MessageWindow answered) {
   ConflictWindow& dialog = windowOf(answered);
   Toolkit::current().stopModal();
   dialog.window->close();
-  const Choice choice = dialog.takeSelected();
+  const std::optional<Choice> choice = dialog.takeSelected();
   for (const ConflictKind* kind : kConflictKinds) {
-    if (kind->takeShown(answered)) takeWayOut(*kind, choice);
+    if (choice && kind->takeShown(answered)) takeWayOut(*kind, *choice);
   }
   // MsgOne has no steps and tells of every choice, also of going on.
   if (choice == firstChoice || answered == MessageWindow::msgOne) {

@@ -126,7 +126,8 @@ class TavConflictController {
 
   // False once a window was not answered because the program is ending.
   bool canShowWindows = true;
-  // More than one only where the first ones lacked a window: outlets may stand on any of them.
+  // More than one only where the first ones lacked a window: outlets may refer to objects of any of
+  // them.
   std::vector<std::shared_ptr<LoadedInterface>> windows;
   // Expires with this object, for operations that must notice that they outlived it.
   std::shared_ptr<const bool> life = std::make_shared<const bool>(true);

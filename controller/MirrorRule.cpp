@@ -38,10 +38,6 @@ void MirrorRule::takeMarked(const SettingChoice& marked) {
   isMirrorSetDuringPreset = marked.ticket == kNSTrue;
 }
 
-// The value is the panel's own word, not the PPD's text.
-void MirrorRule::set(bool on) {
-  model.choose(Setting::mirror,
-               on ? SettingChoice{"On", kNSTrue} : SettingChoice{"Off", kNSMirrorDefault});
-}
+void MirrorRule::set(bool on) { model.choose(Setting::mirror, on ? kMirrorOn : kMirrorOff); }
 
 }  // namespace tavrin

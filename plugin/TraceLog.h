@@ -188,7 +188,7 @@ void writeLine(const char* first, const char* second, const char* routine, std::
 //
 // The message's format has printf's directives and "%@" for the project's strings, absent ones
 // included; it is checked against the arguments when compiled. The fourth parameter is not used.
-// A message that is no UTF-8 is not written.
+// A message that is not UTF-8 is not written.
 template <class... Args>
 void TraceLogBody(const char* first, const char* second, const char* routine, const void*,
                   std::int32_t line, const char* path,

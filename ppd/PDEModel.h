@@ -13,7 +13,7 @@ namespace tavrin {
 
 // What the panel knows of its seven settings: of each the PPD option record (borrowed from the
 // PPD; null when this printer has no such option) and what it is set to. Every setting can be
-// asked for by name, and by the functions of its own below.
+// asked for by name, and by its own functions below.
 //
 // A passive record: whoever sets a value sets its ticket too.
 class PDEModel {

@@ -8,7 +8,6 @@
 namespace tavrin {
 namespace {
 
-constexpr char kPageSizeKey[] = "PageSize";
 constexpr std::string_view kPrintersFolder = "/Library/Printers/Tavrin/";
 
 OptString decoded(const ppd_choice_t* choice, ChoicePart part) {

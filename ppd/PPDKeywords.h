@@ -14,6 +14,7 @@ inline constexpr char kColorModelKey[] = "ColorModel";
 inline constexpr char kSharpeningKey[] = "Sharpening";
 inline constexpr char kMirrorKey[] = "Mirror";
 inline constexpr char kDupDryTimeKey[] = "DupDryTime";
+inline constexpr char kPageSizeKey[] = "PageSize";  // the paper's
 
 inline const std::string kNSPrintQualityKey = kPrintQualityKey;
 inline const std::string kNSPaperTypeKey = kPaperTypeKey;
@@ -42,6 +43,7 @@ inline const std::string HELP_KEY = "TavHelpPath";
 inline const std::string kNSIronOn = "IronOn";
 inline const std::string kNSTransparency = "Transparency";
 inline const std::string kNSBlack = "Black";
+inline const std::string kNSDraft = "Draft";
 inline const std::string kNSTrue = "True";  // switches something on
 
 // A label of the panel and of its summary.

@@ -29,6 +29,10 @@ struct SettingChoice {
   friend bool operator==(const SettingChoice&, const SettingChoice&) = default;
 };
 
+// The mirror as the panel sets it: the value is a word of its own, not the PPD's text.
+inline const SettingChoice kMirrorOn = {"On", kNSTrue};
+inline const SettingChoice kMirrorOff = {"Off", kNSMirrorDefault};
+
 // Which printers of the family have a setting.
 enum class Printers { all, some };
 
@@ -51,6 +55,16 @@ inline constexpr SettingRow kSettings[] = {
     {Setting::imageSharpening, Printers::all, kNSSharpeningKey, kNSSharpeningDefault},
     {Setting::dryTime, Printers::some, kNSDupDryTimeKey, kNSDupDryTimePopUpDefault},
 };
+
+// A setting is the place of its row.
+consteval bool settingsAreInOrder() {
+  std::size_t place = 0;
+  for (const SettingRow& row : kSettings) {
+    if (static_cast<std::size_t>(row.setting) != place++) return false;
+  }
+  return true;
+}
+static_assert(settingsAreInOrder());
 
 inline const SettingRow& rowOf(Setting setting) {
   return kSettings[static_cast<std::size_t>(setting)];

@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 
+#include "platform/text/Quoted.h"
 #include "replay/ReplayCommand.h"
 
 namespace tavrin {
@@ -31,8 +32,8 @@ Result<Options> optionsFrom(const QCommandLineParser& parser) {
       return Failure{std::string("The option --") + name + " needs the name of a folder."};
   const QStringList scripts = parser.positionalArguments();
   if (scripts.size() > 1)
-    return Failure{"Only one script can be played; \"" + scripts[1].toStdString() +
-                   "\" is one too many."};
+    return Failure{"Only one script can be played; " + quoted(scripts[1].toStdString()) +
+                   " is one too many."};
   Options options;
   options.bundle = pathOf(parser.value(kBundle));
   options.root = pathOf(parser.value(kRoot));

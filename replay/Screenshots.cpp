@@ -7,6 +7,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "platform/text/Quoted.h"
+
 namespace tavrin {
 namespace {
 
@@ -24,8 +26,8 @@ Result<Screenshots> Screenshots::inFolder(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error)
-    return Failure{"The folder \"" + folder.string() +
-                   "\" for the pictures cannot be made: " + error.message() + "."};
+    return Failure{"The folder " + quoted(folder.string()) +
+                   " for the pictures cannot be made: " + error.message() + "."};
   Screenshots pictures;
   pictures.folder = folder;
   return pictures;
@@ -50,7 +52,7 @@ void Screenshots::save(const QImage& picture, const std::string& title) {
   const QString number = QString::number(++taken).rightJustified(3, '0');
   const auto file = folder / (number.toStdString() + "-" + fileNamePart(title) + ".png");
   if (!picture.save(QString::fromStdString(file.string()), "PNG") && reason.empty())
-    reason = "The picture \"" + file.string() + "\" cannot be written.";
+    reason = "The picture " + quoted(file.string()) + " cannot be written.";
 }
 
 }  // namespace tavrin

@@ -11,6 +11,7 @@
 #include "host/panels/TrustedBundles.h"
 #include "platform/files/RootFolder.h"
 #include "platform/qt/QtToolkit.h"
+#include "platform/text/Quoted.h"
 #include "replay/Options.h"
 #include "replay/RecordingHelpViewer.h"
 #include "replay/Replayer.h"
@@ -72,7 +73,7 @@ Result<std::unique_ptr<std::istream>> scriptOf(const Options& options) {
   if (options.script.empty()) return std::make_unique<std::istream>(std::cin.rdbuf());
   auto file = std::make_unique<std::ifstream>(options.script, std::ios::binary);
   if (!*file || std::filesystem::is_directory(options.script))
-    return Failure{"The script \"" + options.script.string() + "\" cannot be read."};
+    return Failure{"The script " + quoted(options.script.string()) + " cannot be read."};
   return std::unique_ptr<std::istream>(std::move(file));
 }
 

@@ -30,7 +30,7 @@ int FittingScrollArea::heightForWidth(int width) const {
   return widget()->hasHeightForWidth() ? widget()->heightForWidth(width) : sizeHint().height();
 }
 
-// The contents' wishes are this area's own.
+// When the contents want another size, so does this area.
 bool FittingScrollArea::eventFilter(QObject* watched, QEvent* event) {
   if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
   return QScrollArea::eventFilter(watched, event);

@@ -14,6 +14,7 @@
 #include "host/printer/MarkedOptions.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/ShownText.h"
+#include "ppd/PPDKeywords.h"
 
 namespace tavrin {
 namespace {
@@ -75,11 +76,15 @@ void GeneralArea::connectPages() {
   connect(rangeEdit, &QLineEdit::textEdited, this, [this] {
     somePages->setChecked(true);
     takePages();
+    // A range that is being typed is not wrong yet; but one that was wrong may be right now.
+    if (!rangeProblem->isHidden()) showRangeProblem();
   });
   for (QRadioButton* button : {allPages, somePages})
-    connect(button, &QRadioButton::clicked, this, &GeneralArea::takePages);
+    connect(button, &QRadioButton::clicked, this, [this] {
+      takePages();
+      showRangeProblem();
+    });
   connect(somePages, &QRadioButton::clicked, rangeEdit, [this] { rangeEdit->setFocus(); });
-  connect(somePages, &QRadioButton::toggled, this, &GeneralArea::showRangeProblem);
   connect(rangeEdit, &QLineEdit::editingFinished, this, &GeneralArea::showRangeProblem);
 }
 
@@ -114,7 +119,7 @@ void GeneralArea::setMarks(PPDMarks* theMarks) {
   if (papers) form->removeRow(papers);
   papers = nullptr;
   marks = theMarks;
-  const ppd_option_t* option = marks ? marks->option(kPaperSizeKeyword) : nullptr;
+  const ppd_option_t* option = marks ? marks->option(kPageSizeKey) : nullptr;
   if (!option) return;
   papers = makeChild<PickOneControl>(*marks, *option, this);
   addRow(*form, tr("Paper si&ze:"), *papers);
@@ -126,8 +131,8 @@ Pane::Lines GeneralArea::summary() const {
   const bool all = ranges && ranges->empty();
   Pane::Lines lines{{tr("Printer"), shownLine(task.printerName())},
                     {tr("Copies"), locale().toString(fields.copies())},
-                    {tr("Pages"), all ? tr("All") : fields.pages().range}};
-  if (const OptString paper = marks ? marks->choiceText(kPaperSizeKeyword) : std::nullopt)
+                    {tr("Pages"), all ? tr("All") : shownLine(fields.pages().range.toStdString())}};
+  if (const OptString paper = marks ? marks->choiceText(kPageSizeKey) : std::nullopt)
     lines.emplace_back(tr("Paper size"), shownLine(*paper));
   return lines;
 }

@@ -21,7 +21,7 @@ class GeneralArea : public QWidget {
   Q_OBJECT
 
  public:
-  // Shows the task's fields and takes the person's changes to them. The task outlives the area.
+  // Shows the task's fields and passes the person's changes on to them. The task outlives the area.
   GeneralArea(PrintTask& task, QWidget* parent);
 
   // Takes the person to the page range, to put it right.

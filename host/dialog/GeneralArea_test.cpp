@@ -43,6 +43,29 @@ TEST_F(GeneralAreaTest, TellsWhatIsWrongWithThePages) {
   EXPECT_TRUE(problem->isHidden());
 }
 
+TEST_F(GeneralAreaTest, AWrongRangeIsForgivenAsSoonAsItIsRight) {
+  const auto* problem = area.findChild<QLabel*>("pageRangeProblem");
+  auto* range = area.findChild<QLineEdit*>("pageRange");
+  QTest::keyClicks(range, "5-1");
+  EXPECT_TRUE(problem->isHidden()) << "who is typing is not interrupted";
+  emit range->editingFinished();
+  EXPECT_FALSE(problem->isHidden());
+  QTest::keyClicks(range, "0");
+  EXPECT_TRUE(problem->isHidden());
+}
+
+TEST_F(GeneralAreaTest, TheRangeCountsOnlyWhileItIsChosen) {
+  const auto* problem = area.findChild<QLabel*>("pageRangeProblem");
+  QRadioButton* all = nullptr;
+  QRadioButton* some = nullptr;
+  for (auto* button : area.findChildren<QRadioButton*>()) (all ? some : all) = button;
+  some->click();
+  EXPECT_FALSE(problem->isHidden()) << "no page is named yet";
+  all->click();
+  EXPECT_TRUE(problem->isHidden());
+  EXPECT_EQ(*task.fields().pageRanges(), "");
+}
+
 TEST_F(GeneralAreaTest, ShowsThePapersOfThePrinter) {
   const PPDPtr ppd = makePPD({pageSizeOption()});
   PPDMarks marks(*ppd);

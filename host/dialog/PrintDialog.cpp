@@ -22,7 +22,7 @@ namespace {
 constexpr int kUsualWidth = 35;
 
 QString titleFor(const JobRequest& request) {
-  const bool isNamed = !request.title.empty() || request.document != "-";
+  const bool isNamed = !request.title.empty() || request.document != kStandardInput;
   return isNamed ? PrintDialog::tr("Print “%1”").arg(shownLine(jobTitle(request)))
                  : PrintDialog::tr("Print");
 }
@@ -46,8 +46,9 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
   build();
   connectParts();
   connectTask();
-  showNotice();
   if (task.session()) showSession();
+  showNotice();
+  showStage();
 }
 
 PrintDialog::~PrintDialog() { disconnect(&task, nullptr, this, nullptr); }
@@ -85,13 +86,11 @@ void PrintDialog::connectTask() {
   connect(&task, &PrintTask::sessionBegun, this, &PrintDialog::showSession);
   connect(&task, &PrintTask::sessionEnding, this, &PrintDialog::hideSession);
   connect(&task, &PrintTask::sessionRestarted, switcher, &PaneSwitcher::showAgain);
-  connect(&task, &PrintTask::stageChanged, this, [this] {
-    content->setEnabled(!task.isSending() && task.stage() != PrintTask::Stage::done);
-  });
+  connect(&task, &PrintTask::stageChanged, this, &PrintDialog::showStage);
 }
 
 void PrintDialog::setVisible(bool visible) {
-  // Left to itself, a dialog comes up with two thirds of the screen at most.
+  // By default, a dialog opens at two thirds of the screen at most.
   if (visible) fit();
   QDialog::setVisible(visible);
 }
@@ -157,6 +156,10 @@ SummaryPane::Sections PrintDialog::allLines() const {
 }
 
 // --- What is said, and what the person wants ---
+
+void PrintDialog::showStage() {
+  content->setEnabled(!task.isSending() && task.stage() != PrintTask::Stage::done);
+}
 
 void PrintDialog::showNotice() {
   const PrintTask::Notice& notice = task.notice();

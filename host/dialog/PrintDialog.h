@@ -19,8 +19,8 @@ class Note;
 class PaneSwitcher;
 class SessionPanes;
 
-// The Print dialog: shows a task, and takes to it what the person does. It can be shown at once,
-// whatever the task is still waiting for.
+// The Print dialog: shows a task, and passes on to it what the person does. It can be shown at
+// once, whatever the task is still waiting for.
 class PrintDialog : public QDialog {
   Q_OBJECT
 
@@ -45,6 +45,7 @@ class PrintDialog : public QDialog {
 
   void showSession();
   void hideSession();
+  void showStage();
   void showNotice();
   void showConflicts();
   void showHelp();

@@ -11,7 +11,8 @@ class PrinterPopUp : public QComboBox {
   Q_OBJECT
 
  public:
-  // Shows the task's printers, and takes the person's choice to it. The task outlives the pop-up.
+  // Shows the task's printers, and passes the person's choice on to it. The task outlives the
+  // pop-up.
   PrinterPopUp(PrintTask& task, QWidget* parent);
 
  private:

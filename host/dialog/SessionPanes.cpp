@@ -5,6 +5,7 @@
 #include "host/panes/PanelPane.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
+#include "ppd/PPDKeywords.h"
 
 namespace tavrin {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 // The options that the panels and the other parts of the dialog show.
 std::set<std::string> shownElsewhere(const PrinterSession& session) {
   std::set<std::string> keywords = session.claimedKeywords();
-  keywords.insert({kPaperSizeKeyword, "PageRegion"});
+  keywords.insert({kPageSizeKey, "PageRegion"});
   if (const ppd_option_t* twoSided = twoSidedOption(session.ppd()))
     keywords.insert(twoSided->keyword);
   return keywords;

@@ -23,7 +23,16 @@ constexpr std::array<Signature, 3> kUsualFormats{{
     {"\x89PNG\r\n\x1A\n", "image/png"},
 }};
 
-// How texts begin that the print system does not print as they are written.
+// Formats that the desktop and the print system call by the same name.
+constexpr std::array<std::string_view, 7> kSharedNames{"image/gif",
+                                                       "image/tiff",
+                                                       "image/x-portable-anymap",
+                                                       "image/x-portable-bitmap",
+                                                       "image/x-portable-graymap",
+                                                       "image/x-portable-pixmap",
+                                                       "image/x-xpixmap"};
+
+// Beginnings of texts that the print system interprets.
 constexpr std::array<std::string_view, 4> kReadByPrintSystem{"#CUPS", "#PDF-", "<", "#define"};
 
 // The print system, too, takes a PDF that begins with empty lines.
@@ -44,13 +53,13 @@ std::string formatOfText(std::string_view start) {
   return isRead ? kUnknownFormat : "text/plain";
 }
 
-// What the database of the desktop says; unknown also where it has another name for a format than
-// the print system, which would refuse it.
+// What the database of the desktop says, where the print system has the same name for it. Any other
+// format is left for the print system to find out: it looks into compressed files, too.
 std::string formatInDatabase(std::string_view start) {
   const QByteArray bytes(start.data(), static_cast<qsizetype>(start.size()));
-  const QMimeType found = QMimeDatabase().mimeTypeForData(bytes);
-  const bool isText = found.inherits("text/plain");  // a guess from a few bytes
-  return isText || found.name() == "image/bmp" ? kUnknownFormat : found.name().toStdString();
+  const std::string found = QMimeDatabase().mimeTypeForData(bytes).name().toStdString();
+  const bool isShared = std::ranges::find(kSharedNames, found) != kSharedNames.end();
+  return isShared ? found : kUnknownFormat;
 }
 
 }  // namespace

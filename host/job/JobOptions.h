@@ -20,6 +20,10 @@ inline constexpr char kSidesOption[] = "sides";
 inline constexpr char kFormatOption[] = "document-format";
 inline constexpr char kRawOption[] = "raw";
 
+// The options with the PPD's marked choices over them. An option of the PPD in which nothing is
+// marked is left out, unless it holds a value of the person's own, which no mark can hold.
+OptionList withMarks(OptionList options, ppd_file_t& ppd);
+
 // All options of the job as they are sent: the request's own, the PPD's marked choices over them
 // (a null PPD has none), then copies and page ranges where they differ from one copy of all pages.
 // An option of the PPD in which nothing is marked is not sent.

@@ -40,7 +40,8 @@ NoValue takeBack(const JobRequest& request, int jobId, const NoValue& why) {
   const auto server = PrintServer::connect(neverCancelled(), kShortPatience);
   if (server && ask(server->http(), jobRequest(IPP_OP_CANCEL_JOB, jobId))) return why;
   const auto* failure = std::get_if<Failure>(&why);
-  const std::string reason = failure ? failure->reason : "The job was cancelled here only.";
+  const std::string reason =
+      failure ? failure->reason : "The job was cancelled on this computer only.";
   const std::string name = request.printer + "-" + std::to_string(jobId);
   return Failure{reason + " The unfinished job " + name +
                  " is still in the queue; remove it with: cancel " + name};

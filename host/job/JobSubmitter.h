@@ -7,7 +7,7 @@
 #include "host/job/Progress.h"
 #include "host/support/Cancellable.h"
 
-// A job's way to its queue and back: sent, then read again to see what arrived.
+// A job's way to its queue and back: sent (Delivery), then read again to see what arrived.
 
 namespace tavrin {
 

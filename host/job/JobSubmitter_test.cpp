@@ -120,13 +120,6 @@ TEST_F(JobSubmitterTest, AnEmptyDocumentMakesNoJob) {
   EXPECT_EQ(jobState(1), 0);
 }
 
-TEST_F(JobSubmitterTest, ADocumentThatCannotBePrintedIsRefusedByItsKind) {
-  const auto submission = submitJob(request(std::string("PK\3\4\0\0", 6)), {});
-  ASSERT_FALSE(submission);
-  EXPECT_NE(submission.reason().find("application/zip"), std::string::npos) << submission.reason();
-  EXPECT_EQ(jobState(1), IPP_JSTATE_CANCELED) << "nothing of it stays in the queue";
-}
-
 TEST_F(JobSubmitterTest, AnUnknownPrinterIsNamed) {
   JobRequest job = request();
   job.printer = "nowhere";

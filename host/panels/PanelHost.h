@@ -3,7 +3,8 @@
 #include <functional>
 #include <string>
 
-#include "host/panels/HostJob.h"
+#include "host/panels/HostPageFormat.h"
+#include "host/panels/HostPrintSettings.h"
 #include "platform/contract/PrintDialogExtension.h"
 
 // The dialog's side of the talk with a panel.

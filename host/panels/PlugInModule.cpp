@@ -1,9 +1,9 @@
 #include "host/panels/PlugInModule.h"
 
-#include <algorithm>
 #include <dlfcn.h>
 #include <system_error>
 
+#include "platform/files/InsideFolder.h"
 #include "platform/text/Quoted.h"
 
 namespace tavrin {
@@ -15,12 +15,11 @@ namespace {
 // What is behind a link counts, as that is what would be loaded.
 Result<fs::path> fileInside(const fs::path& bundle, const std::string& executable) {
   std::error_code error;
-  const fs::path home = fs::canonical(bundle, error);
   const fs::path module = fs::canonical(bundle / "Contents" / "Linux" / executable, error);
   if (error || !fs::is_regular_file(module, error))
     return plugInFailure(
         bundle, "lacks its executable file, Contents/Linux/" + executable + ". Install it again.");
-  if (std::ranges::mismatch(home, module).in1 != home.end())
+  if (!isInside(module, bundle))
     return plugInFailure(bundle,
                          "has an executable file that lies outside of it. Install it again.");
   return module;

@@ -2,6 +2,7 @@
 
 #include "host/panels/TrustedBundles.h"
 #include "host/printer/MarkedOptions.h"
+#include "ppd/PPDKeywords.h"
 
 namespace tavrin {
 
@@ -30,8 +31,8 @@ std::string PrinterSession::addPanels(LoadedPlugIn plugIn) {
   loaded = std::move(plugIn);
   auto offered = loaded.principal->PDEPanelsForType(kPrintDialogPanelType, &host);
   if (!offered)
-    return "The printer's plug-in has no panel for this dialog. Its settings are as the printer "
-           "has them.";
+    return "The printer's plug-in has no panel for this dialog. The printer's usual settings "
+           "are used.";
   ownPanels = std::move(*offered);
   return restorePanels();
 }
@@ -43,9 +44,12 @@ std::set<std::string> PrinterSession::claimedKeywords() const {
   return keywords;
 }
 
-std::vector<std::string> PrinterSession::markAnew(const OptionList& options) {
+std::vector<std::string> PrinterSession::markAnew(const OptionList& options,
+                                                  const std::vector<std::string>& unmarked) {
   ppdMarkDefaults(file.get());
   std::vector<std::string> problems = markOptions(*file, options);
+  for (const std::string& keyword : unmarked)
+    if (ppd_option_t* option = ppdFindOption(file.get(), keyword.c_str())) unmark(*file, *option);
   ppdMarks.marksWereReplaced();
   if (std::string problem = restorePanels(); !problem.empty()) problems.push_back(problem);
   return problems;
@@ -77,9 +81,7 @@ std::string PrinterSession::savePanels() {
   return {};
 }
 
-void PrinterSession::followPaper() {
-  host.pageFormat()->setPaper(ppdMarks.choice(kPaperSizeKeyword));
-}
+void PrinterSession::followPaper() { host.pageFormat()->setPaper(ppdMarks.choice(kPageSizeKey)); }
 
 void PrinterSession::tellPanels(const std::string& keyword, const OptString& choice) {
   for (const auto& panel : ownPanels) panel->PPDOptionKeyValueDidChange(keyword, choice);

@@ -40,14 +40,16 @@ class PrinterSession : public QObject {
 
   // Goes back to the PPD's defaults with these options over them, and has the panels take them.
   // One sentence for each option that names a choice which the printer does not have.
-  std::vector<std::string> markAnew(const OptionList& options);
+  // In the options with these keywords nothing is marked at all.
+  std::vector<std::string> markAnew(const OptionList& options,
+                                    const std::vector<std::string>& unmarked = {});
 
   // The layout that the panels see.
   void setPagesPerSheet(int pages);
 
   // Has the panels hand over their choices, all of them before anybody is told of new marks; a
   // sentence when one could not.
-  std::string takePanelChoices();
+  [[nodiscard]] std::string takePanelChoices();
 
  signals:
   void panelResized();

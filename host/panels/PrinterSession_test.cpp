@@ -31,7 +31,7 @@ TEST_F(PrinterSessionTest, MarksNothingForAnAbsentOrUnknownChoice) {
   session.addPanels(FakePlugIn::loaded(diary));
   for (const OptString& choice : {OptString(), OptString("Velvet")}) {
     panel().chosen = choice;
-    session.takePanelChoices();
+    EXPECT_EQ(session.takePanelChoices(), "");
     EXPECT_EQ(session.marks().choice("MediaType"), "IronOn");
   }
 }

@@ -6,6 +6,7 @@
 
 #include "host/support/Joined.h"
 #include "platform/files/FileName.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/text/Quoted.h"
 
 namespace tavrin {
@@ -15,11 +16,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr char kSuffix[] = ".plugin";
-
-fs::path programFolder() {
-  std::error_code error;
-  return fs::read_symlink("/proc/self/exe", error).parent_path();
-}
 
 // Empty where the user's data folder is a relative path: what lies below the folder that the
 // program was started in is not the user's.

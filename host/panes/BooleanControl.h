@@ -6,7 +6,7 @@
 
 namespace tavrin {
 
-// A check box for a PPD option that is "True" or "False"; between both while none is marked. It
+// A check box for a PPD option that is "True" or "False"; half-ticked while neither is marked. It
 // marks what the person picks, and follows marks that change elsewhere.
 class BooleanControl : public QCheckBox {
   Q_OBJECT

@@ -17,7 +17,7 @@ class LayoutPane : public Pane {
   Q_OBJECT
 
  public:
-  // Shows the field and takes the person's change to it. The fields outlive the pane.
+  // Shows the field and passes the person's change on to it. The fields outlive the pane.
   LayoutPane(JobFields& fields, QWidget* parent);
 
   // Takes the printer's two-sided option; null for no printer. The marks outlive their use here.

@@ -14,6 +14,13 @@ namespace {
 constexpr std::string_view kCustom = "Custom";
 constexpr std::string_view kInstalledGroup = "InstallableOptions";
 
+void appendUnmarked(const ppd_group_t& group, std::vector<std::string>& keywords) {
+  for (const ppd_option_t& option : optionsOf(group))
+    if (std::ranges::none_of(choicesOf(option), [](const auto& choice) { return choice.marked; }))
+      keywords.emplace_back(option.keyword);
+  for (const ppd_group_t& inner : subgroupsOf(group)) appendUnmarked(inner, keywords);
+}
+
 void appendMarked(const ppd_group_t& group, OptionList& options) {
   if (isInstalledOptions(group.name)) return;
   for (const ppd_option_t& option : optionsOf(group)) {
@@ -88,6 +95,12 @@ OptionList markedOptions(ppd_file_t& ppd) {
   OptionList options;
   for (const ppd_group_t& group : groupsOf(ppd)) appendMarked(group, options);
   return options;
+}
+
+std::vector<std::string> optionsWithoutMark(const ppd_file_t& ppd) {
+  std::vector<std::string> keywords;
+  for (const ppd_group_t& group : groupsOf(ppd)) appendUnmarked(group, keywords);
+  return keywords;
 }
 
 std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options) {

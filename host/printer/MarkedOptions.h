@@ -12,9 +12,6 @@
 
 namespace tavrin {
 
-// The PPD's option for the size of the paper.
-inline constexpr char kPaperSizeKeyword[] = "PageSize";
-
 // Its options for printing on both sides. Makers of printer software agree on what it means but not
 // on its name.
 inline constexpr std::array kTwoSidedKeywords{"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
@@ -35,6 +32,9 @@ bool markChoice(ppd_file_t* ppd, const std::string& key, const std::string& choi
 
 // Takes every mark of the option away.
 void unmark(ppd_file_t& ppd, ppd_option_t& option);
+
+// The keywords of the options in which nothing is marked.
+std::vector<std::string> optionsWithoutMark(const ppd_file_t& ppd);
 
 // The keywords of the option's marked choices, with commas between them where there are several;
 // empty without a mark.

@@ -10,7 +10,7 @@
 
 namespace tavrin {
 
-// Larger files are refused, as they lie there and as they unpack.
+// Larger files are refused, packed or unpacked.
 inline constexpr std::size_t kPPDFileLimit = 4 * 1024 * 1024;
 inline constexpr std::size_t kPPDTextLimit = 16 * 1024 * 1024;
 

@@ -40,7 +40,7 @@ JobRequest jobFrom(const QCommandLineParser& parser) {
   for (const QString& text : parser.values(kOption))
     for (const auto& [name, value] : optionsFromArgument(text.toStdString()))
       setOption(job.options, name, value);
-  // Said outright, one copy too goes before what is saved for the printer.
+  // An explicit -n 1 overrides the number that is saved for the printer, too.
   if (parser.isSet(kCopies)) setOption(job.options, kCopiesOption, std::to_string(job.copies));
   if (const QStringList documents = parser.positionalArguments(); !documents.isEmpty())
     job.document = documents.front().toStdString();
@@ -70,7 +70,7 @@ QString wrongCopies(const QCommandLineParser& parser) {
 QString disagreement(const QCommandLineParser& parser) {
   if (parser.positionalArguments().size() > 1) return "Only one document can be printed at a time.";
   if (const QString wrong = wrongCopies(parser); !wrong.isNull())
-    return QString("“%1” is not a number of copies; it goes from 1 to %2.")
+    return QString("“%1” is not a number of copies; a job has 1 to %2 copies.")
         .arg(wrong)
         .arg(kMostCopies);
   for (const char* name : {kPrinter, kPPD, kOutput})

@@ -1,12 +1,11 @@
 #include "host/program/Samples.h"
 
+#include "platform/files/ProgramFolder.h"
+
 namespace tavrin {
 
 Samples samples() {
-  std::error_code ignored;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
-  // The build tree has the same layout as an installation.
-  const std::filesystem::path folder = program.parent_path() / "share" / "tavrin";
+  const std::filesystem::path folder = programFolder().parent_path() / "share" / "tavrin";
   return {folder / "printers" / "tavrin-r420.ppd", folder / "sample.pdf", folder / "root"};
 }
 

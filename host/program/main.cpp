@@ -13,6 +13,7 @@
 #include "host/printer/PPDLoader.h"
 #include "host/program/CommandLine.h"
 #include "host/program/Samples.h"
+#include "host/task/PrintTask.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/files/RootFolder.h"
 #include "platform/qt/QtToolkit.h"
@@ -46,7 +47,7 @@ void takeForStandardInput(JobRequest& job) {
   const FileDescriptor pipe(open(job.document.c_str(), O_RDONLY | O_NONBLOCK));
   if (!pipe || dup2(pipe.get(), STDIN_FILENO) < 0) return;  // the dialog will say why
   if (job.title.empty()) job.title = job.document.filename().string();
-  job.document = "-";
+  job.document = kStandardInput;
 }
 
 // Qt ends the program when the display cannot be reached; the person should learn why.
@@ -58,7 +59,7 @@ void complainAndLeave(QtMsgType type, const QMessageLogContext&, const QString& 
 // Why the document cannot be printed whatever the printer; empty when it can. Standard input is
 // not looked at before it is printed.
 std::string documentProblem(const std::filesystem::path& document) {
-  if (document == "-") return {};
+  if (document == kStandardInput) return {};
   const auto opened = Document::open(document);
   return opened ? "" : opened.reason();
 }
@@ -111,7 +112,7 @@ int print(CommandLine line, int& argc, char** argv) {
     if (!line.namesDocument) line.job.document = samples().document;
     setRootFolder(samples().root);
   }
-  if (line.job.document == "-" && !line.namesDocument && isatty(STDIN_FILENO))
+  if (line.job.document == kStandardInput && !line.namesDocument && isatty(STDIN_FILENO))
     return complain(kUsage, "No document was named. Name a file, or - to type the document.");
   takeForStandardInput(line.job);
   if (const std::string problem = documentProblem(line.job.document); !problem.empty())

@@ -58,8 +58,6 @@ Printer printerFrom(const cups_dest_t& destination) {
   printer.name = destination.name;
   printer.instance = destination.instance ? destination.instance : "";
   printer.isDefault = destination.is_default != 0;
-  printer.info = text(destination, "printer-info");
-  printer.location = text(destination, "printer-location");
   printer.state = stateOf(destination);
   printer.options = optionsOf(destination);
   return printer;

@@ -33,11 +33,11 @@ IppPtr ask(http_t* http, IppPtr request) {
   return answer;
 }
 
-int integerIn(ipp_t& answer, const char* name, int fallback) {
+int integerIn(ipp_t& answer, const char* name) {
   ipp_attribute_t* attribute = ippFindAttribute(&answer, name, IPP_TAG_ZERO);
   const ipp_tag_t tag = ippGetValueTag(attribute);
   const bool isNumber = tag == IPP_TAG_INTEGER || tag == IPP_TAG_ENUM;
-  return isNumber ? ippGetInteger(attribute, 0) : fallback;
+  return isNumber ? ippGetInteger(attribute, 0) : 0;
 }
 
 bool booleanIn(ipp_t& answer, const char* name, bool fallback) {

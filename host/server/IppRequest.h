@@ -17,9 +17,9 @@ IppPtr jobRequest(ipp_op_t operation, int jobId);
 // error then tells why.
 IppPtr ask(http_t* http, IppPtr request);
 
-// What an answer says under a name; the fallback when it says nothing of that kind. Several values
-// are separated by commas.
-int integerIn(ipp_t& answer, const char* name, int fallback = 0);
+// What an answer says under a name; 0, the fallback or the empty text when it says nothing of that
+// kind. Several values are separated by commas.
+int integerIn(ipp_t& answer, const char* name);
 bool booleanIn(ipp_t& answer, const char* name, bool fallback);
 std::string textIn(ipp_t& answer, const char* name);
 

@@ -12,8 +12,6 @@ struct Printer {
   std::string name;
   std::string instance;  // empty for the queue itself
   bool isDefault = false;
-  std::string info;      // what the queue says that it is; may be empty
-  std::string location;  // may be empty
   PrinterState state;
   OptionList options;  // the options that the person or the administrator keeps for it
 };

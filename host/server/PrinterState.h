@@ -5,7 +5,7 @@
 
 namespace tavrin {
 
-// What a printer is doing, as the print server last said.
+// What a printer is doing, as the print server last said (Destinations.h asks it).
 struct PrinterState {
   enum class Activity { unknown, idle, printing, stopped };
 

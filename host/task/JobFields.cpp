@@ -10,6 +10,10 @@ namespace {
 
 int possibleCopies(int copies) { return std::clamp(copies, 1, kMostCopies); }
 
+bool canLayOut(int pages) {
+  return std::ranges::find(kPagesPerSheet, pages) != kPagesPerSheet.end();
+}
+
 }  // namespace
 
 void JobFields::setCopies(int copies) { copiesField = {possibleCopies(copies), true}; }
@@ -34,12 +38,13 @@ Result<std::string> JobFields::pageRanges() const {
 }
 
 void JobFields::setPagesPerSheet(int pages) {
+  if (!canLayOut(pages)) return;
   perSheetField = {pages, true};
   emit pagesPerSheetChanged(pages);
 }
 
 bool JobFields::suggestPagesPerSheet(int pages) {
-  if (std::ranges::find(kPagesPerSheet, pages) == kPagesPerSheet.end()) return false;
+  if (!canLayOut(pages)) return false;
   if (perSheetField.byHand) return true;
   perSheetField.value = pages;
   emit suggestionTaken();

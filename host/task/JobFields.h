@@ -28,7 +28,7 @@ class JobFields : public QObject {
   };
 
   int copies() const { return copiesField.value; }
-  // A number of copies that cannot be becomes the nearest that can.
+  // An impossible number of copies becomes the nearest possible one.
   void setCopies(int copies);
   void suggestCopies(int copies);
 
@@ -40,12 +40,13 @@ class JobFields : public QObject {
   Result<std::string> pageRanges() const;
 
   int pagesPerSheet() const { return perSheetField.value; }
+  // Nothing changes for a number that the print system cannot lay out.
   void setPagesPerSheet(int pages);
   // False, and nothing changes, for a number that the print system cannot lay out.
   bool suggestPagesPerSheet(int pages);
 
   // Suggests what the request asks for, or else what these options do. A sentence where they ask
-  // for a number of pages on a sheet that cannot be; else empty.
+  // for an impossible number of pages on a sheet; else empty.
   QString suggest(const JobRequest& request, const OptionList& options);
 
  signals:

@@ -35,6 +35,8 @@ TEST(JobFields, HoldOnlyWhatCanBe) {
   EXPECT_EQ(fields.copies(), kMostCopies);
   EXPECT_FALSE(fields.suggestPagesPerSheet(5));
   EXPECT_EQ(fields.pagesPerSheet(), 1);
+  fields.setPagesPerSheet(5);
+  EXPECT_EQ(fields.pagesPerSheet(), 1);
   fields.setPages({false, "5-1"});
   EXPECT_FALSE(fields.pageRanges());
 }

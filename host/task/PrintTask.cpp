@@ -49,7 +49,7 @@ void PrintTask::tell(Notice notice) {
 
 void PrintTask::leave() {
   if (end != Outcome::cancelled) return;
-  if (now == Stage::takingBack)
+  if (isSending())
     reportText = tr("The job may still be on its way. See whether it is in the queue: lpstat -o")
                      .toStdString();
   else if (said.isWarning)
@@ -85,6 +85,9 @@ void PrintTask::connectBrowser() {
 }
 
 void PrintTask::usePrintServer() {
+  if (isSending()) return;
+  keepSettings();
+  endSession();
   tell({});
   list = {};
   emit printersChanged();
@@ -115,24 +118,23 @@ void PrintTask::noPrinters(const QString& reason) {
 }
 
 void PrintTask::choosePrinter(std::size_t place) {
-  // Choosing what is chosen already changes nothing.
-  if (list.chosenIndex() == place) return;
-  keepSettings();
+  if (isSending() || now == Stage::done || place >= list.entries().size()) return;
+  // Choosing the chosen printer changes nothing, except that settings that could not be read are
+  // asked for again.
+  if (list.chosenIndex() == place && (current || now == Stage::reading)) return;
+  const std::string problem = keepSettings();
   list.choose(place);
   emit printersChanged();
   readChosenPrinter();
+  if (!problem.empty()) warn(problem);
 }
 
 void PrintTask::readChosenPrinter() {
   tell({});
   destination = destinationName(*list.chosen());
-  suggestFields();
-  if (current && queueOfSession == list.chosen()->name) {
-    warn(markPrinter());
-    emit sessionRestarted();
-    return;
-  }
+  if (current && queueOfSession == list.chosen()->name) return restartSession();
   endSession();
+  suggestFields();
   enter(Stage::reading);
   tell({tr("Reading the printer's settings…").toStdString()});
   queueOfSession = list.chosen()->name;
@@ -147,7 +149,7 @@ void PrintTask::setState(const std::string& queue, const std::string& words) {
 }
 
 void PrintTask::takePPD(const SharedPPD& ppd) {
-  if (now == Stage::reading) beginSession(ppd);
+  if (now == Stage::reading || (canPrint() && !current)) beginSession(ppd);
 }
 
 // A printer without a PPD still prints; only its own settings cannot be shown.
@@ -175,16 +177,26 @@ void PrintTask::beginSession(const SharedPPD& ppd) {
   emit sessionBegun();
 }
 
+// Another instance of the same printer.
+void PrintTask::restartSession() {
+  suggestFields();
+  warn(markPrinter());
+  enter(Stage::ready);
+  emit sessionRestarted();
+}
+
 void PrintTask::endSession() {
   if (!current) return;
   emit sessionEnding();
   current.reset();
 }
 
-void PrintTask::keepSettings() {
-  if (!current) return;
-  current->takePanelChoices();
-  kept[destination] = markedOptions(current->ppd());
+std::string PrintTask::keepSettings() {
+  if (!current) return {};
+  std::string problem = current->takePanelChoices();
+  kept[destination] = {withMarks(startOptions(), current->ppd()),
+                       optionsWithoutMark(current->ppd())};
+  return problem;
 }
 
 // What lp would send: the printer's saved options, the program's over them.
@@ -203,7 +215,8 @@ std::string PrintTask::markPrinter() {
   current->setPagesPerSheet(jobFields.pagesPerSheet());
   const auto before = kept.find(destination);
   std::vector<std::string> problems =
-      current->markAnew(before != kept.end() ? before->second : startOptions());
+      before == kept.end() ? current->markAnew(startOptions())
+                           : current->markAnew(before->second.options, before->second.unmarked);
   problems.push_back(layoutProblem);
   return inOneText(problems);
 }
@@ -221,6 +234,7 @@ void PrintTask::connectRunner() {
 }
 
 void PrintTask::print() {
+  if (!canPrint()) return;
   const Result<std::string> ranges = jobFields.pageRanges();
   if (!ranges) return warn(ranges.reason());
   if (const std::string problem = current ? current->takePanelChoices() : ""; !problem.empty())

@@ -31,7 +31,7 @@ class PrintTask : public QObject {
     reading,     // the chosen printer's settings
     ready,       // to print
     printing,    // the job is on its way
-    takingBack,  // so it is, and was cancelled
+    takingBack,  // cancelled, but may still arrive
     failed,      // the job did not arrive; everything is as it was, and can be tried again
     done,        // the job arrived
   };
@@ -52,18 +52,18 @@ class PrintTask : public QObject {
   ~PrintTask() override;
 
   // Looks for the print server's printers, and reads the settings of the one that the request
-  // names, else of the default one. May be called again.
+  // names, else of the default one. May be called again, but does nothing while a job is sent.
   void usePrintServer();
   // Prints on this one printer, which has no queue: jobs become folders in the output folder.
   void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);
   // The person's choice, by its place in the list of printers. The settings of the printer that is
-  // left are kept, and come back with it.
+  // left are kept, and come back with it. Does nothing while a job is sent and once it is done.
   void choosePrinter(std::size_t place);
 
-  // Sends the job. Only in a stage that can print; a sentence says what is wrong with the settings
-  // when the job cannot be sent as they are.
+  // Sends the job. Does nothing unless canPrint(). If the job cannot be sent with these settings,
+  // the notice says why.
   void print();
-  // Takes back a job that is on its way; it has its stage until that is done.
+  // Takes back a job that is on its way; the stage is takingBack until that is done.
   void cancel();
   // The person leaves now: the report says why nothing was printed, where there is a reason.
   void leave();
@@ -106,6 +106,12 @@ class PrintTask : public QObject {
   void progressed(const tavrin::Progress& progress);
 
  private:
+  // The settings of a printer that was left.
+  struct Kept {
+    OptionList options;
+    std::vector<std::string> unmarked;  // options in which nothing was chosen at all
+  };
+
   void connectBrowser();
   void connectRunner();
   void enter(Stage stage);
@@ -119,8 +125,9 @@ class PrintTask : public QObject {
   void goWithoutPPD(const QString& reason);
 
   void beginSession(const SharedPPD& ppd);
+  void restartSession();
   void endSession();
-  void keepSettings();
+  std::string keepSettings();
   OptionList startOptions() const;
   void suggestFields();
   std::string markPrinter();
@@ -139,8 +146,8 @@ class PrintTask : public QObject {
   JobFields jobFields;
   std::string layoutProblem;  // of the suggested fields; empty for none
   std::string queueOfSession;
-  std::string destination;                 // the queue or instance whose settings are shown
-  std::map<std::string, OptionList> kept;  // the settings of destinations that were left
+  std::string destination;           // the queue or instance whose settings are shown
+  std::map<std::string, Kept> kept;  // of the destinations that were left
   std::unique_ptr<PrinterSession> current;
   PrinterBrowser browser;
   JobRunner runner;

@@ -46,6 +46,16 @@ class PrintTaskTest : public EventLoopTest {
                                              {"*cupsFilter2: \"application/pdf "
                                               "application/pdf 0 -\""})));
   }
+  // A printer that takes papers of any size, and staples where the person picks.
+  static std::string customPrinter() {
+    return ppdText(
+        {pageSizeOption(), {"Staple/Staple", "PickMany", "Left", {"Left", "Right"}}},
+        {"*cupsFilter2: \"application/pdf application/pdf 0 -\"", "*VariablePaperSize: True",
+         "*MaxMediaWidth: \"1000\"", "*MaxMediaHeight: \"1000\"",
+         "*NonUIOrderDependency: 10 AnySetup *CustomPageSize", "*CustomPageSize True: \"\"",
+         "*ParamCustomPageSize Width: 1 points 36 1000",
+         "*ParamCustomPageSize Height: 2 points 36 1000"});
+  }
   static std::size_t placeOf(const PrintTask& task, const std::string& destination) {
     const auto& entries = task.printers().entries();
     const auto found = std::ranges::find(entries, destination, [](const PrinterList::Entry& entry) {
@@ -183,6 +193,83 @@ TEST_F(PrintTaskTest, KeepsTheSettingsOfAPrinterThatIsLeft) {
   EXPECT_EQ(paper(), "IronOn");
   turnTo("office");
   EXPECT_EQ(paper(), "Transparency");
+}
+
+TEST_F(PrintTaskTest, KeepsACustomPaperAndWhatWasEmptied) {
+  PrivateCupsd cups;
+  addQueue(cups, "attic");
+  cups.addQueue("office", place.write("custom.ppd", customPrinter()));
+  JobRequest job = request("office");
+  job.options = {{"PageSize", "Custom.10x15cm"}};
+  PrintTask task(job);
+  task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  task.session()->marks().setPicked("Staple", "Left", false);
+  ASSERT_EQ(task.session()->marks().choice("PageSize"), "Custom");
+  task.choosePrinter(placeOf(task, "attic"));
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  task.choosePrinter(placeOf(task, "office"));
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_EQ(task.session()->marks().choice("PageSize"), "Custom");
+  EXPECT_EQ(task.session()->marks().choice("Staple"), std::nullopt);
+}
+
+TEST_F(PrintTaskTest, AsksAgainForSettingsThatCouldNotBeRead) {
+  PrivateCupsd cups;
+  addQueue(cups, "attic");
+  addQueue(cups, "office");
+  PrintTask task(request("attic"));
+  task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  cups.run({"lpadmin", "-x", "office"});
+  const std::size_t office = placeOf(task, "office");
+  task.choosePrinter(office);
+  ASSERT_TRUE(reaches(task, Stage::ready)) << "it prints all the same";
+  ASSERT_EQ(task.session(), nullptr);
+  addQueue(cups, "office");
+  task.choosePrinter(office);
+  EXPECT_EQ(task.stage(), Stage::reading);
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_NE(task.session(), nullptr);
+}
+
+TEST_F(PrintTaskTest, LooksAgainWithoutLosingTheSettings) {
+  PrivateCupsd cups;
+  addQueue(cups, "attic");
+  PrintTask task(request());
+  task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  task.session()->marks().choose("MediaType", "Transparency");
+  task.usePrintServer();
+  EXPECT_EQ(task.stage(), Stage::looking);
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_EQ(task.session()->marks().choice("MediaType"), "Transparency");
+}
+
+TEST_F(PrintTaskTest, DoesNothingOutOfTurn) {
+  PrintTask task(request());
+  task.print();
+  task.choosePrinter(0);
+  EXPECT_EQ(task.stage(), Stage::idle);
+  task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+  task.print();
+  task.usePrintServer();
+  task.choosePrinter(0);
+  EXPECT_EQ(task.stage(), Stage::printing);
+  ASSERT_TRUE(reaches(task, Stage::done));
+  task.print();
+  EXPECT_EQ(task.stage(), Stage::done);
+}
+
+TEST_F(PrintTaskTest, WhoLeavesWhileItPrintsHearsOfTheJob) {
+  JobRequest job = request();
+  job.document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(job.document.c_str(), 0600), 0);
+  PrintTask task(job);
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.print();
+  task.leave();
+  EXPECT_NE(task.report().find("still be on its way"), std::string::npos);
 }
 
 TEST_F(PrintTaskTest, AsksForAnotherPrinterWhereTheNamedOneIsUnknown) {

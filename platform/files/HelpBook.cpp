@@ -8,6 +8,7 @@
 #include "platform/files/Bundle.h"
 #include "platform/files/FileName.h"
 #include "platform/files/HtmlTitle.h"
+#include "platform/files/InsideFolder.h"
 #include "platform/files/RegularFile.h"
 
 namespace tavrin {
@@ -18,17 +19,6 @@ namespace fs = std::filesystem;
 constexpr std::size_t kPageSizeLimit = 1024 * 1024;
 // A book folder inside a bundle may be a bundle again; nothing goes deeper.
 constexpr int kBundleDepth = 2;
-
-// Whether the file lies in the folder once every symbolic link is followed.
-bool isInside(const fs::path& file, const fs::path& folder) {
-  std::error_code failure;
-  const fs::path realFolder = fs::canonical(folder, failure);
-  if (failure) return false;
-  const fs::path realFile = fs::canonical(file, failure);
-  if (failure) return false;
-  const fs::path relative = realFile.lexically_relative(realFolder);
-  return !relative.empty() && *relative.begin() != "..";
-}
 
 // The file of that name in the folder; empty if there is none or it really lies elsewhere.
 fs::path pageIn(const fs::path& folder, const fs::path& name) {

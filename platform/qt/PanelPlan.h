@@ -8,7 +8,7 @@
 
 namespace tavrin {
 
-// Where the views of a panel belong on the screen, reckoned from the frames, flags and texts that
+// Where the views of a panel belong on the screen, calculated from the frames, flags and texts that
 // they have as the plan is made. See PanelLayout for what it follows.
 class PanelPlan {
  public:

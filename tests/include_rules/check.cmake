@@ -14,30 +14,31 @@ function(room name)
   set(MAY_${id} ${name} ${ARGN} PARENT_SCOPE)
 endfunction()
 
-set(PLATFORM platform/text platform/files platform/toolkit platform/contract)
 room(platform/text)
 room(platform/files      platform/text)
 room(platform/toolkit    platform/text platform/files)
 room(platform/contract   platform/text platform/toolkit)
 room(platform/qt         platform/text platform/files platform/toolkit)
-room(ppd                 ${PLATFORM})
-room(conflict            ${PLATFORM} ppd)
-room(controller          ${PLATFORM} ppd conflict)
-room(plugin              ${PLATFORM} ppd conflict controller)
-room(resources           ${PLATFORM} ppd)
+room(ppd                 platform/text platform/files platform/toolkit)
+set(CORE platform/text platform/files platform/toolkit platform/contract ppd)
+room(conflict            ${CORE})
+room(controller          ${CORE} conflict)
+room(plugin              ${CORE} controller)
+room(resources           platform/text platform/files platform/toolkit ppd)
 room(host/support        platform/text)
 room(host/printer        platform/text platform/files ppd host/support)
 room(host/server         platform/text platform/files ppd host/support host/printer)
 room(host/job            platform/text platform/files ppd host/support host/printer host/server)
-room(host/panels         ${PLATFORM} ppd host/support host/printer)
-room(host/task           platform/text ppd host/support host/printer host/server host/job host/panels)
-room(host/panes          ${PLATFORM} platform/qt ppd host/support host/printer host/panels
+room(host/panels         platform/text platform/files platform/contract ppd host/support
+                         host/printer)
+room(host/task           platform/text host/support host/printer host/server host/job host/panels)
+room(host/panes          platform/text platform/contract platform/qt ppd host/printer host/panels
                          host/task)
-room(host/dialog         ${PLATFORM} platform/qt ppd host/support host/printer host/panels host/task
-                         host/panes)
-room(host/program        ${PLATFORM} platform/qt ppd host/support host/printer host/job host/task
+room(host/dialog         platform/text platform/files platform/toolkit platform/qt ppd host/printer
+                         host/panels host/task host/panes)
+room(host/program        platform/text platform/files platform/qt host/printer host/job host/task
                          host/dialog)
-room(replay              ${PLATFORM} platform/qt ppd host/printer host/panels)
+room(replay              ${CORE} platform/qt host/printer host/panels)
 room(tests               ${ROOMS})
 
 # The libraries: how an include of one looks, and the files that may have it. Widgets are all of Qt

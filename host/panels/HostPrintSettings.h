@@ -2,11 +2,8 @@
 
 #include <map>
 #include <string>
-#include <utility>
 
 #include "platform/contract/PrintJob.h"
-
-// The job that a host prepares, as its panels see it.
 
 namespace tavrin {
 
@@ -24,20 +21,6 @@ class HostPrintSettings final : public PMPrintSettings {
 
  private:
   std::map<std::string, std::string> values;
-};
-
-// The page format of a job: without paper until one is set.
-class HostPageFormat final : public PMPageFormat, private PMPaper {
- public:
-  const PMPaper* paper() const override { return name ? this : nullptr; }
-
-  // The paper's keyword in the PPD's "PageSize"; absent for a format without paper.
-  void setPaper(OptString ppdName) { name = std::move(ppdName); }
-
- private:
-  OptString ppdPaperName() const override { return name; }
-
-  OptString name;
 };
 
 }  // namespace tavrin

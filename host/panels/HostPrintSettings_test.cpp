@@ -1,4 +1,4 @@
-#include "host/panels/HostJob.h"
+#include "host/panels/HostPrintSettings.h"
 
 #include <utility>
 #include <vector>
@@ -8,23 +8,13 @@
 namespace tavrin {
 namespace {
 
-TEST(HostJob, KeepsSettingsByKey) {
+TEST(HostPrintSettings, KeepsSettingsByKey) {
   HostPrintSettings settings;
   EXPECT_EQ(settings.value(kPMLayoutColumns), std::nullopt);
   settings.setValue(kPMLayoutColumns, "2");
   EXPECT_EQ(settings.value(kPMLayoutColumns), "2");
   settings.setValue(kPMLayoutColumns, std::nullopt);
   EXPECT_EQ(settings.value(kPMLayoutColumns), std::nullopt);
-}
-
-TEST(HostJob, HasAPaperOnceItIsSet) {
-  HostPageFormat format;
-  EXPECT_EQ(format.paper(), nullptr);
-  format.setPaper("A4");
-  ASSERT_NE(format.paper(), nullptr);
-  EXPECT_EQ(format.paper()->ppdPaperName(), "A4");
-  format.setPaper(std::nullopt);
-  EXPECT_EQ(format.paper(), nullptr);
 }
 
 TEST(LayoutColumns, GrowWithThePages) {

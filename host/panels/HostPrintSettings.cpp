@@ -1,4 +1,4 @@
-#include "host/panels/HostJob.h"
+#include "host/panels/HostPrintSettings.h"
 
 namespace tavrin {
 
