@@ -2,16 +2,12 @@
 
 #include <utility>
 
-#include <QStringList>
-
 #include "host/job/JobOptions.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/support/Joined.h"
 
 namespace tavrin {
 namespace {
-
-constexpr int kStateInterval = 10'000;  // milliseconds
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 
@@ -29,7 +25,7 @@ std::string nameOf(const ppd_file_t& ppd) {
 PrintTask::PrintTask(JobRequest request, QObject* parent)
     : QObject(parent), asked(std::move(request)) {
   suggestFields();
-  connectBrowser();
+  connectSearch();
   connectRunner();
   connect(&jobFields, &JobFields::pagesPerSheetChanged, this, [this](int pages) {
     if (current) current->setPagesPerSheet(pages);
@@ -58,30 +54,12 @@ void PrintTask::leave() {
 
 // --- Printers ---
 
-void PrintTask::connectBrowser() {
-  const auto isChosen = [this](const std::string& queue) {
-    return list.chosen() && list.chosen()->name == queue;
-  };
-  connect(&browser, &PrinterBrowser::printersFound, this, &PrintTask::showPrinters);
-  connect(&browser, &PrinterBrowser::printersFailed, this, &PrintTask::noPrinters);
-  connect(&browser, &PrinterBrowser::ppdReady, this,
-          [=, this](const std::string& queue, const SharedPPD& ppd) {
-            if (isChosen(queue)) takePPD(ppd);
-          });
-  connect(&browser, &PrinterBrowser::ppdFailed, this,
-          [=, this](const std::string& queue, const QString& reason) {
-            if (isChosen(queue)) goWithoutPPD(reason);
-          });
-  connect(&browser, &PrinterBrowser::stateChanged, this,
-          [this](const std::string& queue, const PrinterState& state) {
-            setState(queue, stateText(state));
-          });
-  connect(&browser, &PrinterBrowser::stateFailed, this, [this](const std::string& queue) {
-    setState(queue, tr("does not answer").toStdString());
-  });
-  connect(&stateTimer, &QTimer::timeout, this, [this] {
-    if (const Printer* printer = list.chosen()) browser.readState(printer->name);
-  });
+void PrintTask::connectSearch() {
+  connect(&search, &PrinterSearch::printersChanged, this, &PrintTask::printersChanged);
+  connect(&search, &PrinterSearch::found, this, &PrintTask::chooseFirstPrinter);
+  connect(&search, &PrinterSearch::failed, this, &PrintTask::noPrinters);
+  connect(&search, &PrinterSearch::settingsRead, this, &PrintTask::takePPD);
+  connect(&search, &PrinterSearch::settingsFailed, this, &PrintTask::goWithoutPPD);
 }
 
 void PrintTask::usePrintServer() {
@@ -89,10 +67,8 @@ void PrintTask::usePrintServer() {
   keepSettings();
   endSession();
   tell({});
-  list = {};
-  emit printersChanged();
   enter(Stage::looking);
-  browser.findPrinters();
+  search.look();
 }
 
 void PrintTask::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path folder) {
@@ -100,14 +76,11 @@ void PrintTask::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::pa
   beginSession(ppd);
 }
 
-void PrintTask::showPrinters(const std::vector<Printer>& found) {
-  if (found.empty())
+void PrintTask::chooseFirstPrinter() {
+  if (printers().entries().empty())
     return noPrinters(tr("No printer is set up on this computer. Set one up, then look again."));
   const std::string named = destinationName(asked.printer, asked.instance);
-  list = PrinterList(found);
-  const bool isThere = list.choose(named);
-  emit printersChanged();
-  if (isThere) return readChosenPrinter();
+  if (search.choose(named)) return readChosenPrinter();
   enter(Stage::choosing);
   warn(tr("There is no printer “%1”. Choose another one.").arg(shown(named)).toStdString());
 }
@@ -118,34 +91,26 @@ void PrintTask::noPrinters(const QString& reason) {
 }
 
 void PrintTask::choosePrinter(std::size_t place) {
-  if (isSending() || now == Stage::done || place >= list.entries().size()) return;
+  if (isSending() || now == Stage::done || place >= printers().entries().size()) return;
   // Choosing the chosen printer changes nothing, except that settings that could not be read are
   // asked for again.
-  if (list.chosenIndex() == place && (current || now == Stage::reading)) return;
+  if (printers().chosenIndex() == place && (current || now == Stage::reading)) return;
   const std::string problem = keepSettings();
-  list.choose(place);
-  emit printersChanged();
+  search.choose(place);
   readChosenPrinter();
   if (!problem.empty()) warn(problem);
 }
 
 void PrintTask::readChosenPrinter() {
   tell({});
-  destination = destinationName(*list.chosen());
-  if (current && queueOfSession == list.chosen()->name) return restartSession();
+  destination = destinationName(*printers().chosen());
+  if (current && queueOfSession == printers().chosen()->name) return restartSession();
   endSession();
   suggestFields();
   enter(Stage::reading);
   tell({tr("Reading the printer's settings…").toStdString()});
-  queueOfSession = list.chosen()->name;
-  browser.fetchPPD(queueOfSession);
-  browser.readState(queueOfSession);
-  stateTimer.start(kStateInterval);
-}
-
-void PrintTask::setState(const std::string& queue, const std::string& words) {
-  list.setState(queue, words);
-  emit printersChanged();
+  queueOfSession = printers().chosen()->name;
+  search.readChosen();
 }
 
 void PrintTask::takePPD(const SharedPPD& ppd) {
@@ -164,7 +129,7 @@ void PrintTask::goWithoutPPD(const QString& reason) {
 
 std::string PrintTask::printerName() const {
   if (!hasQueue()) return current ? nameOf(current->ppd()) : "";
-  return list.chosen() ? destinationName(*list.chosen()) : "";
+  return printers().chosen() ? destinationName(*printers().chosen()) : "";
 }
 
 // --- The chosen printer's settings ---
@@ -202,7 +167,7 @@ std::string PrintTask::keepSettings() {
 // What lp would send: the printer's saved options, the program's over them.
 OptionList PrintTask::startOptions() const {
   OptionList options;
-  if (const Printer* printer = list.chosen()) options = printer->options;
+  if (const Printer* printer = printers().chosen()) options = printer->options;
   for (const auto& [name, value] : asked.options) setOption(options, name, value);
   return options;
 }
@@ -225,9 +190,10 @@ std::string PrintTask::markPrinter() {
 
 void PrintTask::connectRunner() {
   connect(&runner, &JobRunner::progressed, this, &PrintTask::progressed);
-  connect(&runner, &JobRunner::submitted, this, &PrintTask::finishSubmission);
+  connect(&runner, &JobRunner::submitted, this,
+          [this](const Submission& submission) { finish(reportOn(queueOfSession, submission)); });
   connect(&runner, &JobRunner::folderWritten, this, [this](const QString& folder) {
-    finish(tr("The job is in the folder %1.").arg(folder), false);
+    finish({tr("The job is in the folder %1.").arg(folder), false});
   });
   connect(&runner, &JobRunner::cancelled, this, &PrintTask::giveBack);
   connect(&runner, &JobRunner::failed, this, &PrintTask::fail);
@@ -251,8 +217,8 @@ void PrintTask::print() {
 
 JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
   JobRequest finished = asked;
-  finished.printer = hasQueue() ? list.chosen()->name : "";
-  finished.instance = hasQueue() ? list.chosen()->instance : "";
+  finished.printer = hasQueue() ? printers().chosen()->name : "";
+  finished.instance = hasQueue() ? printers().chosen()->instance : "";
   finished.copies = jobFields.copies();
   finished.pageRanges = ranges;
   finished.options = startOptions();
@@ -270,22 +236,11 @@ void PrintTask::cancel() {
   runner.cancel();
 }
 
-void PrintTask::finishSubmission(const Submission& submission) {
-  QStringList report{tr("Job %1-%2 was sent.").arg(shown(queueOfSession)).arg(submission.jobId)};
-  QStringList missing;
-  for (const std::string& option : submission.missingOptions) missing << shown(option);
-  if (!missing.isEmpty())
-    report << tr("The printer did not get: %1. Look at the print before printing more.")
-                  .arg(missing.join(", "));
-  if (!submission.notReadBack.empty()) report << shown(submission.notReadBack);
-  finish(report.join(' '), report.size() > 1);
-}
-
-void PrintTask::finish(const QString& text, bool isWarning) {
+void PrintTask::finish(const JobReport& job) {
   end = Outcome::printed;
-  reportText = text.toStdString();
+  reportText = job.text.toStdString();
   enter(Stage::done);
-  tell({reportText, isWarning});
+  tell({reportText, job.isWarning});
 }
 
 void PrintTask::giveBack() {

@@ -6,13 +6,12 @@
 #include <string>
 
 #include <QObject>
-#include <QTimer>
 
 #include "host/job/JobRunner.h"
 #include "host/panels/PrinterSession.h"
-#include "host/server/PrinterBrowser.h"
 #include "host/task/JobFields.h"
-#include "host/task/PrinterList.h"
+#include "host/task/JobReport.h"
+#include "host/task/PrinterSearch.h"
 
 namespace tavrin {
 
@@ -78,7 +77,7 @@ class PrintTask : public QObject {
   const Notice& notice() const { return said; }
 
   const JobRequest& request() const { return asked; }
-  const PrinterList& printers() const { return list; }
+  const PrinterList& printers() const { return search.printers(); }
   // The chosen printer's name on the screen; empty while none is chosen.
   std::string printerName() const;
   bool hasQueue() const { return output.empty(); }
@@ -112,15 +111,14 @@ class PrintTask : public QObject {
     std::vector<std::string> unmarked;  // options in which nothing was chosen at all
   };
 
-  void connectBrowser();
+  void connectSearch();
   void connectRunner();
   void enter(Stage stage);
   void tell(Notice notice);
 
-  void showPrinters(const std::vector<Printer>& found);
+  void chooseFirstPrinter();
   void noPrinters(const QString& reason);
   void readChosenPrinter();
-  void setState(const std::string& queue, const std::string& words);
   void takePPD(const SharedPPD& ppd);
   void goWithoutPPD(const QString& reason);
 
@@ -133,8 +131,7 @@ class PrintTask : public QObject {
   std::string markPrinter();
 
   JobRequest finishedRequest(const std::string& ranges) const;
-  void finishSubmission(const Submission& submission);
-  void finish(const QString& report, bool isWarning);
+  void finish(const JobReport& job);
   void giveBack();
   void fail(const QString& reason);
 
@@ -142,16 +139,14 @@ class PrintTask : public QObject {
   std::filesystem::path output;  // empty while jobs go to queues
   Stage now = Stage::idle;
   Notice said;
-  PrinterList list;
   JobFields jobFields;
   std::string layoutProblem;  // of the suggested fields; empty for none
   std::string queueOfSession;
   std::string destination;           // the queue or instance whose settings are shown
   std::map<std::string, Kept> kept;  // of the destinations that were left
   std::unique_ptr<PrinterSession> current;
-  PrinterBrowser browser;
+  PrinterSearch search;
   JobRunner runner;
-  QTimer stateTimer;
   Outcome end = Outcome::cancelled;
   std::string reportText;
 };

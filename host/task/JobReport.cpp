@@ -1,0 +1,25 @@
+#include "host/task/JobReport.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include "host/support/Joined.h"
+
+namespace tavrin {
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("JobReport", text); }
+
+}  // namespace
+
+JobReport reportOn(const std::string& queue, const Submission& submission) {
+  QStringList sentences{
+      tr("Job %1-%2 was sent.").arg(QString::fromStdString(queue)).arg(submission.jobId)};
+  if (!submission.missingOptions.empty())
+    sentences << tr("The printer did not get: %1. Look at the print before printing more.")
+                     .arg(QString::fromStdString(joined(submission.missingOptions)));
+  if (!submission.notReadBack.empty()) sentences << QString::fromStdString(submission.notReadBack);
+  return {sentences.join(' '), sentences.size() > 1};
+}
+
+}  // namespace tavrin
