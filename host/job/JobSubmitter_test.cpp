@@ -101,9 +101,9 @@ TEST_F(JobSubmitterTest, TheOptionsMaySayWhatTheDocumentIs) {
 }
 
 TEST_F(JobSubmitterTest, NamesAnOptionThatDidNotArrive) {
-  const auto submission = submitJob(request(), {{"MediaType", "IronOn"}, {"job-state", "9"}});
+  const auto submission = submitJob(request(), {{"MediaType", "IronOn"}, {"job-state", "99"}});
   ASSERT_TRUE(submission) << submission.reason();
-  EXPECT_EQ(submission->missingOptions, std::vector<std::string>{"job-state=9"});
+  EXPECT_EQ(submission->missingOptions, std::vector<std::string>{"job-state=99"});
 }
 
 TEST_F(JobSubmitterTest, AUserWhoMayNotPrintIsToldSo) {
