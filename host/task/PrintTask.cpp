@@ -79,7 +79,8 @@ void PrintTask::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::pa
 void PrintTask::chooseFirstPrinter() {
   if (printers().entries().empty())
     return noPrinters(tr("No printer is set up on this computer. Set one up, then look again."));
-  const std::string named = destinationName(asked.printer, asked.instance);
+  const std::string named =
+      destination.empty() ? destinationName(asked.printer, asked.instance) : destination;
   if (search.choose(named)) return readChosenPrinter();
   enter(Stage::choosing);
   warn(tr("There is no printer “%1”. Choose another one.").arg(shown(named)).toStdString());

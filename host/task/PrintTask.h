@@ -50,8 +50,9 @@ class PrintTask : public QObject {
   explicit PrintTask(JobRequest request, QObject* parent = nullptr);
   ~PrintTask() override;
 
-  // Looks for the print server's printers, and reads the settings of the one that the request
-  // names, else of the default one. May be called again, but does nothing while a job is sent.
+  // Looks for the print server's printers, and reads the settings of the one that was chosen last,
+  // else of the one that the request names, else of the default one. Does nothing while a job is
+  // sent.
   void usePrintServer();
   // Prints on this one printer, which has no queue: jobs become folders in the output folder.
   void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);

@@ -233,16 +233,20 @@ TEST_F(PrintTaskTest, AsksAgainForSettingsThatCouldNotBeRead) {
   EXPECT_NE(task.session(), nullptr);
 }
 
-TEST_F(PrintTaskTest, LooksAgainWithoutLosingTheSettings) {
+TEST_F(PrintTaskTest, LooksAgainWithoutLosingThePrinterAndItsSettings) {
   PrivateCupsd cups;
   addQueue(cups, "attic");
-  PrintTask task(request());
+  addQueue(cups, "office");
+  PrintTask task(request("attic"));
   task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  task.choosePrinter(placeOf(task, "office"));
   ASSERT_TRUE(reaches(task, Stage::ready));
   task.session()->marks().choose("MediaType", "Transparency");
   task.usePrintServer();
   EXPECT_EQ(task.stage(), Stage::looking);
   ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_EQ(task.printerName(), "office");
   EXPECT_EQ(task.session()->marks().choice("MediaType"), "Transparency");
 }
 
