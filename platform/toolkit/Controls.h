@@ -5,7 +5,8 @@
 #include "platform/text/OptionalString.h"
 #include "platform/toolkit/View.h"
 
-// What a user works and reads in a panel.
+// What a user works and reads in a panel: the kinds of control, in one file because they are small
+// and a toolkit implements all of them.
 
 namespace tavrin {
 
