@@ -1,5 +1,6 @@
 #include "conflict/ConflictWindow.h"
 
+#include <array>
 #include <utility>
 
 #include "ppd/PlugInBundle.h"
@@ -7,7 +8,7 @@
 namespace tavrin {
 namespace {
 
-const char* const kOrdinals[] = {"First", "Second", "Third"};
+constexpr std::array<const char*, 3> kOrdinals = {"First", "Second", "Third"};
 
 void show(Label& label, const OptString& text) {
   if (text) label.setStringValue(*text);
@@ -19,7 +20,7 @@ ConflictWindow::ConflictWindow(std::string suffix,
                                std::initializer_list<std::size_t> captionsOfChoices)
     : name(std::move(suffix)) {
   for (const std::size_t captions : captionsOfChoices) {
-    choices.push_back({{}, std::vector<Outlet<Label>>(captions)});
+    choices.push_back({kOrdinals.at(choices.size()), {}, std::vector<Outlet<Label>>(captions)});
   }
 }
 
@@ -29,11 +30,11 @@ void ConflictWindow::offerOutlets(InterfaceBindings& bindings) {
   bindings.outlet("ibLabelB_" + name, labelB);
   bindings.outlet("ibLabelC_" + name, labelC);
   bindings.outlet("ibLabelD_" + name, labelD);
-  for (std::size_t i = 0; i < choices.size(); ++i) {
-    const std::string button = std::string(kOrdinals[i]) + "Button_" + name;
-    bindings.outlet("ib" + button, choices[i].button);
+  for (ChoiceParts& choice : choices) {
+    const std::string button = choice.ordinal + "Button_" + name;
+    bindings.outlet("ib" + button, choice.button);
     char letter = 'A';
-    for (auto& caption : choices[i].captions) {
+    for (auto& caption : choice.captions) {
       bindings.outlet(std::string("ibLabel") + letter++ + "_" + button, caption);
     }
   }

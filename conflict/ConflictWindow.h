@@ -49,6 +49,7 @@ class ConflictWindow {
 
  private:
   struct ChoiceParts {
+    std::string ordinal;  // "First" and so on, in its names
     Outlet<Button> button;
     std::vector<Outlet<Label>> captions;
   };

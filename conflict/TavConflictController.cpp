@@ -86,9 +86,9 @@ InterfaceBindings TavConflictController::bindings() {
   for (ConflictWindow* window : {&msgOne, &msgTwo, &msgFive}) window->offerOutlets(offered);
   offered.outlet("ibInstructionWindow", ibInstructionWindow);
   offered.outlet("ibInstructionText", ibInstructionText);
-  for (const auto& [selector, operation] : kActions) {
-    offered.action<Button>(selector,
-                           [this, operation](Button& sender) { (this->*operation)(sender); });
+  for (const auto& action : kActions) {
+    const Operation run = action.operation;
+    offered.action<Button>(action.selector, [this, run](Button& sender) { (this->*run)(sender); });
   }
   offered.windowWillClose = [this] { windowWillClose(); };
   return offered;
