@@ -4,7 +4,7 @@
 #include <QString>
 #include <cups/ppd.h>
 
-#include "host/support/Joined.h"
+#include "host/support/TextLists.h"
 #include "platform/files/FileName.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/text/Quoted.h"

@@ -1,9 +1,7 @@
 #include "host/printer/MarkedOptions.h"
 
-#include <ranges>
-
 #include "host/support/CupsOptions.h"
-#include "host/support/Joined.h"
+#include "host/support/TextLists.h"
 #include "platform/text/IgnoringCase.h"
 #include "platform/text/Quoted.h"
 #include "ppd/PPDRecords.h"
@@ -34,8 +32,8 @@ void appendMarked(const ppd_group_t& group, OptionList& options) {
 // For an option where many choices can be picked; false when one of them is unknown.
 bool markEach(ppd_file_t& ppd, const ppd_option_t& option, const std::string& value) {
   bool known = true;
-  for (const auto choice : std::views::split(value, ','))
-    known = markChoice(&ppd, option.keyword, {choice.begin(), choice.end()}) && known;
+  for (const std::string& choice : partsOf(value))
+    known = markChoice(&ppd, option.keyword, choice) && known;
   return known;
 }
 

@@ -44,6 +44,7 @@ TEST(MarkedOptions, TakesSeveralChoicesWhereThePrinterDoes) {
   const PPDPtr ppd = familyPPD();
   EXPECT_EQ(markOptions(*ppd, {{"Staple", "Right,Top"}}), Problems{});
   EXPECT_EQ(markOptions(*ppd, {{"MediaType", "IronOn,Plain"}}).size(), 1u);
+  EXPECT_EQ(markOptions(*ppd, {{"Staple", ""}}).size(), 1u);
 }
 
 TEST(MarkedOptions, LeavesOutWhatIsInstalledInThePrinter) {

@@ -4,7 +4,7 @@
 
 #include "host/printer/MarkedOptions.h"
 #include "host/printer/PPDSections.h"
-#include "host/support/Joined.h"
+#include "host/support/TextLists.h"
 #include "ppd/PPDRecords.h"
 
 namespace tavrin {

@@ -1,11 +1,10 @@
 #include "host/server/PrinterState.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include <cups/ipp.h>
 
-#include "host/support/Joined.h"
+#include "host/support/TextLists.h"
 
 namespace tavrin {
 
@@ -69,9 +68,8 @@ Activity activityFrom(int ippState) {
 
 std::vector<std::string> reasonsFrom(const std::string& list) {
   std::vector<std::string> reasons;
-  for (const auto part : std::views::split(list, ','))
-    if (const std::string reason(part.begin(), part.end()); !reason.empty() && reason != "none")
-      reasons.push_back(reason);
+  for (const std::string& reason : partsOf(list))
+    if (!reason.empty() && reason != "none") reasons.push_back(reason);
   return reasons;
 }
 

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-#include "host/support/Joined.h"
+#include "host/support/TextLists.h"
 
 namespace tavrin {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "host/job/JobOptions.h"
 #include "host/printer/MarkedOptions.h"
-#include "host/support/Joined.h"
+#include "host/support/TextLists.h"
 
 namespace tavrin {
 namespace {
