@@ -13,7 +13,7 @@
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/task/PrintTask.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
 #include "ppd/PPDKeywords.h"
 
 namespace tavrin {

@@ -13,7 +13,7 @@
 #include "host/dialog/SessionPanes.h"
 #include "host/panes/LayoutPane.h"
 #include "host/panes/Widgets.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
 namespace {

@@ -16,7 +16,7 @@
 #include "host/dialog/PrinterPopUp.h"
 #include "host/panes/FeaturesPane.h"
 #include "host/printer/PPDLoader.h"
-#include "platform/qt/QtToolkit.h"
+#include "platform/qt/toolkit/QtToolkit.h"
 #include "tests/servers/PrivateCupsd.h"
 #include "tests/servers/SilentServer.h"
 

@@ -2,7 +2,7 @@
 
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "host/job/JobOptions.h"
+#include "host/request/JobOptions.h"
 #include "host/server/IppRequest.h"
 #include "host/support/CupsOptions.h"
 #include "platform/text/Quoted.h"

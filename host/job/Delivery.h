@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/job/Document.h"
-#include "host/job/JobRequest.h"
-#include "host/job/Progress.h"
+#include "host/document/Document.h"
+#include "host/document/Progress.h"
+#include "host/request/JobRequest.h"
 #include "host/server/PrintServer.h"
 
 namespace tavrin {

@@ -1,6 +1,6 @@
 #include "host/job/JobRunner.h"
 
-#include "host/job/TicketFolder.h"
+#include "host/ticket/TicketFolder.h"
 
 namespace tavrin {
 

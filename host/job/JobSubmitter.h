@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "host/job/JobRequest.h"
-#include "host/job/Progress.h"
+#include "host/document/Progress.h"
+#include "host/request/JobRequest.h"
 #include "host/support/Cancellable.h"
 
 // A job's way to its queue and back: sent (Delivery), then read again to see what arrived.

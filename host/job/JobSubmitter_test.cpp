@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/job/JobOptions.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/request/JobOptions.h"
 #include "host/server/IppRequest.h"
 #include "host/server/PrinterPPD.h"
 #include "tests/servers/PrivateCupsd.h"

@@ -1,9 +1,9 @@
 #include <QByteArray>
 #include <gtest/gtest.h>
 
-#include "host/job/JobOptions.h"
 #include "host/job/JobSubmitter.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/request/JobOptions.h"
 #include "host/server/PrinterPPD.h"
 #include "tests/servers/PrivateCupsd.h"
 

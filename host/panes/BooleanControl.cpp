@@ -1,7 +1,7 @@
 #include "host/panes/BooleanControl.h"
 
 #include "host/panes/OptionControl.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
 

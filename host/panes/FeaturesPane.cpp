@@ -10,7 +10,7 @@
 #include "host/panes/OptionControl.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
 #include "platform/text/IgnoringCase.h"
 
 namespace tavrin {

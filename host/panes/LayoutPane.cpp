@@ -7,7 +7,7 @@
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/task/JobFields.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
 namespace {

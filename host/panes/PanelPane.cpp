@@ -5,8 +5,8 @@
 
 #include "host/panels/PrinterSession.h"
 #include "host/panes/Widgets.h"
-#include "platform/qt/QtToolkit.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
+#include "platform/qt/toolkit/QtToolkit.h"
 
 namespace tavrin {
 

@@ -2,7 +2,7 @@
 
 #include "host/panes/Widgets.h"
 #include "host/printer/PPDSections.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/qt/MakeChild.h"
+#include "platform/qt/base/MakeChild.h"
 
 class QComboBox;
 class QFormLayout;

@@ -4,7 +4,7 @@
 
 #include <QCommandLineParser>
 
-#include "host/job/JobOptions.h"
+#include "host/request/JobOptions.h"
 
 namespace tavrin {
 

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-#include "host/job/JobRequest.h"
+#include "host/request/JobRequest.h"
 #include "platform/text/Result.h"
 
 namespace tavrin {

@@ -9,15 +9,15 @@
 
 #include "host/dialog/DesktopHelpViewer.h"
 #include "host/dialog/PrintDialog.h"
-#include "host/job/Document.h"
+#include "host/document/Document.h"
 #include "host/printer/PPDLoader.h"
 #include "host/program/CommandLine.h"
 #include "host/program/Samples.h"
 #include "host/task/PrintTask.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/files/RootFolder.h"
-#include "platform/qt/QtToolkit.h"
-#include "platform/qt/ShownText.h"
+#include "platform/qt/base/ShownText.h"
+#include "platform/qt/toolkit/QtToolkit.h"
 
 namespace {
 

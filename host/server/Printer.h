@@ -3,6 +3,7 @@
 #include <string>
 
 #include "host/server/PrinterState.h"
+#include "host/support/DestinationName.h"
 #include "host/support/OptionList.h"
 
 namespace tavrin {
@@ -16,8 +17,8 @@ struct Printer {
   OptionList options;  // the options that the person or the administrator keeps for it
 };
 
-// "queue" or "queue/instance", as on lp's command line.
-std::string destinationName(const std::string& queue, const std::string& instance);
-std::string destinationName(const Printer& printer);
+inline std::string destinationName(const Printer& printer) {
+  return destinationName(printer.name, printer.instance);
+}
 
 }  // namespace tavrin

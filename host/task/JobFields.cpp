@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/job/JobOptions.h"
-#include "host/job/PageRanges.h"
+#include "host/request/JobOptions.h"
+#include "host/request/PageRanges.h"
 
 namespace tavrin {
 namespace {

@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QString>
 
-#include "host/job/JobRequest.h"
+#include "host/request/JobRequest.h"
 #include "platform/text/Result.h"
 
 namespace tavrin {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/job/JobOptions.h"
+#include "host/request/JobOptions.h"
 
 namespace tavrin {
 namespace {

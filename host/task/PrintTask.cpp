@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "host/job/JobOptions.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/request/JobOptions.h"
 #include "host/support/TextLists.h"
 
 namespace tavrin {

@@ -18,7 +18,12 @@ room(platform/text)
 room(platform/files      platform/text)
 room(platform/toolkit    platform/text platform/files)
 room(platform/contract   platform/text platform/toolkit)
-room(platform/qt         platform/text platform/files platform/toolkit)
+room(platform/qt/base     platform/text)
+room(platform/qt/layout   platform/text platform/toolkit platform/qt/base)
+room(platform/qt/controls platform/text platform/toolkit platform/qt/base platform/qt/layout)
+room(platform/qt/windows  platform/text platform/toolkit platform/qt/base)
+room(platform/qt/toolkit  platform/text platform/files platform/toolkit platform/qt/base
+                          platform/qt/layout platform/qt/controls platform/qt/windows)
 room(ppd                 platform/text platform/files platform/toolkit)
 set(CORE platform/text platform/files platform/toolkit platform/contract ppd)
 room(conflict            ${CORE})
@@ -28,17 +33,28 @@ room(resources           platform/text platform/files platform/toolkit ppd)
 room(host/support        platform/text)
 room(host/printer        platform/text platform/files ppd host/support)
 room(host/server         platform/text platform/files ppd host/support host/printer)
-room(host/job            platform/text platform/files ppd host/support host/printer host/server)
+room(host/document       platform/text platform/files host/support)
+room(host/request        platform/text ppd host/support host/printer host/document)
+room(host/ticket         platform/text platform/files host/support host/document host/request)
+room(host/job            platform/text host/support host/printer host/server host/document host/request
+                         host/ticket)
 room(host/panels         platform/text platform/files platform/contract ppd host/support
                          host/printer)
-room(host/task           platform/text host/support host/printer host/server host/job host/panels)
-room(host/panes          platform/text platform/contract platform/qt ppd host/printer host/panels
-                         host/task)
-room(host/dialog         platform/text platform/files platform/toolkit platform/qt ppd host/printer
-                         host/panels host/task host/panes)
-room(host/program        platform/text platform/files platform/qt host/printer host/job host/task
-                         host/dialog)
-room(replay              ${CORE} platform/qt host/printer host/panels)
+room(host/task           platform/text host/support host/printer host/server host/request host/job
+                         host/panels)
+room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
+                         host/printer host/panels host/task)
+room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
+                         platform/qt/toolkit ppd
+                         host/printer host/panels host/task host/panes)
+room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
+                         host/printer host/document host/request host/task host/dialog)
+room(replay/commands     platform/text)
+room(replay/screen       platform/text platform/qt/base platform/qt/layout replay/commands)
+room(replay/session      ${CORE} platform/qt/base platform/qt/toolkit host/printer host/panels
+                         replay/commands replay/screen)
+room(replay/program      ${CORE} platform/qt/toolkit host/panels replay/commands replay/session)
+room(replay/scripts)
 room(tests               ${ROOMS})
 
 # The libraries: how an include of one looks, and the files that may have it. Widgets are all of Qt

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "controller/TavPDEController.h"
-#include "platform/qt/QtToolkit.h"
+#include "platform/qt/toolkit/QtToolkit.h"
 #include "tests/fakes/FakePPD.h"
 #include "tests/fixtures/FreshConflicts.h"
 

@@ -1,0 +1,91 @@
+#include "host/document/Document.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "host/document/DocumentFormat.h"
+#include "host/document/DocumentName.h"
+#include "host/document/ReadWhenThere.h"
+#include "host/document/RereadableInput.h"
+#include "platform/text/Quoted.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr std::size_t kLookAhead = 512;
+
+Failure about(const std::string& document, const std::string& problem) {
+  return {"The document " + quoted(document) + " " + problem + "."};
+}
+
+}  // namespace
+
+Cancellable<Document> Document::open(const std::filesystem::path& path, const CancelFlag& cancel) {
+  const bool isInput = path == kStandardInput;
+  const std::string place = isInput ? documentName(path) : path.string();
+  FileDescriptor opened;
+  // Without waiting: the wait for somebody who fills a FIFO must end when it is cancelled.
+  if (!isInput) opened = FileDescriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  if (!isInput && !opened)
+    return about(place, std::string("cannot be read: ") + std::strerror(errno));
+  Document document(std::move(opened), documentName(path));
+  if (const char* kind = document.otherKind())
+    return about(place, "is a " + std::string(kind) + ", not a file");
+  const auto looked = document.lookAhead(cancel);
+  if (!looked) return looked.why();
+  if (document.ahead.empty()) return about(place, "is empty");
+  return document;
+}
+
+Document::Document(FileDescriptor theFile, std::string name)
+    : file(std::move(theFile)), itsName(std::move(name)) {}
+
+const char* Document::otherKind() {
+  struct stat status {};
+  if (fstat(file ? file.get() : STDIN_FILENO, &status) != 0 || S_ISDIR(status.st_mode))
+    return "folder";
+  if (!file || S_ISFIFO(status.st_mode)) return nullptr;
+  if (!S_ISREG(status.st_mode)) return "device";
+  bytesInAll = static_cast<std::uint64_t>(status.st_size);
+  return nullptr;
+}
+
+Cancellable<Done> Document::lookAhead(const CancelFlag& cancel) {
+  std::string bytes(kLookAhead, '\0');
+  std::size_t length = 0;
+  while (length < bytes.size()) {
+    const auto more = readOn(std::span(bytes).subspan(length), cancel);
+    if (!more) return more.why();
+    if (*more == 0) break;
+    length += *more;
+  }
+  bytes.resize(length);
+  ahead = std::move(bytes);
+  if (!ahead.empty()) mimeType = formatOf(ahead);
+  return Done{};
+}
+
+Cancellable<std::size_t> Document::read(std::span<char> buffer, const CancelFlag& cancel) {
+  if (cancel) return Cancelled{};
+  if (ahead.empty()) return readOn(buffer, cancel);
+  const std::size_t length = std::min(ahead.size(), buffer.size());
+  std::copy_n(ahead.begin(), length, buffer.begin());
+  ahead.erase(0, length);
+  return length;
+}
+
+Cancellable<std::size_t> Document::readOn(std::span<char> buffer, const CancelFlag& cancel) {
+  const auto bytes = file ? readWhenThere(file.get(), buffer, cancel)
+                          : RereadableInput::standardInput().read(offset, buffer, cancel);
+  if (bytes) offset += *bytes;
+  if (!bytes && !bytes.cancelled()) return about(itsName, bytes.reason());
+  return bytes;
+}
+
+}  // namespace tavrin

@@ -1,9 +1,0 @@
-#include "host/job/JobRequest.h"
-
-namespace tavrin {
-
-std::string jobTitle(const JobRequest& request) {
-  return request.title.empty() ? documentName(request.document) : request.title;
-}
-
-}  // namespace tavrin

@@ -1,0 +1,45 @@
+#include "host/request/JobOptions.h"
+
+#include <algorithm>
+
+#include "host/printer/MarkedOptions.h"
+#include "ppd/PPDKeywords.h"
+
+namespace tavrin {
+namespace {
+
+// A general option of the print system says the same as a mark of the PPD and could contradict it.
+void removeWhatMarksSay(OptionList& options, const OptionList& marked) {
+  if (optionValue(marked, kPageSizeKey)) removeOption(options, kPaperOption);
+  for (const char* keyword : kTwoSidedKeywords)
+    if (optionValue(marked, keyword)) removeOption(options, kSidesOption);
+}
+
+// What was asked for in an option of the PPD before the person took every mark of it away.
+void removeUnmarked(OptionList& options, ppd_file_t& ppd, const OptionList& marked) {
+  std::erase_if(options, [&](const auto& option) {
+    const auto& [name, value] = option;
+    return ppdFindOption(&ppd, name.c_str()) && !optionValue(marked, name) &&
+           !isCustomChoice(value);
+  });
+}
+
+}  // namespace
+
+OptionList withMarks(OptionList options, ppd_file_t& ppd) {
+  const OptionList marked = markedOptions(ppd);
+  removeWhatMarksSay(options, marked);
+  removeUnmarked(options, ppd, marked);
+  for (const auto& [name, value] : marked) setOption(options, name, value);
+  return options;
+}
+
+OptionList jobOptions(const JobRequest& request, ppd_file_t* ppd) {
+  OptionList options = ppd ? withMarks(request.options, *ppd) : request.options;
+  removeOption(options, kCopiesOption);
+  if (request.copies > 1) setOption(options, kCopiesOption, std::to_string(request.copies));
+  if (!request.pageRanges.empty()) setOption(options, kPageRangesOption, request.pageRanges);
+  return options;
+}
+
+}  // namespace tavrin

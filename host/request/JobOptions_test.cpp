@@ -1,0 +1,59 @@
+#include "host/request/JobOptions.h"
+
+#include <gtest/gtest.h>
+
+#include "host/printer/MarkedOptions.h"
+#include "tests/fakes/FakePPD.h"
+
+namespace tavrin {
+namespace {
+
+PPDPtr familyPPD() {
+  return makePPD({pageSizeOption(),
+                  paperTypeOption(),
+                  mirrorOption(),
+                  printQualityOption(),
+                  {"Staple/Staple", "PickMany", "Left", {"Left", "Right", "Top"}},
+                  {"Duplex/Two-Sided", "PickOne", "None", {"None", "DuplexTumble"}}});
+}
+
+TEST(JobOptions, PutsTheMarksOverTheRequest) {
+  const PPDPtr ppd = familyPPD();
+  JobRequest request;
+  request.options = {{"mirror", "True"},
+                     {"media", "Letter"},
+                     {"sides", "one-sided"},
+                     {"copies", "7"},
+                     {"job-hold-until", "night"}};
+  request.copies = 3;
+  request.pageRanges = "1-3,5";
+  const OptionList options = jobOptions(request, ppd.get());
+  EXPECT_EQ(options.front(), (std::pair<std::string, std::string>("Mirror", "False")));
+  EXPECT_EQ(optionValue(options, "media"), std::nullopt);
+  EXPECT_EQ(optionValue(options, "sides"), std::nullopt);
+  EXPECT_EQ(optionValue(options, "job-hold-until"), "night");
+  EXPECT_EQ(optionValue(options, "copies"), "3");
+  EXPECT_EQ(optionValue(options, "page-ranges"), "1-3,5");
+}
+
+TEST(JobOptions, SendsNothingWhereEveryMarkWasTakenAway) {
+  const PPDPtr ppd = familyPPD();
+  JobRequest request;
+  request.options = {{"Staple", "Right,Top"}, {"job-hold-until", "night"}};
+  ppd_choice_t* byDefault = ppdFindMarkedChoice(ppd.get(), "Staple");
+  ASSERT_NE(byDefault, nullptr);
+  byDefault->marked = 0;
+  cupsArrayRemove(ppd->marked, byDefault);
+  const OptionList options = jobOptions(request, ppd.get());
+  EXPECT_EQ(optionValue(options, "Staple"), std::nullopt);
+  EXPECT_EQ(optionValue(options, "job-hold-until"), "night");
+}
+
+TEST(JobOptions, KeepsTheRequestOfAPrinterWithoutAPPD) {
+  JobRequest request;
+  request.options = {{"media", "Letter"}};
+  EXPECT_EQ(jobOptions(request, nullptr), request.options);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,9 @@
+#include "host/request/JobRequest.h"
+
+namespace tavrin {
+
+std::string jobTitle(const JobRequest& request) {
+  return request.title.empty() ? documentName(request.document) : request.title;
+}
+
+}  // namespace tavrin

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "host/document/DocumentName.h"
+#include "host/support/OptionList.h"
+
+namespace tavrin {
+
+inline constexpr int kMostCopies = 9999;  // of a job
+
+// What is to be printed, and how.
+struct JobRequest {
+  std::string printer;   // the queue; empty for a printer without one
+  std::string instance;  // of the queue; empty for the queue itself
+  int copies = 1;
+  std::string title;       // empty: the document's name
+  std::string pageRanges;  // "1-3,5"; empty: all pages
+  OptionList options;
+  std::filesystem::path document = kStandardInput;
+};
+
+// The name that the job gets: its title, else the document's.
+std::string jobTitle(const JobRequest& request);
+
+}  // namespace tavrin

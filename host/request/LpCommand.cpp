@@ -1,0 +1,41 @@
+#include "host/request/LpCommand.h"
+
+#include "host/request/JobOptions.h"
+#include "host/support/DestinationName.h"
+#include "platform/text/IgnoringCase.h"
+
+namespace tavrin {
+
+namespace {
+
+std::string shellQuoted(const std::string& text) {
+  std::string quoted = "'";
+  for (const char c : text) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return quoted + "'";
+}
+
+// The value as one "-o" holds it, where blanks separate options and quotes hold them together.
+std::string escaped(const std::string& value) {
+  std::string text;
+  for (const char c : value) {
+    if (std::string_view(" \t\n\v\f\r\\'\"").find(c) != std::string_view::npos) text += '\\';
+    text += c;
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string lpCommand(const JobRequest& request, const OptionList& options) {
+  std::string command = "lp";
+  if (!request.printer.empty())
+    command += " -d " + shellQuoted(destinationName(request.printer, request.instance));
+  if (request.copies > 1) command += " -n " + std::to_string(request.copies);
+  if (!request.title.empty()) command += " -t " + shellQuoted(request.title);
+  for (const auto& [name, value] : options)
+    if (!equalIgnoringCase(name, kCopiesOption))
+      command += " -o " + shellQuoted(name + "=" + escaped(value));
+  return command + " -- " + shellQuoted(request.document.string());
+}
+
+}  // namespace tavrin

@@ -1,0 +1,90 @@
+#include "host/request/PageRanges.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kLastPage = std::numeric_limits<int>::max();
+const QRegularExpression kTwoNumbers("\\d \\d");
+
+struct Range {
+  int first;
+  int last;
+};
+
+QString say(const char* sentence) { return QCoreApplication::translate("PageRanges", sentence); }
+
+Failure failure(const QString& sentence) { return {sentence.toStdString()}; }
+
+// A page number; the fallback where nothing is written.
+std::optional<int> page(const QString& text, int fallback) {
+  if (text.isEmpty()) return fallback;
+  bool isNumber = false;
+  const int number = text.toInt(&isNumber);
+  const bool digitsOnly = std::ranges::all_of(text, [](QChar letter) { return letter.isDigit(); });
+  if (!isNumber || !digitsOnly || number < 1) return std::nullopt;
+  return number;
+}
+
+Result<Range> range(const QString& text) {
+  const QStringList ends = text.split('-');
+  const bool open = ends.size() == 2 && ends[1].isEmpty();
+  const auto first = page(ends.front(), 0);
+  const auto last = page(ends.back(), kLastPage);
+  if (ends.size() > 2 || !first || *first == 0 || !last || (ends.back().isEmpty() && !open))
+    return failure(
+        say("“%1” is not a page or a range of pages. Write them like this: 1-3,5.").arg(text));
+  if (*last < *first)
+    return failure(
+        say("The range “%1” ends before it begins. Write the lower page first.").arg(text));
+  return Range{*first, *last};
+}
+
+std::vector<Range> merged(std::vector<Range> ranges) {
+  std::ranges::sort(ranges, {}, &Range::first);
+  std::vector<Range> result;
+  for (const Range& next : ranges)
+    if (result.empty() || next.first > result.back().last)
+      result.push_back(next);
+    else
+      result.back().last = std::max(result.back().last, next.last);
+  return result;
+}
+
+std::string written(const Range& range) {
+  const std::string first = std::to_string(range.first);
+  if (range.first == range.last) return first;
+  return first + "-" + (range.last == kLastPage ? "" : std::to_string(range.last));
+}
+
+}  // namespace
+
+Result<std::string> checkedPageRanges(const QString& text) {
+  QString bare = text.simplified();
+  if (bare.contains(kTwoNumbers))
+    return failure(
+        say("“%1” has no comma between two pages. Write them like this: 1-3,5.").arg(bare));
+  // An en dash comes from pasted text.
+  bare.remove(' ').replace(QChar(0x2013), '-');
+  if (bare.isEmpty()) return failure(say("Write which pages to print, for example 1-3,5."));
+  std::vector<Range> ranges;
+  for (const QString& part : bare.split(',')) {
+    const Result<Range> next = range(part);
+    if (!next) return Failure{next.reason()};
+    ranges.push_back(*next);
+  }
+  std::string result;
+  for (const Range& next : merged(ranges)) result += (result.empty() ? "" : ",") + written(next);
+  return result;
+}
+
+}  // namespace tavrin

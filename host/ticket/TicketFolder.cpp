@@ -1,0 +1,104 @@
+#include "host/ticket/TicketFolder.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+#include "host/document/Document.h"
+#include "host/ticket/DurableFile.h"
+#include "host/ticket/HiddenFolder.h"
+#include "host/ticket/Ticket.h"
+#include "platform/text/Quoted.h"
+#include "platform/text/Utf8.h"
+
+namespace tavrin {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char kTicketName[] = "ticket.json";
+constexpr int kMostFolders = 10000;
+constexpr std::size_t kLongestName = 100;  // bytes
+
+Failure cannotWrite(const fs::path& output) {
+  return {"The job cannot be written to the folder " + quoted(output.string()) + ": " +
+          std::strerror(errno) + ". Choose another folder."};
+}
+
+// A folder's name for a title: no path, nothing hidden, not too long.
+std::string folderName(const std::string& title) {
+  std::string name(wholeCharacters(std::string_view(title).substr(0, kLongestName)));
+  for (char& c : name)
+    if (c == '/' || static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = '_';
+  if (name.empty() || name.front() == '.') name.insert(0, "job");
+  return name;
+}
+
+std::string nameInFolder(const fs::path& document) {
+  if (document == kStandardInput) return "document";
+  const std::string name = documentName(document);
+  return name == kTicketName ? "document-" + name : name;
+}
+
+Cancellable<Done> copyDocument(Document& document, const fs::path& path, const fs::path& output,
+                               const CancelFlag& cancel, const ProgressCallback& progress) {
+  DurableFile copy(path);
+  if (!copy) return cannotWrite(output);
+  std::array<char, 65536> buffer;
+  for (Progress copied{0, document.size()};;) {
+    const auto bytes = document.read(buffer, cancel);
+    if (!bytes) return bytes.why();
+    if (*bytes == 0) break;
+    if (!copy.write(std::span(buffer).first(*bytes))) return cannotWrite(output);
+    copied.done += *bytes;
+    if (progress) progress(copied);
+  }
+  if (!copy.finish()) return cannotWrite(output);
+  return Done{};
+}
+
+bool writeTicket(const fs::path& folder, const std::string& text) {
+  DurableFile file(folder / kTicketName);
+  return file && file.write(text) && file.finish() && syncFolder(folder);
+}
+
+// Gives the folder the first name that is free.
+Result<fs::path> publish(HiddenFolder& folder, const fs::path& output, const std::string& name) {
+  for (int number = 1; number <= kMostFolders; ++number) {
+    const fs::path path = output / (number == 1 ? name : name + "-" + std::to_string(number));
+    if (folder.keepAs(path)) {
+      syncFolder(output);
+      return path;
+    }
+    if (errno != EEXIST) return cannotWrite(output);
+  }
+  return Failure{quoted(output.string()) + " is full of jobs named " + quoted(name) +
+                 ". Move some of them away."};
+}
+
+}  // namespace
+
+Cancellable<fs::path> writeTicketFolder(const fs::path& output, const JobRequest& request,
+                                        const OptionList& options, const CancelFlag& cancel,
+                                        const ProgressCallback& progress) {
+  auto document = Document::open(request.document, cancel);
+  if (!document) return document.why();
+  std::error_code problem;
+  if (fs::create_directories(output, problem); problem) {
+    errno = problem.value();
+    return cannotWrite(output);
+  }
+  HiddenFolder folder(output);
+  if (!folder) return cannotWrite(output);
+  const std::string name = nameInFolder(request.document);
+  const auto copied = copyDocument(*document, folder.path() / name, output, cancel, progress);
+  if (!copied) return copied.why();
+  if (!writeTicket(folder.path(), ticketText(request, name, document->format(), options)))
+    return cannotWrite(output);
+  auto published = publish(folder, output, folderName(jobTitle(request)));
+  if (!published) return Failure{published.reason()};
+  return std::move(*published);
+}
+
+}  // namespace tavrin

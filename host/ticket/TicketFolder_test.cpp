@@ -1,0 +1,122 @@
+#include "host/ticket/TicketFolder.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "tests/fixtures/TemporaryFolder.h"
+
+namespace tavrin {
+namespace {
+
+namespace fs = std::filesystem;
+
+class TicketFolderTest : public testing::Test {
+ protected:
+  std::size_t entries() const {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(output), fs::directory_iterator()));
+  }
+
+  test::TemporaryFolder place;
+  fs::path output = [this] {
+    fs::create_directory(place.path() / "out");
+    return place.path() / "out";
+  }();
+  JobRequest request{"", "", 2, "Holiday", "1-3", {}, place.write("card.pdf", "%PDF-1.4 card")};
+  OptionList options{{"MediaType", "IronOn"}, {"Mirror", "True"}, {"copies", "2"}};
+};
+
+TEST_F(TicketFolderTest, HoldsTheDocumentAndItsTicket) {
+  const auto folder = writeTicketFolder(output, request, options);
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(*folder, output / "Holiday");
+  EXPECT_EQ(test::textOf(*folder / "card.pdf"), "%PDF-1.4 card");
+  EXPECT_EQ(test::textOf(*folder / "ticket.json"), R"({
+  "title": "Holiday",
+  "document": "card.pdf",
+  "format": "application/pdf",
+  "copies": 2,
+  "ranges": "1-3",
+  "options": {
+    "MediaType": "IronOn",
+    "Mirror": "True",
+    "copies": "2"
+  },
+  "command": "lp -n 2 -t 'Holiday' -o 'MediaType=IronOn' -o 'Mirror=True' -- 'card.pdf'"
+}
+)");
+}
+
+TEST_F(TicketFolderTest, OverwritesNothing) {
+  fs::create_directory(output / "Holiday");  // empty, and yet somebody's
+  place.write("out/Holiday-2", "a file");
+  EXPECT_EQ(*writeTicketFolder(output, request, options), output / "Holiday-3");
+  EXPECT_EQ(*writeTicketFolder(output, request, options), output / "Holiday-4");
+  EXPECT_TRUE(fs::is_empty(output / "Holiday"));
+  EXPECT_EQ(test::textOf(output / "Holiday-2"), "a file");
+}
+
+TEST_F(TicketFolderTest, StaysInTheOutputFolder) {
+  request.title = "../../etc/passwd";
+  const auto folder = writeTicketFolder(output, request, options);
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(folder->parent_path(), output);
+  request.title = "/";
+  EXPECT_EQ(writeTicketFolder(output, request, options)->parent_path(), output);
+}
+
+TEST_F(TicketFolderTest, CutsALongTitleBetweenCharacters) {
+  request.title = "x";
+  for (int i = 0; i < 100; ++i) request.title += "ü";
+  const auto folder = writeTicketFolder(output, request, options);
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(folder->filename().string(), request.title.substr(0, 99));
+}
+
+TEST_F(TicketFolderTest, MakesTheOutputFolder) {
+  const auto folder = writeTicketFolder(output / "new" / "jobs", request, options);
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(*folder, output / "new" / "jobs" / "Holiday");
+}
+
+TEST_F(TicketFolderTest, TakesADocumentThatIsNamedLikeTheTicket) {
+  request.document = place.write("ticket.json", "%PDF-1.4 odd");
+  const auto folder = writeTicketFolder(output, request, options);
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(test::textOf(*folder / "document-ticket.json"), "%PDF-1.4 odd");
+}
+
+TEST_F(TicketFolderTest, LeavesNothingBehindWhenCancelled) {
+  CancelFlag cancel = false;
+  const auto folder =
+      writeTicketFolder(output, request, options, cancel, [&](const Progress&) { cancel = true; });
+  EXPECT_TRUE(folder.cancelled());
+  EXPECT_EQ(entries(), 0u);
+}
+
+TEST_F(TicketFolderTest, LeavesNothingBehindWhenItFails) {
+  request.document = "/nowhere/card.pdf";
+  EXPECT_FALSE(writeTicketFolder(output, request, options));
+  EXPECT_EQ(entries(), 0u);
+}
+
+TEST_F(TicketFolderTest, NamesAnOutputFolderThatCannotBe) {
+  const auto file = place.write("out/file", "in the way");
+  const auto folder = writeTicketFolder(file, request, options);
+  ASSERT_FALSE(folder);
+  EXPECT_EQ(folder.reason(), "The job cannot be written to the folder \"" + file.string() +
+                                 "\": Not a directory. Choose another folder.");
+}
+
+TEST_F(TicketFolderTest, TellsHowFarItIs) {
+  std::uint64_t done = 0;
+  ASSERT_TRUE(
+      writeTicketFolder(output, request, options, neverCancelled(), [&](const Progress& progress) {
+        done = progress.done;
+        EXPECT_EQ(progress.total, 13u);
+      }));
+  EXPECT_EQ(done, 13u);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+
+#include "platform/qt/controls/QtLabelOf.h"
+
+namespace tavrin {
+
+// A label. The control that it names (its buddy in the interface file) takes its accessible name
+// from it; a click on a label that names a button clicks the button.
+class QtLabel : public QtLabelOf<QLabel> {
+ public:
+  explicit QtLabel(QLabel& label);
+
+  void setStringValue(const std::string& text) override;
+
+ private:
+  void nameBuddy();
+};
+
+}  // namespace tavrin

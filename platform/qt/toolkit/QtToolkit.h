@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+
+#include "platform/qt/windows/ModalRuns.h"
+#include "platform/toolkit/Toolkit.h"
+
+class QWidget;
+
+namespace tavrin {
+
+// The toolkit on Qt Widgets. A program makes one after its QApplication, installs it, and
+// uninstalls it before it goes.
+class QtToolkit : public Toolkit {
+ public:
+  std::shared_ptr<LoadedInterface> loadInterface(const Bundle& bundle, const std::string& name,
+                                                 InterfaceBindings bindings) override;
+  // The same for a file that is not in a bundle.
+  std::shared_ptr<LoadedInterface> loadInterfaceFrom(const std::filesystem::path& file,
+                                                     InterfaceBindings bindings);
+
+  bool runModalForWindow(Window& window) override;
+  void stopModal() override { runs.stop(); }
+
+  // Called with every window that comes up modally, from inside its run; nobody by default.
+  void onModalWindow(std::function<void(QWidget&)> observer);
+
+  // The widget of a view, for a program to put into its own layout; null for a null object and once
+  // the widget has been deleted. It belongs to the interface that the view was loaded with, but a
+  // program may give it a parent and delete that.
+  static QWidget* widgetOf(View& view);
+
+ private:
+  ModalRuns runs;
+};
+
+}  // namespace tavrin
