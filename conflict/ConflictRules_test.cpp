@@ -7,16 +7,8 @@ namespace {
 
 using Codes = std::vector<int>;
 
-class Detection : public testing::Test {
+class Detection : public ConflictTest {
  protected:
-  FreshConflicts fresh;
-  PrinterRoot root;
-  PPDPtr ppd = conflictTestPrinter();
-  ConflictTestPanel panel{ppd.get()};
-
-  void installCartridges(const OptString& first, const OptString& second) {
-    root.installCartridges(kTestYear, kTestModel, first, second);
-  }
   OptString normalized(const std::string& paperName) {
     panel.format.name = paperName;
     return panel.checker->selectedPaperSize();

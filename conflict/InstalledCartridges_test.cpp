@@ -9,17 +9,7 @@ namespace {
 
 using Codes = std::vector<int>;
 
-class Cartridges : public testing::Test {
- protected:
-  FreshConflicts fresh;
-  PrinterRoot root;
-  PPDPtr ppd = conflictTestPrinter();
-  ConflictTestPanel panel{ppd.get()};
-
-  void installCartridges(const OptString& first, const OptString& second) {
-    root.installCartridges(kTestYear, kTestModel, first, second);
-  }
-};
+using Cartridges = ConflictTest;
 
 TEST_F(Cartridges, ColourOnlyNeedsAnEmptySecondSlot) {
   const struct {

@@ -17,7 +17,7 @@ OptString label(Setting setting, const ppd_option_t& option) {
                                            : decodeUTF8(option.text);
 }
 
-// The mirror's own value may be the panel's "On" or "Off", which is no text of the printer.
+// The mirror's own value may be the panel's "On" or "Off", which is not one of the printer's texts.
 OptString value(Setting setting, const PDEModel& model) {
   return setting == Setting::mirror
              ? PDETools().getOptionsChoice(model.mirrorTicket(), model.mirrorOption(),

@@ -27,9 +27,8 @@ class PrinterHelp {
 
   bool isOlderModel;
   OptString modelName;
-  OptString path;  // as the PPD has it; absent when it names none
-  std::filesystem::path
-      place;  // where that lies on this machine; empty for a path that names nothing
+  OptString path;               // as the PPD has it; absent when it names none
+  std::filesystem::path place;  // on this machine; empty for a path that names nothing
 };
 
 }  // namespace tavrin

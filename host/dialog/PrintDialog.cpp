@@ -51,7 +51,7 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
   showStage();
 }
 
-PrintDialog::~PrintDialog() { disconnect(&task, nullptr, this, nullptr); }
+PrintDialog::~PrintDialog() = default;
 
 void PrintDialog::build() {
   auto* inside = makeChild<QVBoxLayout>(content);

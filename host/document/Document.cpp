@@ -1,6 +1,7 @@
 #include "host/document/Document.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -39,7 +40,7 @@ Cancellable<Document> Document::open(const std::filesystem::path& path, const Ca
     return about(place, "is a " + std::string(kind) + ", not a file");
   const auto looked = document.lookAhead(cancel);
   if (!looked) return looked.why();
-  if (document.ahead.empty()) return about(place, "is empty");
+  if (document.start.empty()) return about(place, "is empty");
   return document;
 }
 
@@ -57,27 +58,32 @@ const char* Document::otherKind() {
 }
 
 Cancellable<Done> Document::lookAhead(const CancelFlag& cancel) {
-  std::string bytes(kLookAhead, '\0');
+  start.resize(kLookAhead);
   std::size_t length = 0;
-  while (length < bytes.size()) {
-    const auto more = readOn(std::span(bytes).subspan(length), cancel);
+  while (length < start.size()) {
+    const auto more = readOn(std::span(start).subspan(length), cancel);
     if (!more) return more.why();
     if (*more == 0) break;
     length += *more;
   }
-  bytes.resize(length);
-  ahead = std::move(bytes);
-  if (!ahead.empty()) mimeType = formatOf(ahead);
+  start.resize(length);
   return Done{};
 }
 
-Cancellable<std::size_t> Document::read(std::span<char> buffer, const CancelFlag& cancel) {
-  if (cancel) return Cancelled{};
-  if (ahead.empty()) return readOn(buffer, cancel);
-  const std::size_t length = std::min(ahead.size(), buffer.size());
-  std::copy_n(ahead.begin(), length, buffer.begin());
-  ahead.erase(0, length);
-  return length;
+Cancellable<Done> Document::readAll(const Taker& take, const CancelFlag& cancel,
+                                    const ProgressCallback& progress) {
+  std::array<char, 65536> buffer;
+  Progress read{0, bytesInAll};
+  for (std::span<const char> piece = start; !piece.empty();) {
+    if (cancel) return Cancelled{};
+    if (auto taken = take(piece); !taken) return taken;
+    read.done += piece.size();
+    if (progress) progress(read);
+    const auto more = readOn(buffer, cancel);
+    if (!more) return more.why();
+    piece = std::span(buffer).first(*more);
+  }
+  return Done{};
 }
 
 Cancellable<std::size_t> Document::readOn(std::span<char> buffer, const CancelFlag& cancel) {

@@ -2,9 +2,12 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <span>
 #include <string>
 
+#include "host/document/DocumentFormat.h"
+#include "host/document/Progress.h"
 #include "host/support/Cancellable.h"
 #include "platform/files/FileDescriptor.h"
 
@@ -21,14 +24,16 @@ class Document {
 
   // As documentName says.
   const std::string& name() const { return itsName; }
-  // The MIME type that the first bytes show (formatOf).
-  const std::string& format() const { return mimeType; }
+  // The MIME type that the first bytes show. May take a look into the database of the desktop.
+  std::string format() const { return formatOf(start); }
   // Its size in bytes; 0 for a pipe.
   std::uint64_t size() const { return bytesInAll; }
 
-  // Fills the front of the buffer with the next bytes. Their number; 0 at the end. The reason when
-  // reading fails.
-  Cancellable<std::size_t> read(std::span<char> buffer, const CancelFlag& cancel);
+  // Hands all its bytes to somebody who takes them, a piece at a time, and tells the progress after
+  // each. Ends early when reading fails, or when a piece is not taken.
+  using Taker = std::function<Cancellable<Done>(std::span<const char> piece)>;
+  Cancellable<Done> readAll(const Taker& take, const CancelFlag& cancel,
+                            const ProgressCallback& progress);
 
  private:
   Document(FileDescriptor file, std::string name);
@@ -40,9 +45,8 @@ class Document {
   FileDescriptor file;       // none for standard input
   std::uint64_t offset = 0;  // what has been read
   std::string itsName;
-  std::string mimeType;
   std::uint64_t bytesInAll = 0;
-  std::string ahead;  // read already, not yet handed out
+  std::string start;  // its first bytes, read when it was opened
 };
 
 }  // namespace tavrin

@@ -19,6 +19,13 @@ class DocumentTest : public testing::Test {
     return document ? "" : document.reason();
   }
 
+  static Document::Taker appendTo(std::string& text) {
+    return [&text](std::span<const char> piece) {
+      text.append(piece.data(), piece.size());
+      return Done{};
+    };
+  }
+
   test::TemporaryFolder place;
 };
 
@@ -30,10 +37,23 @@ TEST_F(DocumentTest, ReadsAFileToItsEnd) {
   EXPECT_EQ(document->format(), "text/plain");
   EXPECT_EQ(document->size(), text.size());
   std::string read;
-  std::string buffer(700, '\0');
-  for (std::size_t bytes; (bytes = *document->read(buffer, neverCancelled())) > 0;)
-    read.append(buffer, 0, bytes);
+  std::uint64_t told = 0;
+  EXPECT_TRUE(document->readAll(appendTo(read), neverCancelled(),
+                                [&](const Progress& progress) { told = progress.done; }));
   EXPECT_EQ(read, text);
+  EXPECT_EQ(told, text.size());
+}
+
+TEST_F(DocumentTest, IsNotReadOnOnceAPieceWasNotTaken) {
+  auto document = Document::open(place.write("a.txt", std::string(100000, 'x')));
+  ASSERT_TRUE(document) << document.reason();
+  int pieces = 0;
+  const auto full = [&](std::span<const char>) -> Cancellable<Done> {
+    ++pieces;
+    return Failure{"no room"};
+  };
+  EXPECT_EQ(document->readAll(full, neverCancelled(), {}).reason(), "no room");
+  EXPECT_EQ(pieces, 1);
 }
 
 TEST_F(DocumentTest, SaysWhatCannotBePrinted) {
@@ -48,9 +68,10 @@ TEST_F(DocumentTest, SaysWhatCannotBePrinted) {
 TEST_F(DocumentTest, IsNotReadOnOnceCancelled) {
   auto document = Document::open(place.write("a.txt", "Dear Ada"));
   ASSERT_TRUE(document) << document.reason();
-  std::string buffer(100, '\0');
+  std::string read;
   const CancelFlag cancelled = true;
-  EXPECT_TRUE(document->read(buffer, cancelled).cancelled());
+  EXPECT_TRUE(document->readAll(appendTo(read), cancelled, {}).cancelled());
+  EXPECT_EQ(read, "");
 }
 
 TEST_F(DocumentTest, StopsWaitingForAFIFOOnceCancelled) {

@@ -1,7 +1,5 @@
 #include "host/job/Delivery.h"
 
-#include <array>
-
 #include "host/request/JobOptions.h"
 #include "host/server/IppRequest.h"
 #include "host/support/CupsOptions.h"
@@ -43,7 +41,8 @@ Cancellable<int> Delivery::create(const OptionList& options) {
 Cancellable<Done> Delivery::send(Document& document, const CancelFlag& cancel,
                                  const ProgressCallback& progress) {
   if (!startDocument(document)) return noAnswer();
-  if (auto sent = sendBytes(document, cancel, progress); !sent) return sent;
+  const auto sendPiece = [this](std::span<const char> bytes) { return sendBytes(bytes); };
+  if (auto sent = document.readAll(sendPiece, cancel, progress); !sent) return sent;
   server.refresh();
   const IppPtr answer(cupsGetResponse(server.http(), "/"));
   if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) return noAnswer();
@@ -62,19 +61,11 @@ bool Delivery::startDocument(const Document& document) {
          HTTP_STATUS_CONTINUE;
 }
 
-Cancellable<Done> Delivery::sendBytes(Document& document, const CancelFlag& cancel,
-                                      const ProgressCallback& progress) {
-  std::array<char, 65536> buffer;
-  for (Progress sent{0, document.size()};;) {
-    const auto bytes = document.read(buffer, cancel);
-    if (!bytes) return bytes.why();
-    if (*bytes == 0) return Done{};
-    server.refresh();  // it was the document that kept it waiting
-    if (cupsWriteRequestData(server.http(), buffer.data(), *bytes) != HTTP_STATUS_CONTINUE)
-      return noAnswer();
-    sent.done += *bytes;
-    if (progress) progress(sent);
-  }
+Cancellable<Done> Delivery::sendBytes(std::span<const char> bytes) {
+  server.refresh();  // it was the document that kept it waiting
+  if (cupsWriteRequestData(server.http(), bytes.data(), bytes.size()) != HTTP_STATUS_CONTINUE)
+    return noAnswer();
+  return Done{};
 }
 
 NoValue Delivery::noAnswer() const {

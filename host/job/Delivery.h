@@ -25,8 +25,7 @@ class Delivery {
 
  private:
   bool startDocument(const Document& document);
-  Cancellable<Done> sendBytes(Document& document, const CancelFlag& cancel,
-                              const ProgressCallback& progress);
+  Cancellable<Done> sendBytes(std::span<const char> bytes);
   NoValue noAnswer() const;
 
   const JobRequest& request;

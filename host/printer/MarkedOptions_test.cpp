@@ -9,17 +9,8 @@ namespace {
 
 using Problems = std::vector<std::string>;
 
-PPDPtr familyPPD() {
-  return makePPD({pageSizeOption(),
-                  paperTypeOption(),
-                  mirrorOption(),
-                  printQualityOption(),
-                  {"Staple/Staple", "PickMany", "Left", {"Left", "Right", "Top"}},
-                  {"Duplex/Two-Sided", "PickOne", "None", {"None", "DuplexTumble"}}});
-}
-
 TEST(MarkedOptions, MarksWhatTheOptionsName) {
-  const PPDPtr ppd = familyPPD();
+  const PPDPtr ppd = officePPD();
   EXPECT_EQ(
       markOptions(*ppd, {{"mediatype", "IronOn"}, {"Mirror", "true"}, {"job-sheets", "none"}}),
       Problems{});
@@ -29,19 +20,19 @@ TEST(MarkedOptions, MarksWhatTheOptionsName) {
 }
 
 TEST(MarkedOptions, UnderstandsThePrintSystemsGeneralOptions) {
-  const PPDPtr ppd = familyPPD();
+  const PPDPtr ppd = officePPD();
   EXPECT_EQ(markOptions(*ppd, {{"sides", "two-sided-short-edge"}}), Problems{});
   EXPECT_EQ(optionValue(markedOptions(*ppd), "Duplex"), "DuplexTumble");
 }
 
 TEST(MarkedOptions, NamesAChoiceThatThePrinterLacks) {
-  const PPDPtr ppd = familyPPD();
+  const PPDPtr ppd = officePPD();
   EXPECT_EQ(markOptions(*ppd, {{"MediaType", "Parchment"}, {"Scent", "Rose"}}),
             Problems{"The printer's option \"MediaType\" has no choice \"Parchment\"."});
 }
 
 TEST(MarkedOptions, TakesSeveralChoicesWhereThePrinterDoes) {
-  const PPDPtr ppd = familyPPD();
+  const PPDPtr ppd = officePPD();
   EXPECT_EQ(markOptions(*ppd, {{"Staple", "Right,Top"}}), Problems{});
   EXPECT_EQ(markOptions(*ppd, {{"MediaType", "IronOn,Plain"}}).size(), 1u);
   EXPECT_EQ(markOptions(*ppd, {{"Staple", ""}}).size(), 1u);

@@ -8,17 +8,8 @@
 namespace tavrin {
 namespace {
 
-PPDPtr familyPPD() {
-  return makePPD({pageSizeOption(),
-                  paperTypeOption(),
-                  mirrorOption(),
-                  printQualityOption(),
-                  {"Staple/Staple", "PickMany", "Left", {"Left", "Right", "Top"}},
-                  {"Duplex/Two-Sided", "PickOne", "None", {"None", "DuplexTumble"}}});
-}
-
 TEST(JobOptions, PutsTheMarksOverTheRequest) {
-  const PPDPtr ppd = familyPPD();
+  const PPDPtr ppd = officePPD();
   JobRequest request;
   request.options = {{"mirror", "True"},
                      {"media", "Letter"},
@@ -37,7 +28,7 @@ TEST(JobOptions, PutsTheMarksOverTheRequest) {
 }
 
 TEST(JobOptions, SendsNothingWhereEveryMarkWasTakenAway) {
-  const PPDPtr ppd = familyPPD();
+  const PPDPtr ppd = officePPD();
   JobRequest request;
   request.options = {{"Staple", "Right,Top"}, {"job-hold-until", "night"}};
   ppd_choice_t* byDefault = ppdFindMarkedChoice(ppd.get(), "Staple");

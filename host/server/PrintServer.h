@@ -23,12 +23,12 @@ class PrintServer {
   PrintServer& operator=(PrintServer&&) noexcept;
 
   http_t* http() const { return connection.get(); }
-  // The patience starts anew: the server has shown that it lives.
+  // Restarts the patience: the server has shown that it is alive.
   void refresh();
   // Whether the last request ended early: the patience is over, or it was cancelled.
   bool gaveUp() const;
-  // Why the last request has no answer. A reason begins with the words, which say what did not come
-  // about ("The printer \"x\" cannot be read"), and goes on with the print server's silence or
+  // Why the last request has no answer. A reason begins with the words, which say what
+  // failed ("The printer \"x\" cannot be read"), and goes on with the print server's silence or
   // what libcups says of the request.
   NoValue noAnswer(const std::string& words) const;
 

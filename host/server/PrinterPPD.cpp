@@ -43,7 +43,7 @@ bool receive(const PrintServer& server, int file) {
   }
 }
 
-// What the server sends as the queue's PPD, in a file of memory: nobody else can open it, and
+// What the server sends as the queue's PPD, in a memory file: nobody else can open it, and
 // nothing is left behind.
 Cancellable<FileDescriptor> fetch(const PrintServer& server, const std::string& queue) {
   const std::string printer = "The printer " + quoted(queue);

@@ -32,6 +32,13 @@ class PrintTaskTest : public EventLoopTest {
     job.document = place.write("card.pdf", "%PDF-1.4 a card");
     return job;
   }
+  // Its document is a pipe that nobody ever fills, so that sending it never ends.
+  JobRequest endlessRequest() {
+    JobRequest job;
+    job.document = place.path() / "pipe";
+    EXPECT_EQ(mkfifo(job.document.c_str(), 0600), 0);
+    return job;
+  }
   void follow(PrintTask& task) {
     QObject::connect(&task, &PrintTask::stageChanged, &task,
                      [&] { stages.push_back(task.stage()); });
@@ -99,10 +106,7 @@ TEST_F(PrintTaskTest, CanTryAgainAfterAFailure) {
 }
 
 TEST_F(PrintTaskTest, TakesAJobBack) {
-  JobRequest job = request();
-  job.document = place.path() / "pipe";  // nobody ever fills it, so the job never ends
-  ASSERT_EQ(mkfifo(job.document.c_str(), 0600), 0);
-  PrintTask task(job);
+  PrintTask task(endlessRequest());
   follow(task);
   task.usePrinterWithoutQueue(printer(), place.path());
   task.cancel();
@@ -117,10 +121,7 @@ TEST_F(PrintTaskTest, TakesAJobBack) {
 }
 
 TEST_F(PrintTaskTest, WhoLeavesTooEarlyHearsOfTheJob) {
-  JobRequest job = request();
-  job.document = place.path() / "pipe";
-  ASSERT_EQ(mkfifo(job.document.c_str(), 0600), 0);
-  PrintTask task(job);
+  PrintTask task(endlessRequest());
   task.usePrinterWithoutQueue(printer(), place.path());
   task.print();
   task.cancel();
@@ -266,10 +267,7 @@ TEST_F(PrintTaskTest, DoesNothingOutOfTurn) {
 }
 
 TEST_F(PrintTaskTest, WhoLeavesWhileItPrintsHearsOfTheJob) {
-  JobRequest job = request();
-  job.document = place.path() / "pipe";
-  ASSERT_EQ(mkfifo(job.document.c_str(), 0600), 0);
-  PrintTask task(job);
+  PrintTask task(endlessRequest());
   task.usePrinterWithoutQueue(printer(), place.path());
   task.print();
   task.leave();

@@ -1,6 +1,5 @@
 #include "host/ticket/TicketFolder.h"
 
-#include <array>
 #include <cerrno>
 #include <cstring>
 
@@ -45,15 +44,11 @@ Cancellable<Done> copyDocument(Document& document, const fs::path& path, const f
                                const CancelFlag& cancel, const ProgressCallback& progress) {
   DurableFile copy(path);
   if (!copy) return cannotWrite(output);
-  std::array<char, 65536> buffer;
-  for (Progress copied{0, document.size()};;) {
-    const auto bytes = document.read(buffer, cancel);
-    if (!bytes) return bytes.why();
-    if (*bytes == 0) break;
-    if (!copy.write(std::span(buffer).first(*bytes))) return cannotWrite(output);
-    copied.done += *bytes;
-    if (progress) progress(copied);
-  }
+  const auto write = [&](std::span<const char> bytes) -> Cancellable<Done> {
+    if (!copy.write(bytes)) return cannotWrite(output);
+    return Done{};
+  };
+  if (auto copied = document.readAll(write, cancel, progress); !copied) return copied;
   if (!copy.finish()) return cannotWrite(output);
   return Done{};
 }

@@ -144,4 +144,13 @@ std::vector<PPDOptionText> fullPrinter() {
           sharpeningOption(),  dryTimePopUpOption(), tray2Option("True")};
 }
 
+PPDPtr officePPD() {
+  return makePPD({pageSizeOption(),
+                  paperTypeOption(),
+                  mirrorOption(),
+                  printQualityOption(),
+                  {"Staple/Staple", "PickMany", "Left", {"Left", "Right", "Top"}},
+                  {"Duplex/Two-Sided", "PickOne", "None", {"None", "DuplexTumble"}}});
+}
+
 }  // namespace tavrin

@@ -44,4 +44,8 @@ PPDOptionText pageSizeOption();
 // A printer with all of them, the pop-up kind of dry time and the second tray.
 std::vector<PPDOptionText> fullPrinter();
 
+// A printer with options that no panel shows: it staples wherever one picks, and prints on both
+// sides.
+PPDPtr officePPD();
+
 }  // namespace tavrin
