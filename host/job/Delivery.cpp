@@ -26,6 +26,7 @@ OptionList optionsOfJob(OptionList options) {
 // libcups' own call looks for the printer first, in a way that waits for minutes for a silent
 // server.
 Cancellable<int> Delivery::create(const OptionList& options) {
+  server.refresh();
   IppPtr creation = printerRequest(IPP_OP_CREATE_JOB, request.printer);
   ippAddString(creation.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                jobTitle(request).c_str());
@@ -40,6 +41,7 @@ Cancellable<int> Delivery::create(const OptionList& options) {
 
 Cancellable<Done> Delivery::send(Document& document, const CancelFlag& cancel,
                                  const ProgressCallback& progress) {
+  server.refresh();
   if (!startDocument(document)) return noAnswer();
   const auto sendPiece = [this](std::span<const char> bytes) { return sendBytes(bytes); };
   if (auto sent = document.readAll(sendPiece, cancel, progress); !sent) return sent;
@@ -62,9 +64,10 @@ bool Delivery::startDocument(const Document& document) {
 }
 
 Cancellable<Done> Delivery::sendBytes(std::span<const char> bytes) {
-  server.refresh();  // it was the document that kept it waiting
+  server.refresh();
   if (cupsWriteRequestData(server.http(), bytes.data(), bytes.size()) != HTTP_STATUS_CONTINUE)
     return noAnswer();
+  server.pause();  // until the document has more to send
   return Done{};
 }
 

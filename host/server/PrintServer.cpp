@@ -1,16 +1,14 @@
 #include "host/server/PrintServer.h"
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
 #include <sys/socket.h>
 
 namespace tavrin {
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-// How often a waiting request looks whether it should give up.
-constexpr double kWatchInterval = 0.25;
 
 const char* noPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
 
@@ -20,66 +18,65 @@ bool wantsPassword() {
          cupsLastError() == IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED;
 }
 
+// What libcups says where it only knows that bytes did not come ("Success", "Broken pipe").
+bool isAboutBytes(const std::string& words) {
+  constexpr std::array kErrors{0, EPIPE, ECONNRESET, ECONNREFUSED, ENOTCONN, EINTR, EAGAIN};
+  return words.empty() ||
+         std::ranges::any_of(kErrors, [&](int error) { return words == std::strerror(error); });
+}
+
+std::string address() { return "the print server at " + std::string(cupsServer()); }
+
 }  // namespace
 
-struct PrintServer::Watch {
-  const CancelFlag& cancel;
-  Patience patience;
-  Clock::time_point deadline = {};
-  bool ranOut = false;
-
-  void restart() { deadline = Clock::now() + patience; }
-
-  // libcups asks this whenever nothing has come for a while; 0 makes it give up.
-  static int keepWaiting(http_t*, void* data) {
-    auto& watch = *static_cast<Watch*>(data);
-    watch.ranOut = watch.ranOut || Clock::now() >= watch.deadline;
-    return watch.ranOut || watch.cancel ? 0 : 1;
-  }
-};
-
-PrintServer::PrintServer(std::unique_ptr<Watch> itsWatch) : watch(std::move(itsWatch)) {}
+PrintServer::PrintServer(std::unique_ptr<Relay> itsRelay, HttpPtr itsConnection)
+    : relay(std::move(itsRelay)), connection(std::move(itsConnection)) {}
 PrintServer::PrintServer(PrintServer&&) noexcept = default;
 PrintServer::~PrintServer() = default;
 
 PrintServer& PrintServer::operator=(PrintServer&& other) noexcept {
-  connection = std::move(other.connection);  // it may call its watch until it is closed
-  watch = std::move(other.watch);
+  connection = std::move(other.connection);  // it goes through its relay until it is closed
+  relay = std::move(other.relay);
   return *this;
 }
 
 Cancellable<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience patience) {
   if (cancel) return Cancelled{};
-  PrintServer server(std::make_unique<Watch>(Watch{cancel, patience}));
-  server.watch->restart();
-  server.connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                                       cupsEncryption(), 1, static_cast<int>(patience.count()),
-                                       nullptr));
-  if (!server.connection)
+  auto relay = Relay::to(cupsServer(), ippPort(), cancel, patience);
+  HttpPtr connection;
+  if (relay)
+    connection.reset(httpConnect2(cupsServer(), ippPort(), relay->address().get(), AF_UNSPEC,
+                                  cupsEncryption(), 1, static_cast<int>(patience.count()),
+                                  nullptr));
+  if (!connection)
     return Failure{"The print server at " + std::string(cupsServer()) +
                    " cannot be reached. Check that it runs."};
   // libcups would ask for it in the terminal, where nobody looks. Holds for the calling thread.
   cupsSetPasswordCB2(noPassword, nullptr);
-  httpSetTimeout(server.http(), kWatchInterval, Watch::keepWaiting, server.watch.get());
-  return server;
+  return PrintServer(std::move(relay), std::move(connection));
 }
 
-void PrintServer::refresh() { watch->restart(); }
-
-bool PrintServer::gaveUp() const { return watch->ranOut || watch->cancel; }
-
 NoValue PrintServer::noAnswer(const std::string& words) const {
-  if (watch->cancel) return Cancelled{};
-  if (watch->ranOut)
-    return Failure{words + ": the print server at " + cupsServer() +
-                   " does not answer. Check that it runs, then try again."};
+  if (relay->cut() == Relay::Cut::cancelled) return Cancelled{};
+  return Failure{words + ": " + whatItDid()};
+}
+
+std::string PrintServer::whatItDid() const {
+  if (relay->cut() == Relay::Cut::late)
+    return address() + " does not answer. Check that it runs, then try again.";
+  if (relay->cut() == Relay::Cut::tooLong)
+    return address() + " sent more than any answer needs. Check that it is a print server.";
   if (wantsPassword())
-    return Failure{words +
-                   ": the print server does not allow it, or wants a password. Ask whoever looks "
-                   "after the printers, or print with lp, which can ask for the password."};
+    return "the print server does not allow it, or wants a password. Ask whoever looks "
+           "after the printers, or print with lp, which can ask for the password.";
   std::string reason = cupsLastErrorString();
+  if (isAboutBytes(reason))
+    return address() +
+           (relay->serverHungUp() ? " hung up before it had answered."
+                                  : " gave an answer that makes no sense.") +
+           " Check that it runs, then try again.";
   while (reason.ends_with('.')) reason.pop_back();
-  return Failure{words + ": " + reason + "."};
+  return reason + ".";
 }
 
 }  // namespace tavrin
