@@ -17,8 +17,8 @@
 #include "host/panes/FeaturesPane.h"
 #include "host/printer/PPDLoader.h"
 #include "platform/qt/toolkit/QtToolkit.h"
+#include "tests/servers/FaultyServer.h"
 #include "tests/servers/PrivateCupsd.h"
-#include "tests/servers/SilentServer.h"
 
 // The dialog as a person and a program meet it, with the real plug-in.
 
@@ -237,7 +237,7 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
 }
 
 TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {
-  const SilentServer server;
+  const FaultyServer server(Fault::silent);
   PrintTask task(job());
   PrintDialog dialog(task);
   task.usePrintServer();
@@ -351,7 +351,7 @@ TEST_F(PrintDialogTest, PickingThePrinterAgainKeepsWhatWasChosen) {
 }
 
 TEST_F(PrintDialogTest, LooksAgainForPrinters) {
-  SilentServer server;
+  FaultyServer server(Fault::silent);
   server.stop();
   PrintTask task(job());
   PrintDialog dialog(task);

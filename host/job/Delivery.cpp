@@ -35,23 +35,25 @@ Cancellable<int> Delivery::create(const OptionList& options) {
     cupsEncodeOptions2(creation.get(), array.count(), array.data(), group);
   const IppPtr answer = ask(server.http(), std::move(creation));
   jobId = answer ? integerIn(*answer, "job-id") : 0;
-  if (jobId == 0) return noAnswer();
+  if (jobId == 0) return server.noAnswer(whatFailed());
   return jobId;
 }
 
 Cancellable<Done> Delivery::send(Document& document, const CancelFlag& cancel,
                                  const ProgressCallback& progress) {
   server.refresh();
-  if (!startDocument(document)) return noAnswer();
+  if (const http_status_t status = startDocument(document); status != HTTP_STATUS_CONTINUE)
+    return server.refused(whatFailed(), status);
   const auto sendPiece = [this](std::span<const char> bytes) { return sendBytes(bytes); };
   if (auto sent = document.readAll(sendPiece, cancel, progress); !sent) return sent;
   server.refresh();
   const IppPtr answer(cupsGetResponse(server.http(), "/"));
-  if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) return noAnswer();
+  if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
+    return server.noAnswer(whatFailed());
   return Done{};
 }
 
-bool Delivery::startDocument(const Document& document) {
+http_status_t Delivery::startDocument(const Document& document) {
   const IppPtr start = printerRequest(IPP_OP_SEND_DOCUMENT, request.printer);
   ippAddInteger(start.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
   ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
@@ -59,21 +61,19 @@ bool Delivery::startDocument(const Document& document) {
   ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, kFormatOption, nullptr,
                sentFormat(request, document).c_str());
   ippAddBoolean(start.get(), IPP_TAG_OPERATION, "last-document", 1);
-  return cupsSendRequest(server.http(), start.get(), "/", CUPS_LENGTH_VARIABLE) ==
-         HTTP_STATUS_CONTINUE;
+  return cupsSendRequest(server.http(), start.get(), "/", CUPS_LENGTH_VARIABLE);
 }
 
 Cancellable<Done> Delivery::sendBytes(std::span<const char> bytes) {
   server.refresh();
   if (cupsWriteRequestData(server.http(), bytes.data(), bytes.size()) != HTTP_STATUS_CONTINUE)
-    return noAnswer();
+    return server.noAnswer(whatFailed());
   server.pause();  // until the document has more to send
   return Done{};
 }
 
-NoValue Delivery::noAnswer() const {
-  return server.noAnswer(quoted(jobTitle(request)) + " could not be printed on " +
-                         quoted(request.printer));
+std::string Delivery::whatFailed() const {
+  return quoted(jobTitle(request)) + " could not be printed on " + quoted(request.printer);
 }
 
 }  // namespace tavrin

@@ -24,9 +24,9 @@ class Delivery {
                          const ProgressCallback& progress);
 
  private:
-  bool startDocument(const Document& document);
+  http_status_t startDocument(const Document& document);
   Cancellable<Done> sendBytes(std::span<const char> bytes);
-  NoValue noAnswer() const;
+  std::string whatFailed() const;
 
   const JobRequest& request;
   PrintServer& server;

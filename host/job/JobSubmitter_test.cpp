@@ -1,5 +1,9 @@
 #include "host/job/JobSubmitter.h"
 
+#include <fstream>
+#include <sys/stat.h>
+#include <thread>
+
 #include <gtest/gtest.h>
 
 #include "host/printer/MarkedOptions.h"
@@ -111,6 +115,29 @@ TEST_F(JobSubmitterTest, AUserWhoMayNotPrintIsToldSo) {
   const auto submission = submitJob(request(), {});
   ASSERT_FALSE(submission);
   EXPECT_NE(submission.reason().find("the print server does not allow it"), std::string::npos);
+}
+
+TEST_F(JobSubmitterTest, AUserWithAnAccountNeedsNoPassword) {
+  cups.run({"lpadmin", "-p", kQueue, "-o", "printer-op-policy=accounts"});
+  const auto submission = submitJob(request(), {});
+  ASSERT_TRUE(submission) << submission.reason();
+  EXPECT_EQ(cups.waitForJob(submission->jobId).data, "%PDF-1.4 a card");
+}
+
+TEST_F(JobSubmitterTest, TheServerIsNotBlamedForASlowDocument) {
+  JobRequest job = requestFor(place.path() / "pipe");
+  ASSERT_EQ(mkfifo(job.document.c_str(), 0600), 0);
+  constexpr Patience kPatience = std::chrono::seconds(1);
+  std::thread writer([&] {
+    std::ofstream pipe(job.document);
+    pipe << "%PDF-1.4 " << std::string(1000, 'x') << std::flush;
+    std::this_thread::sleep_for(kPatience * 2);
+    pipe << "the end";
+  });
+  const auto submission = submitJob(job, {}, neverCancelled(), {}, kPatience);
+  writer.join();
+  ASSERT_TRUE(submission) << submission.reason();
+  EXPECT_TRUE(cups.waitForJob(submission->jobId).data.ends_with("the end"));
 }
 
 TEST_F(JobSubmitterTest, AnEmptyDocumentMakesNoJob) {

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <sys/socket.h>
 
+#include "platform/text/Quoted.h"
+
 namespace tavrin {
 
 namespace {
@@ -18,8 +20,14 @@ bool wantsPassword() {
          cupsLastError() == IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED;
 }
 
-// What libcups says where it only knows that bytes did not come ("Success", "Broken pipe").
-bool isAboutBytes(const std::string& words) {
+constexpr char kWantsPassword[] =
+    "the print server does not allow it, or wants a password. Ask whoever looks after the "
+    "printers, "
+    "or print with lp, which can ask for the password.";
+
+// Whether libcups only knows that the right bytes did not come ("Success", "Broken pipe").
+bool knowsNoReason(const std::string& words) {
+  if (cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE) return true;
   constexpr std::array kErrors{0, EPIPE, ECONNRESET, ECONNREFUSED, ENOTCONN, EINTR, EAGAIN};
   return words.empty() ||
          std::ranges::any_of(kErrors, [&](int error) { return words == std::strerror(error); });
@@ -61,20 +69,22 @@ NoValue PrintServer::noAnswer(const std::string& words) const {
   return Failure{words + ": " + whatItDid()};
 }
 
+NoValue PrintServer::refused(const std::string& words, http_status_t status) const {
+  if (gaveUp() || status < HTTP_STATUS_MULTIPLE_CHOICES) return noAnswer(words);
+  if (status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_FORBIDDEN)
+    return Failure{words + ": " + kWantsPassword};
+  return Failure{words + ": the print server says " + quoted(httpStatus(status)) + "."};
+}
+
 std::string PrintServer::whatItDid() const {
   if (relay->cut() == Relay::Cut::late)
     return address() + " does not answer. Check that it runs, then try again.";
   if (relay->cut() == Relay::Cut::tooLong)
     return address() + " sent more than any answer needs. Check that it is a print server.";
-  if (wantsPassword())
-    return "the print server does not allow it, or wants a password. Ask whoever looks "
-           "after the printers, or print with lp, which can ask for the password.";
+  if (wantsPassword()) return kWantsPassword;
   std::string reason = cupsLastErrorString();
-  if (isAboutBytes(reason))
-    return address() +
-           (relay->serverHungUp() ? " hung up before it had answered."
-                                  : " gave an answer that makes no sense.") +
-           " Check that it runs, then try again.";
+  if (knowsNoReason(reason))
+    return address() + " gave no proper answer. Check that it runs, then try again.";
   while (reason.ends_with('.')) reason.pop_back();
   return reason + ".";
 }

@@ -34,6 +34,8 @@ class PrintServer {
   // failed ("The printer \"x\" cannot be read"), and goes on with what the print server did
   // instead of answering, or what libcups says of the request.
   NoValue noAnswer(const std::string& words) const;
+  // The same where the server said in HTTP what is wrong; an error of HTTP is no answer at all.
+  NoValue refused(const std::string& words, http_status_t status) const;
 
  private:
   PrintServer(std::unique_ptr<Relay> relay, HttpPtr connection);

@@ -29,17 +29,23 @@ http_status_t get(http_t* http, const std::string& resource) {
   return status;
 }
 
-// Copies what the server sends; false when it breaks off or sends more than a PPD can be.
-bool receive(const PrintServer& server, int file) {
+// Whether the answer came to the end that was announced, by its length or chunk by chunk. libcups
+// takes the end of the connection for the end of the answer.
+bool isWhole(http_t* http) { return httpGetRemaining(http) == 0 && httpError(http) == 0; }
+
+// Copies what the server sends. What is wrong with it, as the rest of a sentence; null when nothing
+// is.
+const char* receive(http_t* http, int file) {
   std::array<char, 65536> buffer;
   std::size_t total = 0;
   for (;;) {
-    const ssize_t bytes = httpRead2(server.http(), buffer.data(), buffer.size());
-    if (bytes <= 0) return bytes == 0 && !server.gaveUp();
+    const ssize_t bytes = httpRead2(http, buffer.data(), buffer.size());
+    if (bytes == 0 && isWhole(http)) return nullptr;
+    if (bytes <= 0) return "it was not sent whole. Try again.";
     total += static_cast<std::size_t>(bytes);
-    if (total > kPPDFileLimit ||
-        write(file, buffer.data(), static_cast<std::size_t>(bytes)) != bytes)
-      return false;
+    if (total > kPPDFileLimit) return "it is too large.";
+    if (write(file, buffer.data(), static_cast<std::size_t>(bytes)) != bytes)
+      return "there is no room for it in memory.";
   }
 }
 
@@ -49,14 +55,13 @@ Cancellable<FileDescriptor> fetch(const PrintServer& server, const std::string& 
   const std::string printer = "The printer " + quoted(queue);
   const std::string problem = "The description of the printer " + quoted(queue) + " cannot be read";
   const http_status_t status = get(server.http(), "/printers/" + queue + ".ppd");
-  if (server.gaveUp()) return server.noAnswer(problem);
   if (status == HTTP_STATUS_NOT_FOUND) return Failure{printer + " does not exist or has no PPD."};
-  if (status != HTTP_STATUS_OK)
-    return Failure{problem + ": the print server says " + quoted(httpStatus(status)) + "."};
+  if (status != HTTP_STATUS_OK) return server.refused(problem, status);
   FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
-  if (receive(server, file.get())) return file;
+  const char* wrong = receive(server.http(), file.get());
+  if (!wrong) return file;
   if (server.gaveUp()) return server.noAnswer(problem);
-  return Failure{problem + ": it is too large or was not sent whole."};
+  return Failure{problem + ": " + wrong};
 }
 
 }  // namespace

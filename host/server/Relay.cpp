@@ -24,6 +24,13 @@ FileDescriptor connectTo(http_addrlist_t* server, std::chrono::steady_clock::dur
   return FileDescriptor(connection);
 }
 
+// What libcups has not read yet when the line is cut, it still unpacks and reads: it must be
+// little.
+void keepLittle(const FileDescriptor& end) {
+  const int bytes = 16 << 10;
+  setsockopt(end.get(), SOL_SOCKET, SO_SNDBUF, &bytes, sizeof(bytes));
+}
+
 // Bytes on their way from one end of a line to the other.
 class Flow {
  public:
@@ -83,14 +90,8 @@ class Relay::Line {
   // Both pass on what there is. False when the line is of no more use; a server that listens no
   // more may still say why.
   bool moveQuestion() { return question.move(near, far) != Flow::State::sourceClosed; }
-  bool moveAnswer() {
-    const Flow::State state = answer.move(far, near);
-    serverHungUp = state == Flow::State::sourceClosed;
-    return state == Flow::State::open;
-  }
+  bool moveAnswer() { return answer.move(far, near) == Flow::State::open; }
   std::size_t takeReceived() { return answer.takeTotal(); }
-
-  bool serverHungUp = false;
 
  private:
   FileDescriptor near, far;
@@ -138,7 +139,6 @@ void Relay::work() {
     if (!line) continue;
     const bool isOpen = line->moveAnswer() && line->moveQuestion();
     received += line->takeReceived();
-    hungUp = line->serverHungUp;
     if (!isOpen) line.reset();
   }
   entrance.shut();
@@ -167,6 +167,7 @@ std::unique_ptr<Relay::Line> Relay::nextLine() {
   if (!caller) return nullptr;
   if (!connection) connection = connectTo(server.get(), deadline.load() - Clock::now());
   if (!connection) return nullptr;
+  keepLittle(caller);
   return std::make_unique<Line>(std::move(caller), std::move(connection));
 }
 

@@ -43,8 +43,6 @@ class Relay {
   // Why the line was cut.
   enum class Cut { none, cancelled, late, tooLong };
   Cut cut() const { return reason; }
-  // Whether it was the server that hung up last.
-  bool serverHungUp() const { return hungUp; }
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -65,7 +63,6 @@ class Relay {
   std::atomic<Clock::time_point> deadline;
   std::atomic<std::size_t> received = 0;  // of the answer, so far
   std::atomic<Cut> reason = Cut::none;
-  std::atomic<bool> hungUp = false;
   std::atomic<bool> over = false;  // nobody needs it any more
   std::thread thread;
 };

@@ -9,8 +9,8 @@
 #include "tests/fakes/FakePanel.h"
 #include "tests/fixtures/EventLoopTest.h"
 #include "tests/fixtures/TemporaryFolder.h"
+#include "tests/servers/FaultyServer.h"
 #include "tests/servers/PrivateCupsd.h"
-#include "tests/servers/SilentServer.h"
 
 namespace tavrin {
 namespace {
@@ -287,7 +287,7 @@ TEST_F(PrintTaskTest, AsksForAnotherPrinterWhereTheNamedOneIsUnknown) {
 }
 
 TEST_F(PrintTaskTest, CanLookAgainWhereNoPrinterWasFound) {
-  SilentServer server;
+  FaultyServer server(Fault::silent);
   server.stop();
   PrintTask task(request());
   task.usePrintServer();

@@ -33,8 +33,6 @@ bool LocalSocket::listenAt(const std::filesystem::path& place) const {
          listen(end.get(), SOMAXCONN) == 0;
 }
 
-FileDescriptor LocalSocket::nextCaller() const {
-  return FileDescriptor(accept(end.get(), nullptr, nullptr));
-}
+void LocalSocket::shut() const { shutdown(end.get(), SHUT_RDWR); }
 
 }  // namespace tavrin

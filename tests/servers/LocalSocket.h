@@ -15,9 +15,10 @@ class LocalSocket {
   bool connectTo(const std::filesystem::path& place) const;
   bool listenAt(const std::filesystem::path& place) const;
 
-  // Waits for somebody to come.
-  FileDescriptor nextCaller() const;
-  void close() { end.close(); }
+  // For a library that works on it.
+  int descriptor() const { return end.get(); }
+  // Nobody can come or say anything any more. Any thread.
+  void shut() const;
 
  private:
   FileDescriptor end;

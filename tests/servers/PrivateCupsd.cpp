@@ -51,6 +51,12 @@ DefaultAuthType None
     Allow all
   </Limit>
 </Policy>
+<Policy accounts>
+  <Limit All>
+    AuthType Basic
+    Require valid-user
+  </Limit>
+</Policy>
 )";
 
 // Waits for something to come true; throws when that takes too long.

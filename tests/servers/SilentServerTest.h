@@ -2,13 +2,12 @@
 
 #include <functional>
 #include <string>
-#include <thread>
 
 #include <gtest/gtest.h>
 
 #include "host/support/Cancellation.h"
 #include "tests/fixtures/TemporaryFolder.h"
-#include "tests/servers/SilentServer.h"
+#include "tests/servers/FaultyServer.h"
 
 namespace tavrin {
 
@@ -21,14 +20,13 @@ class SilentServerTest : public testing::Test {
   // Makes a call, and cancels it as soon as it has come to the server.
   void whileCancelling(const std::function<void(const CancelFlag&)>& call) {
     CancelFlag cancel = false;
-    std::thread canceller([&] { server.receive([&] { cancel = true; }); });
+    server.whenAsked([&] { cancel = true; });
     call(cancel);
-    canceller.join();
     EXPECT_TRUE(cancel);
   }
 
   test::TemporaryFolder place;
-  SilentServer server;
+  FaultyServer server{Fault::silent};
   const std::string silence = ": the print server at " + server.path() +
                               " does not answer. Check that it runs, then try again.";
 };

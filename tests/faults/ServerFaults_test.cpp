@@ -1,0 +1,188 @@
+#include <ostream>
+
+#include <gtest/gtest.h>
+
+#include "host/job/JobSubmitter.h"
+#include "host/server/Destinations.h"
+#include "host/server/PrinterPPD.h"
+#include "tests/fixtures/TemporaryFolder.h"
+#include "tests/servers/FaultyServer.h"
+
+// What a person sees when a print server misbehaves, and what is left in its queue.
+
+namespace tavrin {
+namespace {
+
+// What the person wants, of which the print server spoils one request.
+enum class Wish { seePrinters, seeState, seeSettings, print, cancel };
+
+constexpr int kNothing = 0;
+constexpr int kTheJob = 1;
+
+struct Row {
+  const char* name;
+  Fault fault;
+  ipp_op_t request;
+  Wish wish;
+  const char* seen;  // empty: all is well; "@" stands for the server's address
+  int left;          // unfinished jobs in the queue
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+
+constexpr auto kList = IPP_OP_CUPS_GET_PRINTERS;
+constexpr auto kState = IPP_OP_GET_PRINTER_ATTRIBUTES;
+constexpr auto kPPD = IPP_OP_CUPS_GET_PPD;
+constexpr auto kCreate = IPP_OP_CREATE_JOB;
+constexpr auto kSend = IPP_OP_SEND_DOCUMENT;
+constexpr auto kReadBack = IPP_OP_GET_JOB_ATTRIBUTES;
+constexpr auto kTakeBack = IPP_OP_CANCEL_JOB;
+
+#define NO_LIST "The printers cannot be listed: "
+#define NO_STATE "The printer \"photo\" cannot be asked for its state: "
+#define NO_PPD "The description of the printer \"photo\" cannot be read: "
+#define NO_JOB "\"card.pdf\" could not be printed on \"photo\": "
+#define NOT_READ_BACK "The job could not be read back: "
+#define SILENT "the print server at @ does not answer. Check that it runs, then try again."
+#define NO_ANSWER "the print server at @ gave no proper answer. Check that it runs, then try again."
+#define TOO_MUCH \
+  "the print server at @ sent more than any answer needs. Check that it is a print server."
+#define PASSWORD                                                                          \
+  "the print server does not allow it, or wants a password. Ask whoever looks after the " \
+  "printers, or print with lp, which can ask for the password."
+#define STILL_THERE                                                                          \
+  "The job was cancelled on this computer only. The unfinished job photo-7 is still in the " \
+  "queue; remove it with: cancel photo-7"
+
+// clang-format off
+constexpr Row kRows[] = {
+    {"ListFromASilentServer", Fault::silent, kList, Wish::seePrinters, NO_LIST SILENT, kNothing},
+    {"ListThatDrips", Fault::dripping, kList, Wish::seePrinters, NO_LIST SILENT, kNothing},
+    {"ListAfterEndlessContinue", Fault::endlessContinue, kList, Wish::seePrinters, NO_LIST TOO_MUCH, kNothing},
+    {"ListWithEndlessHeaders", Fault::endlessHeaders, kList, Wish::seePrinters, NO_LIST TOO_MUCH, kNothing},
+    {"ListOfEmptyChunks", Fault::emptyChunks, kList, Wish::seePrinters, NO_LIST NO_ANSWER, kNothing},
+    {"ListWithoutEnd", Fault::endlessAnswer, kList, Wish::seePrinters, NO_LIST TOO_MUCH, kNothing},
+    {"ListFromAClosingServer", Fault::closing, kList, Wish::seePrinters, NO_LIST NO_ANSWER, kNothing},
+    {"HalfAList", Fault::half, kList, Wish::seePrinters, NO_LIST NO_ANSWER, kNothing},
+    {"ListThatIsNone", Fault::wrong, kList, Wish::seePrinters, NO_LIST NO_ANSWER, kNothing},
+    {"HugeList", Fault::huge, kList, Wish::seePrinters, NO_LIST TOO_MUCH, kNothing},
+    {"ListElsewhere", Fault::redirecting, kList, Wish::seePrinters, NO_LIST SILENT, kNothing},
+    {"ListForAPassword", Fault::wantsPassword, kList, Wish::seePrinters, NO_LIST PASSWORD, kNothing},
+    {"ListWithEncryption", Fault::wantsEncryption, kList, Wish::seePrinters, NO_LIST "Service Unavailable.", kNothing},
+    {"ListThatIsBadlyPacked", Fault::brokenGzip, kList, Wish::seePrinters, NO_LIST NO_ANSWER, kNothing},
+    {"ListThatUnpacksWithoutEnd", Fault::gzipBomb, kList, Wish::seePrinters, NO_LIST SILENT, kNothing},
+
+    {"StateFromASilentServer", Fault::silent, kState, Wish::seeState, NO_STATE SILENT, kNothing},
+    {"StateThatDrips", Fault::dripping, kState, Wish::seeState, NO_STATE SILENT, kNothing},
+    {"StateFromAClosingServer", Fault::closing, kState, Wish::seeState, NO_STATE NO_ANSWER, kNothing},
+
+    {"SettingsFromASilentServer", Fault::silent, kPPD, Wish::seeSettings, NO_PPD SILENT, kNothing},
+    {"SettingsThatDrip", Fault::dripping, kPPD, Wish::seeSettings, NO_PPD SILENT, kNothing},
+    {"SettingsAfterEndlessContinue", Fault::endlessContinue, kPPD, Wish::seeSettings, NO_PPD TOO_MUCH, kNothing},
+    {"SettingsWithoutEnd", Fault::endlessAnswer, kPPD, Wish::seeSettings, NO_PPD "it is too large.", kNothing},
+    {"SettingsFromAClosingServer", Fault::closing, kPPD, Wish::seeSettings, NO_PPD NO_ANSWER, kNothing},
+    {"HalfTheSettings", Fault::half, kPPD, Wish::seeSettings, NO_PPD "it was not sent whole. Try again.", kNothing},
+    {"SettingsCutInAChunk", Fault::halfChunk, kPPD, Wish::seeSettings, NO_PPD "it was not sent whole. Try again.", kNothing},
+    {"SettingsCutBetweenChunks", Fault::noLastChunk, kPPD, Wish::seeSettings, NO_PPD "it was not sent whole. Try again.", kNothing},
+    {"SettingsThatAreNone", Fault::wrong, kPPD, Wish::seeSettings, NO_PPD NO_ANSWER, kNothing},
+    {"HugeSettings", Fault::huge, kPPD, Wish::seeSettings, NO_PPD "it is too large.", kNothing},
+    {"SettingsElsewhere", Fault::redirecting, kPPD, Wish::seeSettings, NO_PPD "the print server says \"Moved Permanently\".", kNothing},
+    {"SettingsForAPassword", Fault::wantsPassword, kPPD, Wish::seeSettings, NO_PPD PASSWORD, kNothing},
+    {"SettingsWithEncryption", Fault::wantsEncryption, kPPD, Wish::seeSettings, NO_PPD "the print server says \"Upgrade Required\".", kNothing},
+    {"SettingsThatAreBadlyPacked", Fault::brokenGzip, kPPD, Wish::seeSettings, NO_PPD "it was not sent whole. Try again.", kNothing},
+    {"SettingsThatUnpackWithoutEnd", Fault::gzipBomb, kPPD, Wish::seeSettings, NO_PPD "it is too large.", kNothing},
+
+    {"JobThatIsNotMade", Fault::silent, kCreate, Wish::print, NO_JOB SILENT, kNothing},
+    {"JobThatIsMadeInDrips", Fault::dripping, kCreate, Wish::print, NO_JOB SILENT, kNothing},
+    {"JobOnAClosingServer", Fault::closing, kCreate, Wish::print, NO_JOB NO_ANSWER, kNothing},
+    {"JobForAPassword", Fault::wantsPassword, kCreate, Wish::print, NO_JOB PASSWORD, kNothing},
+
+    {"DocumentThatNobodyTakes", Fault::silent, kSend, Wish::print, NO_JOB SILENT, kNothing},
+    {"DocumentAfterEndlessContinue", Fault::endlessContinue, kSend, Wish::print, NO_JOB TOO_MUCH, kNothing},
+    {"DocumentOnAClosingServer", Fault::closing, kSend, Wish::print, NO_JOB NO_ANSWER, kNothing},
+    {"DocumentThatIsAnsweredTooEarly", Fault::endlessAnswer, kSend, Wish::print, NO_JOB NO_ANSWER, kNothing},
+
+    {"ArrivedJobThatNobodySees", Fault::silent, kReadBack, Wish::print, NOT_READ_BACK SILENT, kNothing},
+    {"ArrivedJobOnAClosingServer", Fault::closing, kReadBack, Wish::print, NOT_READ_BACK NO_ANSWER, kNothing},
+
+    {"CancelledJobOnASilentServer", Fault::silent, kTakeBack, Wish::cancel, STILL_THERE, kTheJob},
+    {"CancelledJobOnAClosingServer", Fault::closing, kTakeBack, Wish::cancel, STILL_THERE, kTheJob},
+    {"CancelledJobForAPassword", Fault::wantsPassword, kTakeBack, Wish::cancel, STILL_THERE, kTheJob},
+};
+// clang-format on
+
+// Enough for a server that says nothing; none of the others may need to wait for the end of it.
+constexpr Patience kLittle = std::chrono::milliseconds(400);
+constexpr Patience kPlenty = std::chrono::minutes(5);
+
+template <class Value>
+std::string seen(const Cancellable<Value>& answer) {
+  return answer ? "" : answer.cancelled() ? "cancelled" : answer.reason();
+}
+
+std::string seen(const Cancellable<Submission>& job) {
+  return job ? job->notReadBack : seen<Submission>(job);
+}
+
+class ServerFaults : public testing::TestWithParam<Row> {
+ protected:
+  std::string wish() {
+    CancelFlag cancel = false;
+    const bool isSilent = std::string_view(GetParam().seen).ends_with(SILENT);
+    const Patience patience = isSilent ? kLittle : kPlenty;
+    switch (GetParam().wish) {
+      case Wish::seePrinters:
+        return seen(readPrinters(cancel, patience));
+      case Wish::seeState:
+        return seen(readPrinterState("photo", cancel, patience));
+      case Wish::seeSettings:
+        return seen(readPrinterPPD("photo", cancel, patience));
+      case Wish::print:
+        return seen(submitJob(job(), {}, cancel, {}, patience));
+      case Wish::cancel:
+        return seen(submitJob(
+            job(), {}, cancel, [&](const Progress&) { cancel = true; }, patience));
+    }
+    return "";
+  }
+
+  JobRequest job() const {
+    JobRequest request;
+    request.printer = "photo";
+    request.document = place.write("card.pdf", "%PDF-1.4 " + std::string(300'000, 'x'));
+    return request;
+  }
+
+  test::TemporaryFolder place;
+  FaultyServer server{GetParam().fault, GetParam().request};
+};
+
+TEST_P(ServerFaults, AreSeenAndLeaveNothingBehind) {
+  std::string expected = GetParam().seen;
+  if (const std::size_t at = expected.find('@'); at != std::string::npos)
+    expected.replace(at, 1, server.path());
+  EXPECT_EQ(wish(), expected);
+  EXPECT_EQ(server.unfinishedJobs().size(), static_cast<std::size_t>(GetParam().left));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ServerFaults, testing::ValuesIn(kRows),
+                         [](const auto& row) { return row.param.name; });
+
+// The server of the table is a good one where it does not misbehave.
+TEST(FaultyServer, DoesWellWhatItIsNotToldToSpoil) {
+  const test::TemporaryFolder place;
+  FaultyServer server(Fault::silent, kTakeBack);
+  const auto printers = readPrinters();
+  ASSERT_TRUE(printers) << printers.reason();
+  ASSERT_EQ(printers->size(), 1u);
+  EXPECT_EQ(printers->front().name, "photo");
+  EXPECT_TRUE(readPrinterState("photo"));
+  JobRequest request;
+  request.printer = "photo";
+  request.document = place.write("card.pdf", "%PDF-1.4");
+  EXPECT_EQ(seen(submitJob(request, {})), "");
+  EXPECT_TRUE(server.unfinishedJobs().empty());
+}
+
+}  // namespace
+}  // namespace tavrin
