@@ -9,6 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "host/document/AnnouncedSize.h"
 #include "host/document/DocumentFormat.h"
 #include "host/document/DocumentName.h"
 #include "host/document/ReadWhenThere.h"
@@ -38,6 +39,8 @@ Cancellable<Document> Document::open(const std::filesystem::path& path, const Ca
   Document document(std::move(opened), documentName(path));
   if (const char* kind = document.otherKind())
     return about(place, "is a " + std::string(kind) + ", not a file");
+  document.bytesInAll =
+      isInput ? RereadableInput::standardInput().size() : announcedSize(document.file.get());
   const auto looked = document.lookAhead(cancel);
   if (!looked) return looked.why();
   if (document.start.empty()) return about(place, "is empty");
@@ -51,10 +54,8 @@ const char* Document::otherKind() {
   struct stat status {};
   if (fstat(file ? file.get() : STDIN_FILENO, &status) != 0 || S_ISDIR(status.st_mode))
     return "folder";
-  if (!file || S_ISFIFO(status.st_mode)) return nullptr;
-  if (!S_ISREG(status.st_mode)) return "device";
-  bytesInAll = static_cast<std::uint64_t>(status.st_size);
-  return nullptr;
+  if (!file || S_ISFIFO(status.st_mode) || S_ISREG(status.st_mode)) return nullptr;
+  return "device";
 }
 
 Cancellable<Done> Document::lookAhead(const CancelFlag& cancel) {
@@ -76,14 +77,22 @@ Cancellable<Done> Document::readAll(const Taker& take, const CancelFlag& cancel,
   Progress read{0, bytesInAll};
   for (std::span<const char> piece = start; !piece.empty();) {
     if (cancel) return Cancelled{};
-    if (auto taken = take(piece); !taken) return taken;
     read.done += piece.size();
+    if (isLongerThanItWas(read.done)) return hasChanged(read.done);
+    if (auto taken = take(piece); !taken) return taken;
     if (progress) progress(read);
     const auto more = readOn(buffer, cancel);
     if (!more) return more.why();
     piece = std::span(buffer).first(*more);
   }
+  if (read.done < bytesInAll) return hasChanged(read.done);
   return Done{};
+}
+
+Failure Document::hasChanged(std::uint64_t bytes) const {
+  return {"The document " + quoted(itsName) + " changed while it was read: it had " +
+          std::to_string(bytesInAll) + " bytes when it was opened, but " + std::to_string(bytes) +
+          " were read. Print it again when it is complete."};
 }
 
 Cancellable<std::size_t> Document::readOn(std::span<char> buffer, const CancelFlag& cancel) {

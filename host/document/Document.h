@@ -26,11 +26,12 @@ class Document {
   const std::string& name() const { return itsName; }
   // The MIME type that the first bytes show. May take a look into the database of the desktop.
   std::string format() const { return formatOf(start); }
-  // Its size in bytes; 0 for a pipe.
+  // Its size in bytes when it was opened; 0 where nobody knows it, as of a pipe.
   std::uint64_t size() const { return bytesInAll; }
 
   // Hands all its bytes to somebody who takes them, a piece at a time, and tells the progress after
-  // each. Ends early when reading fails, or when a piece is not taken.
+  // each. Ends early when reading fails, or when a piece is not taken. It is a failure, too, when
+  // there are more or fewer bytes than its size: a document that somebody is still writing.
   using Taker = std::function<Cancellable<Done>(std::span<const char> piece)>;
   Cancellable<Done> readAll(const Taker& take, const CancelFlag& cancel,
                             const ProgressCallback& progress);
@@ -41,6 +42,8 @@ class Document {
   const char* otherKind();
   Cancellable<Done> lookAhead(const CancelFlag& cancel);
   Cancellable<std::size_t> readOn(std::span<char> buffer, const CancelFlag& cancel);
+  bool isLongerThanItWas(std::uint64_t bytes) const { return bytesInAll > 0 && bytes > bytesInAll; }
+  Failure hasChanged(std::uint64_t bytes) const;
 
   FileDescriptor file;       // none for standard input
   std::uint64_t offset = 0;  // what has been read

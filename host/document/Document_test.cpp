@@ -1,10 +1,13 @@
 #include "host/document/Document.h"
 
+#include <fcntl.h>
+#include <iostream>
 #include <sys/stat.h>
 #include <thread>
 
 #include <gtest/gtest.h>
 
+#include "host/document/DocumentName.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
@@ -54,6 +57,57 @@ TEST_F(DocumentTest, IsNotReadOnOnceAPieceWasNotTaken) {
   };
   EXPECT_EQ(document->readAll(full, neverCancelled(), {}).reason(), "no room");
   EXPECT_EQ(pieces, 1);
+}
+
+// Somebody writes the file anew while it is read; tells what became of reading it.
+class ChangingDocumentTest : public DocumentTest {
+ protected:
+  static std::string readWhileItBecomes(std::uintmax_t size, const fs::path& document,
+                                        const fs::path& file) {
+    auto opened = Document::open(document);
+    if (!opened) return opened.reason();
+    const auto rewrite = [&](std::span<const char>) {
+      fs::resize_file(file, size);
+      return Done{};
+    };
+    const auto end = opened->readAll(rewrite, neverCancelled(), {});
+    return end ? "read" : end.reason();
+  }
+
+  const fs::path file = place.write("card.pdf", std::string(100000, 'x'));
+};
+
+TEST_F(ChangingDocumentTest, IsNotTakenForWhole) {
+  EXPECT_EQ(readWhileItBecomes(600, file, file),
+            "The document \"card.pdf\" changed while it was read: it had 100000 bytes when it was "
+            "opened, but 600 were read. Print it again when it is complete.");
+}
+
+TEST_F(ChangingDocumentTest, IsNotReadForEverWhileItGrows) {
+  const std::string end = readWhileItBecomes(3000000, file, file);
+  EXPECT_NE(end.find("it had 100000 bytes when it was opened, but 131"), std::string::npos) << end;
+}
+
+TEST_F(ChangingDocumentTest, IsNotTakenForWholeFromStandardInputEither) {
+  const auto readStandardInput = [&] {
+    dup2(open(file.c_str(), O_RDONLY), STDIN_FILENO);
+    lseek(STDIN_FILENO, 1000, SEEK_SET);  // the command before has read so much
+    std::cerr << readWhileItBecomes(2000, kStandardInput, file);
+    std::_Exit(0);
+  };
+  EXPECT_EXIT(
+      readStandardInput(), testing::ExitedWithCode(0),
+      "\"\\(stdin\\)\" changed while it was read: it had 99000 bytes when it was opened, but "
+      "1000 were read");
+}
+
+TEST_F(DocumentTest, IsReadToItsEndWhereItsSizeIsUnknown) {
+  auto document = Document::open("/proc/self/status");
+  ASSERT_TRUE(document) << document.reason();
+  EXPECT_EQ(document->size(), 0u);
+  std::string read;
+  EXPECT_TRUE(document->readAll(appendTo(read), neverCancelled(), {}));
+  EXPECT_NE(read.find("VmRSS"), std::string::npos);
 }
 
 TEST_F(DocumentTest, SaysWhatCannotBePrinted) {

@@ -6,20 +6,24 @@
 #include <mutex>
 #include <span>
 
+#include "host/document/AnnouncedSize.h"
 #include "host/support/Cancellable.h"
 
 namespace tavrin {
 
-// A pipe that can be read again from its start: what has come is kept in a nameless temporary
-// file, so that a job that failed can be sent once more. Where there is no room for that, it can
-// still be read once. Any thread may read.
+// Input that can be read again from its start: what has come is kept in a nameless temporary file,
+// so that a job that failed can be sent once more. Where there is no room for that, it can still be
+// read once. Any thread may read.
 class RereadableInput {
  public:
   // Borrows the open file.
-  explicit RereadableInput(int descriptor) : input(descriptor) {}
+  explicit RereadableInput(int descriptor)
+      : input(descriptor), bytesInAll(announcedSize(descriptor)) {}
   // The program's standard input.
   static RereadableInput& standardInput();
 
+  // The size that it had in the beginning, as announcedSize says.
+  std::uint64_t size() const { return bytesInAll; }
   // Reads the bytes that follow the first `offset` bytes, as readWhenThere does. The reason also
   // when bytes are wanted again that were not kept.
   Cancellable<std::size_t> read(std::uint64_t offset, std::span<char> buffer,
@@ -36,8 +40,9 @@ class RereadableInput {
 
   std::mutex mutex;
   int input;
+  std::uint64_t bytesInAll;
   std::unique_ptr<std::FILE, Close> kept;
-  std::uint64_t takenBytes = 0;  // from the pipe, so far
+  std::uint64_t takenBytes = 0;  // from the input, so far
   std::uint64_t keptBytes = 0;   // of them: the first ones, all of them unless keeping failed
 };
 

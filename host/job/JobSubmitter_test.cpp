@@ -173,6 +173,18 @@ TEST_F(JobSubmitterTest, ACancelledJobIsCancelledOnTheServer) {
   EXPECT_EQ(jobState(1), IPP_JSTATE_CANCELED);
 }
 
+TEST_F(JobSubmitterTest, AJobWhoseDocumentShrinksIsTakenBack) {
+  cups.stopQueue(kQueue);
+  const JobRequest job = request("%PDF-1.4 " + std::string(1 << 20, 'x'));
+  const auto shrink = [&](const Progress&) { std::filesystem::resize_file(job.document, 600); };
+  const auto submission = submitJob(job, {}, neverCancelled(), shrink);
+  ASSERT_FALSE(submission);
+  EXPECT_EQ(submission.reason(),
+            "The document \"card.pdf\" changed while it was read: it had 1048585 bytes when it was "
+            "opened, but 600 were read. Print it again when it is complete.");
+  EXPECT_EQ(jobState(1), IPP_JSTATE_CANCELED);
+}
+
 class SilentServerJobTest : public SilentServerTest {
  protected:
   const JobRequest request = requestFor(place.write("a.txt", "hello"));

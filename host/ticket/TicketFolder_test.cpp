@@ -100,6 +100,16 @@ TEST_F(TicketFolderTest, LeavesNothingBehindWhenItFails) {
   EXPECT_EQ(entries(), 0u);
 }
 
+TEST_F(TicketFolderTest, LeavesNothingBehindWhenTheDocumentShrinks) {
+  request.document = place.write("card.pdf", std::string(100000, 'x'));
+  const auto shrink = [this](const Progress&) { fs::resize_file(request.document, 600); };
+  const auto folder = writeTicketFolder(output, request, options, neverCancelled(), shrink);
+  ASSERT_FALSE(folder);
+  EXPECT_NE(folder.reason().find("\"card.pdf\" changed while it was read"), std::string::npos)
+      << folder.reason();
+  EXPECT_EQ(entries(), 0u);
+}
+
 TEST_F(TicketFolderTest, NamesAnOutputFolderThatCannotBe) {
   const auto file = place.write("out/file", "in the way");
   const auto folder = writeTicketFolder(file, request, options);
