@@ -34,16 +34,32 @@ bool isSequence(std::string_view bytes) {
   return character >= kSmallest[bytes.size()] && character <= 0x10FFFF && !isSurrogate;
 }
 
+// The number of bytes in the character that they begin with; 0 where they begin with none.
+std::size_t characterLength(std::string_view bytes) {
+  const std::size_t length = sequenceLength(static_cast<unsigned char>(bytes[0]));
+  const bool isWhole = length > 0 && length <= bytes.size();
+  return isWhole && isSequence(bytes.substr(0, length)) ? length : 0;
+}
+
 }  // namespace
 
 bool isUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
-    const std::size_t length = sequenceLength(static_cast<unsigned char>(bytes[0]));
-    if (length == 0 || length > bytes.size()) return false;
-    if (!isSequence(bytes.substr(0, length))) return false;
+    const std::size_t length = characterLength(bytes);
+    if (length == 0) return false;
     bytes.remove_prefix(length);
   }
   return true;
+}
+
+std::string validUtf8(std::string_view bytes) {
+  std::string text;
+  while (!bytes.empty()) {
+    const std::size_t length = characterLength(bytes);
+    text += length > 0 ? bytes.substr(0, length) : "\uFFFD";
+    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return text;
 }
 
 std::string_view wholeCharacters(std::string_view bytes) {

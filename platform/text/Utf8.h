@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace tavrin {
@@ -8,6 +9,9 @@ namespace tavrin {
 // forms, no surrogates, nothing above U+10FFFF. True of the empty text. Texts from files are
 // checked with this before anything shows or compares them.
 bool isUtf8(std::string_view bytes);
+
+// The same text in UTF-8 throughout: each byte that is no part of a character becomes U+FFFD.
+std::string validUtf8(std::string_view bytes);
 
 // The bytes of a text in UTF-8 that was cut short, without the character that the cut went through.
 std::string_view wholeCharacters(std::string_view bytes);

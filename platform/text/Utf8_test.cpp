@@ -27,6 +27,13 @@ TEST(Utf8, RefusesOverlongFormsSurrogatesAndWhatIsBeyondUnicode) {
   }
 }
 
+TEST(Utf8, IsMadeValidByteByByte) {
+  EXPECT_EQ(validUtf8("d\u00FCnn \u65E5 \U0001F5A8"), "d\u00FCnn \u65E5 \U0001F5A8");
+  EXPECT_EQ(validUtf8("caf\xE9.pdf"), "caf\uFFFD.pdf");
+  EXPECT_EQ(validUtf8("\xE6\x97z\xC3"), "\uFFFD\uFFFDz\uFFFD");
+  EXPECT_EQ(validUtf8("\xFF\u00FC"), "\uFFFD\u00FC");
+}
+
 TEST(Utf8, DropsACharacterThatWasCut) {
   for (const std::string_view character : {"\u00FC", "\u65E5", "\U0001F5A8"}) {
     const std::string text = "a" + std::string(character);
