@@ -173,6 +173,20 @@ TEST_F(JobSubmitterTest, ACancelledJobIsCancelledOnTheServer) {
   EXPECT_EQ(jobState(1), IPP_JSTATE_CANCELED);
 }
 
+TEST_F(JobSubmitterTest, ANameIsMadeFitForThePrintServer) {
+  const auto titleOf = [&](const std::string& title, const std::string& document) {
+    JobRequest job = requestFor(place.write(document, "%PDF-1.4 a card"));
+    job.title = title;
+    const auto submission = submitJob(job, {});
+    return submission ? cups.waitForJob(submission->jobId).title : submission.reason();
+  };
+  EXPECT_EQ(titleOf("", "caf\xE9.pdf"), "caf\uFFFD.pdf");
+  EXPECT_EQ(titleOf("", "two\nlines.pdf"), "two lines.pdf");
+  EXPECT_EQ(titleOf("", "\x1B[31mred.pdf"), " [31mred.pdf");
+  EXPECT_EQ(titleOf(std::string(300, 'x'), "card.pdf"), std::string(255, 'x'));
+  EXPECT_EQ(titleOf("caf\xE9\ttwo", "card.pdf"), "caf\uFFFD two");
+}
+
 TEST_F(JobSubmitterTest, AJobWhoseDocumentShrinksIsTakenBack) {
   cups.stopQueue(kQueue);
   const JobRequest job = request("%PDF-1.4 " + std::string(1 << 20, 'x'));

@@ -3,7 +3,7 @@
 namespace tavrin {
 
 std::string jobTitle(const JobRequest& request) {
-  return request.title.empty() ? documentName(request.document) : request.title;
+  return request.title.empty() ? documentName(request.document) : nameForPrinting(request.title);
 }
 
 }  // namespace tavrin

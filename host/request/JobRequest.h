@@ -15,13 +15,13 @@ struct JobRequest {
   std::string printer;   // the queue; empty for a printer without one
   std::string instance;  // of the queue; empty for the queue itself
   int copies = 1;
-  std::string title;       // empty: the document's name
+  std::string title;       // as the person gave it; empty: the document's name
   std::string pageRanges;  // "1-3,5"; empty: all pages
   OptionList options;
   std::filesystem::path document = kStandardInput;
 };
 
-// The name that the job gets: its title, else the document's.
+// The name that the job gets: its title, as nameForPrinting makes it, else the document's.
 std::string jobTitle(const JobRequest& request);
 
 }  // namespace tavrin

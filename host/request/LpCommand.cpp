@@ -31,7 +31,7 @@ std::string lpCommand(const JobRequest& request, const OptionList& options) {
   if (!request.printer.empty())
     command += " -d " + shellQuoted(destinationName(request.printer, request.instance));
   if (request.copies > 1) command += " -n " + std::to_string(request.copies);
-  if (!request.title.empty()) command += " -t " + shellQuoted(request.title);
+  if (!request.title.empty()) command += " -t " + shellQuoted(jobTitle(request));
   for (const auto& [name, value] : options)
     if (!equalIgnoringCase(name, kCopiesOption))
       command += " -o " + shellQuoted(name + "=" + escaped(value));

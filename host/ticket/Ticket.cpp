@@ -20,7 +20,7 @@ std::string ticketText(const JobRequest& request, const std::string& document,
   JobRequest inFolder = request;
   inFolder.document = document;
   ticket["command"] = lpCommand(inFolder, options);
-  // A title or file name may hold any bytes, JSON may not.
+  // An option may hold any bytes, JSON may not.
   return ticket.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

@@ -1,5 +1,6 @@
 #include "host/ticket/TicketFolder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -28,14 +29,14 @@ Failure cannotWrite(const fs::path& output) {
 // A folder's name for a title: no path, nothing hidden, not too long.
 std::string folderName(const std::string& title) {
   std::string name(wholeCharacters(std::string_view(title).substr(0, kLongestName)));
-  for (char& c : name)
-    if (c == '/' || static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = '_';
+  std::ranges::replace(name, '/', '_');
   if (name.empty() || name.front() == '.') name.insert(0, "job");
   return name;
 }
 
+// For the file that the ticket's command prints: lp would take "-" for standard input.
 std::string nameInFolder(const fs::path& document) {
-  if (document == kStandardInput) return "document";
+  if (document.filename() == kStandardInput) return "document";
   const std::string name = documentName(document);
   return name == kTicketName ? "document-" + name : name;
 }

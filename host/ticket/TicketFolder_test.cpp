@@ -86,6 +86,39 @@ TEST_F(TicketFolderTest, TakesADocumentThatIsNamedLikeTheTicket) {
   EXPECT_EQ(test::textOf(*folder / "document-ticket.json"), "%PDF-1.4 odd");
 }
 
+// What the ticket says; it is JSON whatever the names are made of.
+nlohmann::json ticketIn(const fs::path& folder) {
+  return nlohmann::json::parse(test::textOf(folder / "ticket.json"));
+}
+
+TEST_F(TicketFolderTest, NamesTheDocumentAsItIsInTheFolder) {
+  request.title = "";
+  for (const auto& [name, nameThere] :
+       {std::pair("caf\xE9.pdf", "caf\uFFFD.pdf"), std::pair("two\nlines.pdf", "two lines.pdf"),
+        std::pair("\x1B[31mred.pdf", " [31mred.pdf")}) {
+    request.document = place.write(name, "%PDF-1.4 card");
+    const auto folder = writeTicketFolder(output, request, {});
+    ASSERT_TRUE(folder) << folder.reason();
+    EXPECT_EQ(*folder, output / nameThere);
+    EXPECT_EQ(test::textOf(*folder / nameThere), "%PDF-1.4 card");
+    EXPECT_EQ(ticketIn(*folder)["title"], nameThere);
+    EXPECT_EQ(ticketIn(*folder)["document"], nameThere);
+    EXPECT_EQ(ticketIn(*folder)["command"], "lp -n 2 -- '" + std::string(nameThere) + "'");
+  }
+}
+
+TEST_F(TicketFolderTest, GivesACommandThatThePrintSystemTakes) {
+  request.title = std::string(300, 'x') + "\n\xE9";
+  auto folder = writeTicketFolder(output, request, {});
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(ticketIn(*folder)["command"],
+            "lp -n 2 -t '" + std::string(255, 'x') + "' -- 'card.pdf'");
+  request.document = place.write("-", "%PDF-1.4 card");
+  folder = writeTicketFolder(output, request, {});
+  ASSERT_TRUE(folder) << folder.reason();
+  EXPECT_EQ(ticketIn(*folder)["document"], "document") << "lp takes - for standard input";
+}
+
 TEST_F(TicketFolderTest, LeavesNothingBehindWhenCancelled) {
   CancelFlag cancel = false;
   const auto folder =
