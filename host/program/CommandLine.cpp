@@ -5,6 +5,8 @@
 #include <QCommandLineParser>
 
 #include "host/request/JobOptions.h"
+#include "platform/qt/base/ArgumentBytes.h"
+#include "platform/text/Utf8.h"
 
 namespace tavrin {
 
@@ -20,8 +22,8 @@ constexpr const char* kOption = "o";
 constexpr const char* kHelp = "help";
 constexpr const char* kVersion = "version";
 
-Failure failure(const QString& sentence) {
-  return {(sentence + " See tavrin-print --help.").toStdString()};
+Failure failure(const std::string& sentence) {
+  return {validUtf8(sentence) + " See tavrin-print --help."};
 }
 
 // The number of copies; 0 if the text is not a possible number of copies.
@@ -33,17 +35,17 @@ int copiesFrom(const QString& text) {
 JobRequest jobFrom(const QCommandLineParser& parser) {
   JobRequest job;
   const QString destination = parser.value(kPrinter);
-  job.printer = destination.section('/', 0, 0).toStdString();
-  job.instance = destination.section('/', 1).toStdString();
+  job.printer = bytesOf(destination.section('/', 0, 0));
+  job.instance = bytesOf(destination.section('/', 1));
   if (parser.isSet(kCopies)) job.copies = copiesFrom(parser.value(kCopies));
-  job.title = parser.value(kTitle).toStdString();
+  job.title = bytesOf(parser.value(kTitle));
   for (const QString& text : parser.values(kOption))
-    for (const auto& [name, value] : optionsFromArgument(text.toStdString()))
+    for (const auto& [name, value] : optionsFromArgument(bytesOf(text)))
       setOption(job.options, name, value);
   // An explicit -n 1 overrides the number that is saved for the printer, too.
   if (parser.isSet(kCopies)) setOption(job.options, kCopiesOption, std::to_string(job.copies));
   if (const QStringList documents = parser.positionalArguments(); !documents.isEmpty())
-    job.document = documents.front().toStdString();
+    job.document = bytesOf(documents.front());
   return job;
 }
 
@@ -51,31 +53,30 @@ CommandLine filledIn(const QCommandLineParser& parser) {
   CommandLine line;
   line.job = jobFrom(parser);
   line.namesDocument = !parser.positionalArguments().isEmpty();
-  line.ppd = parser.value(kPPD).toStdString();
+  line.ppd = bytesOf(parser.value(kPPD));
   line.sample = parser.isSet(kSample);
-  if (parser.isSet(kOutput)) line.output = parser.value(kOutput).toStdString();
+  if (parser.isSet(kOutput)) line.output = bytesOf(parser.value(kOutput));
   return line;
 }
 
-// A number of copies that is impossible, as it was written; null if there is none.
-QString wrongCopies(const QCommandLineParser& parser) {
+// A number of copies that is impossible, as it was written; absent if there is none.
+OptString wrongCopies(const QCommandLineParser& parser) {
   QStringList numbers = parser.values(kCopies);
   if (const OptString option = optionValue(jobFrom(parser).options, kCopiesOption))
-    numbers << QString::fromStdString(*option);
+    numbers << charactersOf({*option});
   const auto wrong = std::ranges::find_if(numbers, [](const QString& n) { return !copiesFrom(n); });
-  return wrong == numbers.end() ? QString() : *wrong;
+  return wrong == numbers.end() ? OptString() : bytesOf(*wrong);
 }
 
 // What is wrong with arguments that can each be read; empty when nothing is.
-QString disagreement(const QCommandLineParser& parser) {
+std::string disagreement(const QCommandLineParser& parser) {
   if (parser.positionalArguments().size() > 1) return "Only one document can be printed at a time.";
-  if (const QString wrong = wrongCopies(parser); !wrong.isNull())
-    return QString("“%1” is not a number of copies; a job has 1 to %2 copies.")
-        .arg(wrong)
-        .arg(kMostCopies);
+  if (const OptString wrong = wrongCopies(parser))
+    return "“" + *wrong + "” is not a number of copies; a job has 1 to " +
+           std::to_string(kMostCopies) + " copies.";
   for (const char* name : {kPrinter, kPPD, kOutput})
     if (parser.isSet(name) && parser.value(name).isEmpty())
-      return QString("%1%2 needs a value.").arg(*(name + 1) ? "--" : "-", name);
+      return std::string(*(name + 1) ? "--" : "-") + name + " needs a value.";
   if (parser.isSet(kPPD) + parser.isSet(kSample) + parser.isSet(kPrinter) > 1)
     return "Only one of -d, --ppd and --sample can be given.";
   if (parser.isSet(kOutput) && !parser.isSet(kPPD) && !parser.isSet(kSample))
@@ -93,12 +94,13 @@ void addAll(QCommandLineParser& parser) {
 
 }  // namespace
 
-Result<CommandLine> parseCommandLine(const QStringList& arguments) {
+Result<CommandLine> parseCommandLine(const std::vector<std::string>& arguments) {
   QCommandLineParser parser;
   addAll(parser);
   // The parser expects the program's name in front.
-  if (!parser.parse(QStringList{"tavrin-print"} + arguments)) return failure(parser.errorText());
-  if (const QString problem = disagreement(parser); !problem.isEmpty()) return failure(problem);
+  if (!parser.parse(QStringList{"tavrin-print"} + charactersOf(arguments)))
+    return failure(bytesOf(parser.errorText()));
+  if (const std::string problem = disagreement(parser); !problem.empty()) return failure(problem);
   CommandLine line = filledIn(parser);
   if (parser.isSet(kVersion)) line.wish = CommandLine::Wish::version;
   if (parser.isSet(kHelp)) line.wish = CommandLine::Wish::help;

@@ -2,8 +2,7 @@
 
 #include <filesystem>
 #include <string>
-
-#include <QStringList>
+#include <vector>
 
 #include "host/request/JobRequest.h"
 #include "platform/text/Result.h"
@@ -23,8 +22,9 @@ struct CommandLine {
   std::filesystem::path output = ".";  // --output
 };
 
-// Reads the arguments without the program's name; or says in a sentence what is wrong with them.
-Result<CommandLine> parseCommandLine(const QStringList& arguments);
+// Reads the arguments without the program's name, whatever bytes they are made of; or says in a
+// sentence, in UTF-8, what is wrong with them.
+Result<CommandLine> parseCommandLine(const std::vector<std::string>& arguments);
 
 // The text of --help.
 std::string usage();

@@ -60,6 +60,12 @@ TEST(Program, NamesADocumentThatCannotBePrinted) {
   expectRefusal("--sample " + place.path().string(), 3, place.path().filename().string());
 }
 
+TEST(Program, TakesADocumentWhoseNameIsNotUtf8) {
+  const test::TemporaryFolder place;
+  const std::string document = place.write("caf\xE9.pdf", "%PDF-1.4 a card").string();
+  expectRefusal("--sample " + document, 3, "There is no display");
+}
+
 TEST(Program, NamesABrokenPrinterDescription) {
   const test::TemporaryFolder place;
   const std::string ppd = place.write("broken.ppd", "*PPD-Adobe: \"4.3\"\nno keyword\n").string();

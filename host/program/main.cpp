@@ -130,9 +130,7 @@ int print(CommandLine line, int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QStringList arguments;
-  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
-  const Result<CommandLine> line = parseCommandLine(arguments);
+  const Result<CommandLine> line = parseCommandLine({argv + 1, argv + argc});
   if (!line) return complain(kUsage, line.reason());
   switch (line->wish) {
     case CommandLine::Wish::help:

@@ -2,7 +2,9 @@
 
 #include <QCommandLineParser>
 
+#include "platform/qt/base/ArgumentBytes.h"
 #include "platform/text/Quoted.h"
+#include "platform/text/Utf8.h"
 #include "replay/commands/ReplayCommand.h"
 
 namespace tavrin {
@@ -24,31 +26,30 @@ void describe(QCommandLineParser& parser) {
   parser.addPositionalArgument("SCRIPT", "The script (default, or -: standard input).", "[SCRIPT]");
 }
 
-std::filesystem::path pathOf(const QString& text) { return text.toStdString(); }
-
 Result<Options> optionsFrom(const QCommandLineParser& parser) {
   for (const char* name : {kBundle, kRoot, kScreenshots})
     if (parser.isSet(name) && parser.value(name).isEmpty())
       return Failure{std::string("The option --") + name + " needs the name of a folder."};
   const QStringList scripts = parser.positionalArguments();
   if (scripts.size() > 1)
-    return Failure{"Only one script can be played; " + quoted(scripts[1].toStdString()) +
+    return Failure{"Only one script can be played; " + quoted(validUtf8(bytesOf(scripts[1]))) +
                    " is one too many."};
   Options options;
-  options.bundle = pathOf(parser.value(kBundle));
-  options.root = pathOf(parser.value(kRoot));
-  options.screenshots = pathOf(parser.value(kScreenshots));
-  if (!scripts.isEmpty() && scripts[0] != "-") options.script = pathOf(scripts[0]);
+  options.bundle = bytesOf(parser.value(kBundle));
+  options.root = bytesOf(parser.value(kRoot));
+  options.screenshots = bytesOf(parser.value(kScreenshots));
+  if (!scripts.isEmpty() && scripts[0] != "-") options.script = bytesOf(scripts[0]);
   options.help = parser.isSet("help");
   return options;
 }
 
 }  // namespace
 
-Result<Options> parseOptions(const QStringList& arguments) {
+Result<Options> parseOptions(const std::vector<std::string>& arguments) {
   QCommandLineParser parser;
   describe(parser);
-  if (!parser.parse(arguments)) return Failure{parser.errorText().toStdString()};
+  if (!parser.parse(charactersOf(arguments)))
+    return Failure{validUtf8(bytesOf(parser.errorText()))};
   return optionsFrom(parser);
 }
 

@@ -2,8 +2,7 @@
 
 #include <filesystem>
 #include <string>
-
-#include <QStringList>
+#include <vector>
 
 #include "platform/text/Result.h"
 
@@ -18,9 +17,9 @@ struct Options {
   bool help = false;
 };
 
-// Reads the arguments, the program's name first. The reason names the argument that cannot be
-// understood.
-Result<Options> parseOptions(const QStringList& arguments);
+// Reads the arguments, the program's name first, whatever bytes they are made of. The reason, in
+// UTF-8, names the argument that cannot be understood.
+Result<Options> parseOptions(const std::vector<std::string>& arguments);
 
 // How to use the program, and the commands of a script.
 std::string helpText();

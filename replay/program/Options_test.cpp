@@ -5,8 +5,8 @@
 namespace tavrin {
 namespace {
 
-Result<Options> parsed(QStringList arguments) {
-  arguments.prepend("tavrin-replay");
+Result<Options> parsed(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), "tavrin-replay");
   return parseOptions(arguments);
 }
 
@@ -29,6 +29,17 @@ TEST(Options, ReadsFoldersAndScript) {
   EXPECT_EQ(options->script, "walk.jsonl");
 }
 
+TEST(Options, AreBytes) {
+  for (const std::string name : {"caf\xE9", "d\u00FCnn"}) {
+    const auto options = parsed({"--bundle", name, "--root=" + name, "--screenshots", name, name});
+    ASSERT_TRUE(options) << options.reason();
+    EXPECT_EQ(options->bundle, name);
+    EXPECT_EQ(options->root, name);
+    EXPECT_EQ(options->screenshots, name);
+    EXPECT_EQ(options->script, name);
+  }
+}
+
 TEST(Options, ADashIsStandardInput) {
   const auto options = parsed({"-"});
   ASSERT_TRUE(options);
@@ -42,6 +53,8 @@ TEST(Options, NamesWhatItCannotUnderstand) {
   const auto second = parsed({"one.jsonl", "two.jsonl"});
   ASSERT_FALSE(second);
   EXPECT_NE(second.reason().find("two.jsonl"), std::string::npos);
+  EXPECT_EQ(parsed({"--l\u00E4rm"}).reason(), "Unknown option 'l\u00E4rm'.");
+  EXPECT_NE(parsed({"one.jsonl", "caf\xE9"}).reason().find("\"caf\uFFFD\""), std::string::npos);
   const auto nameless = parsed({"--root", ""});
   ASSERT_FALSE(nameless);
   EXPECT_NE(nameless.reason().find("--root"), std::string::npos);

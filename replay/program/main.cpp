@@ -5,7 +5,6 @@
 #include <memory>
 
 #include <QApplication>
-#include <QFile>
 
 #include "host/panels/PlugInLoader.h"
 #include "host/panels/TrustedBundles.h"
@@ -109,9 +108,7 @@ int main(int argc, char** argv) {
   QApplication application(programNameOnly, argv);
   QApplication::setQuitOnLastWindowClosed(false);
 
-  QStringList arguments;
-  for (int i = 0; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
-  const auto options = parseOptions(arguments);
+  const auto options = parseOptions({argv, argv + argc});
   if (!options) return giveUp(options.reason() + " --help tells how.");
   if (options->help) {
     std::cout << helpText();

@@ -53,7 +53,8 @@ room(replay/commands     platform/text)
 room(replay/screen       platform/text platform/qt/base platform/qt/layout replay/commands)
 room(replay/session      ${CORE} platform/qt/base platform/qt/toolkit host/printer host/panels
                          replay/commands replay/screen)
-room(replay/program      ${CORE} platform/qt/toolkit host/panels replay/commands replay/session)
+room(replay/program      ${CORE} platform/qt/base platform/qt/toolkit host/panels replay/commands
+                         replay/session)
 room(replay/scripts)
 room(tests               ${ROOMS})
 
