@@ -9,6 +9,7 @@
 
 #include "host/panes/OptionControl.h"
 #include "host/panes/Widgets.h"
+#include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
 #include "platform/qt/base/ShownText.h"
 #include "platform/text/IgnoringCase.h"
@@ -40,7 +41,8 @@ std::vector<PPDSection> featureSections(const ppd_file_t& ppd,
   for (PPDSection section : sectionsOf(ppd)) {
     if (isInstalledOptions(section.keyword)) continue;
     std::erase_if(section.options, [&](const ppd_option_t* option) {
-      return option->num_choices == 0 || !seen.insert(option->keyword).second;
+      return option->num_choices == 0 || isJobSetting(option->keyword) ||
+             !seen.insert(option->keyword).second;
     });
     addPages(pages, section);
   }

@@ -42,8 +42,9 @@ class FeaturesPane : public Pane {
   QWidget* page = nullptr;  // the group that is shown
 };
 
-// The PPD's groups without those options and without the group of what is installed in the printer,
-// a very long group split into several; groups that are left empty are left out.
+// The PPD's groups without those options, those that are named like settings of a job, and the
+// group of what is installed in the printer; a very long group split into several; groups that are
+// left empty are left out.
 std::vector<PPDSection> featureSections(const ppd_file_t& ppd,
                                         const std::set<std::string>& shownElsewhere);
 

@@ -28,6 +28,11 @@ TEST(FeatureSections, LeaveOutWhatIsShownElsewhere) {
   EXPECT_TRUE(featureSections(*ppd, {"MediaType", "mirror", "FINISH"}).empty());
 }
 
+TEST(FeatureSections, LeaveOutWhatIsNamedLikeASettingOfTheJob) {
+  const PPDPtr ppd = makePPD({mirrorOption(), {"Number-Up", "PickOne", "4", {"1", "4"}}});
+  EXPECT_EQ(keywords(featureSections(*ppd, {})), std::vector<std::string>{"Mirror"});
+}
+
 TEST(FeatureSections, SplitAGroupThatNeverEnds) {
   std::vector<PPDOptionText> options;
   for (int i = 0; i < 150; ++i)

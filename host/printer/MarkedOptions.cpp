@@ -1,5 +1,6 @@
 #include "host/printer/MarkedOptions.h"
 
+#include "host/printer/JobSettings.h"
 #include "host/support/CupsOptions.h"
 #include "host/support/TextLists.h"
 #include "platform/text/IgnoringCase.h"
@@ -22,6 +23,7 @@ void appendUnmarked(const ppd_group_t& group, std::vector<std::string>& keywords
 void appendMarked(const ppd_group_t& group, OptionList& options) {
   if (isInstalledOptions(group.name)) return;
   for (const ppd_option_t& option : optionsOf(group)) {
+    if (isJobSetting(option.keyword)) continue;
     const std::string choices = markedChoices(option);
     // The mark does not hold a value of the person's own; the option that they gave does.
     if (!choices.empty() && !isCustomChoice(choices)) setOption(options, option.keyword, choices);
@@ -107,6 +109,7 @@ std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options)
   cupsMarkOptions(&ppd, all.count(), all.data());
   std::vector<std::string> problems;
   for (const auto& [name, value] : options) {
+    if (isJobSetting(name)) continue;
     const ppd_option_t* option = ppdFindOption(&ppd, name.c_str());
     if (option && !markValue(ppd, *option, value))
       problems.push_back("The printer's option " + quoted(option->keyword) + " has no choice " +

@@ -41,12 +41,12 @@ std::vector<std::string> optionsWithoutMark(const ppd_file_t& ppd);
 std::string markedChoices(const ppd_option_t& option);
 
 // The PPD's marked choices as options, in the order of the file, without what is installed in the
-// printer.
+// printer and without options that are named like settings of a job.
 OptionList markedOptions(ppd_file_t& ppd);
 
 // Marks the choices that options name in a PPD: the start of a dialog from a command line or a
 // printer instance. One sentence for each option of the PPD whose value it does not have; options
-// that are not the PPD's are left alone.
+// that are not the PPD's, and settings of the job, are left alone.
 std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options);
 
 }  // namespace tavrin

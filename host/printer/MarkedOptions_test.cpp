@@ -31,6 +31,12 @@ TEST(MarkedOptions, NamesAChoiceThatThePrinterLacks) {
             Problems{"The printer's option \"MediaType\" has no choice \"Parchment\"."});
 }
 
+TEST(MarkedOptions, AreWithoutSettingsOfTheJob) {
+  const PPDPtr ppd = makePPD({mirrorOption(), {"page-ranges", "PickOne", "1", {"1", "3"}}});
+  EXPECT_EQ(markOptions(*ppd, {{"Page-Ranges", "2"}, {"Mirror", "True"}}), Problems{});
+  EXPECT_EQ(markedOptions(*ppd), (OptionList{{"Mirror", "True"}}));
+}
+
 TEST(MarkedOptions, TakesSeveralChoicesWhereThePrinterDoes) {
   const PPDPtr ppd = officePPD();
   EXPECT_EQ(markOptions(*ppd, {{"Staple", "Right,Top"}}), Problems{});

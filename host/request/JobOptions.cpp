@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
 #include "ppd/PPDKeywords.h"
 
@@ -19,7 +20,7 @@ void removeWhatMarksSay(OptionList& options, const OptionList& marked) {
 void removeUnmarked(OptionList& options, ppd_file_t& ppd, const OptionList& marked) {
   std::erase_if(options, [&](const auto& option) {
     const auto& [name, value] = option;
-    return ppdFindOption(&ppd, name.c_str()) && !optionValue(marked, name) &&
+    return !isJobSetting(name) && ppdFindOption(&ppd, name.c_str()) && !optionValue(marked, name) &&
            !isCustomChoice(value);
   });
 }

@@ -40,6 +40,21 @@ TEST(JobOptions, SendsNothingWhereEveryMarkWasTakenAway) {
   EXPECT_EQ(optionValue(options, "job-hold-until"), "night");
 }
 
+TEST(JobOptions, LeaveSettingsOfTheJobToThePerson) {
+  const PPDPtr ppd = makePPD({mirrorOption(),
+                              {"page-ranges", "PickOne", "1", {"1", "3"}},
+                              {"Number-Up", "PickOne", "4", {"1", "4"}},
+                              {"raw", "Boolean", "True", {"True", "False"}},
+                              {"copies", "PickOne", "9", {"1", "9"}}});
+  EXPECT_EQ(jobOptions({}, ppd.get()), (OptionList{{"Mirror", "False"}}));
+  JobRequest request;
+  request.options = {{"number-up", "2"}, {"raw", "true"}};
+  request.pageRanges = "2";
+  EXPECT_EQ(
+      jobOptions(request, ppd.get()),
+      (OptionList{{"number-up", "2"}, {"raw", "true"}, {"Mirror", "False"}, {"page-ranges", "2"}}));
+}
+
 TEST(JobOptions, KeepsTheRequestOfAPrinterWithoutAPPD) {
   JobRequest request;
   request.options = {{"media", "Letter"}};

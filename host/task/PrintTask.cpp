@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/request/JobOptions.h"
 #include "host/support/TextLists.h"
@@ -14,6 +15,14 @@ QString shown(const std::string& text) { return QString::fromStdString(text); }
 std::string inOneText(std::vector<std::string> sentences) {
   std::erase(sentences, "");
   return joined(sentences, " ");
+}
+
+std::string leftAlone(const ppd_file_t& ppd) {
+  const std::vector<std::string> keywords = optionsLeftAlone(ppd);
+  if (keywords.empty()) return {};
+  return "The printer's description has options named like settings of a job, which are left "
+         "alone: " +
+         joined(keywords) + ".";
 }
 
 std::string nameOf(const ppd_file_t& ppd) {
@@ -138,7 +147,7 @@ std::string PrintTask::printerName() const {
 void PrintTask::beginSession(const SharedPPD& ppd) {
   current = std::make_unique<PrinterSession>(ppd);
   const std::string problems = markPrinter();  // the panels look at the marks as they come up
-  tell({inOneText({problems, current->loadPanels()})});
+  tell({inOneText({problems, leftAlone(*ppd), current->loadPanels()})});
   enter(Stage::ready);
   emit sessionBegun();
 }

@@ -215,6 +215,31 @@ TEST_F(PrintTaskTest, KeepsACustomPaperAndWhatWasEmptied) {
   EXPECT_EQ(task.session()->marks().choice("Staple"), std::nullopt);
 }
 
+TEST_F(PrintTaskTest, LeavesSettingsOfTheJobToThePerson) {
+  PrivateCupsd cups;
+  const std::string ppd = ppdText({mirrorOption(),
+                                   {"page-ranges", "PickOne", "2", {"1", "2"}},
+                                   {"Number-Up", "PickOne", "4", {"1", "4"}}},
+                                  {"*cupsFilter2: \"application/pdf application/pdf 0 -\""});
+  cups.addQueue("office", place.write("office.ppd", ppd));
+  cups.run({"lpoptions", "-p", "office/plain", "-o", "Mirror=False"});
+  JobRequest job = request("office");
+  job.options = {{"page-ranges", "3"}};
+  PrintTask task(job);
+  task.usePrintServer();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_EQ(task.notice().text,
+            "The printer's description has options named like settings of a job, which are left "
+            "alone: page-ranges, Number-Up.");
+  task.choosePrinter(placeOf(task, "office/plain"));
+  EXPECT_EQ(task.notice().text, "") << "it is said once";
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done)) << task.notice().text;
+  const auto captured = cups.waitForJob(1);
+  EXPECT_TRUE(captured.has("page-ranges=3"));
+  EXPECT_FALSE(captured.has("Number-Up=4"));
+}
+
 TEST_F(PrintTaskTest, AsksAgainForSettingsThatCouldNotBeRead) {
   PrivateCupsd cups;
   addQueue(cups, "attic");
