@@ -6,6 +6,7 @@
 #include <string>
 #include <unistd.h>
 
+#include "host/document/NamelessFile.h"
 #include "host/document/ReadWhenThere.h"
 
 namespace tavrin {
@@ -27,7 +28,7 @@ Cancellable<std::size_t> RereadableInput::readAgain(std::uint64_t offset,
     return Failure{
         "cannot be sent again, as there was no room for a copy of it: run the command once more"};
   const auto there = std::min<std::uint64_t>(buffer.size(), keptBytes - offset);
-  const ssize_t bytes = pread(fileno(kept.get()), buffer.data(), there, static_cast<off_t>(offset));
+  const ssize_t bytes = pread(kept.get(), buffer.data(), there, static_cast<off_t>(offset));
   if (bytes <= 0) return Failure{std::string("cannot be read again: ") + std::strerror(errno)};
   return static_cast<std::size_t>(bytes);
 }
@@ -42,10 +43,10 @@ Cancellable<std::size_t> RereadableInput::readOn(std::span<char> buffer, const C
 
 void RereadableInput::keep(std::span<const char> bytes) {
   if (keptBytes < takenBytes) return;  // after a gap nothing can be read again
-  if (!kept) kept.reset(std::tmpfile());
+  if (!kept) kept = namelessFile();
   while (kept && !bytes.empty()) {
     const ssize_t written =
-        pwrite(fileno(kept.get()), bytes.data(), bytes.size(), static_cast<off_t>(keptBytes));
+        pwrite(kept.get(), bytes.data(), bytes.size(), static_cast<off_t>(keptBytes));
     if (written <= 0) return;
     keptBytes += static_cast<std::uint64_t>(written);
     bytes = bytes.subspan(static_cast<std::size_t>(written));

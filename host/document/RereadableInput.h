@@ -1,19 +1,18 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
-#include <memory>
 #include <mutex>
 #include <span>
 
 #include "host/document/AnnouncedSize.h"
 #include "host/support/Cancellable.h"
+#include "platform/files/FileDescriptor.h"
 
 namespace tavrin {
 
-// Input that can be read again from its start: what has come is kept in a nameless temporary file,
-// so that a job that failed can be sent once more. Where there is no room for that, it can still be
-// read once. Any thread may read.
+// Input that can be read again from its start: what has come is kept in a nameless temporary file
+// (namelessFile), so that a job that failed can be sent once more. Where there is no room for that,
+// it can still be read once. Any thread may read.
 class RereadableInput {
  public:
   // Borrows the open file.
@@ -30,10 +29,6 @@ class RereadableInput {
                                 const CancelFlag& cancel);
 
  private:
-  struct Close {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-
   Cancellable<std::size_t> readOn(std::span<char> buffer, const CancelFlag& cancel);
   Cancellable<std::size_t> readAgain(std::uint64_t offset, std::span<char> buffer) const;
   void keep(std::span<const char> bytes);
@@ -41,7 +36,7 @@ class RereadableInput {
   std::mutex mutex;
   int input;
   std::uint64_t bytesInAll;
-  std::unique_ptr<std::FILE, Close> kept;
+  FileDescriptor kept;
   std::uint64_t takenBytes = 0;  // from the input, so far
   std::uint64_t keptBytes = 0;   // of them: the first ones, all of them unless keeping failed
 };

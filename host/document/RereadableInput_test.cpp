@@ -3,13 +3,16 @@
 #include <array>
 #include <csignal>
 #include <fcntl.h>
+#include <filesystem>
 #include <string>
 #include <sys/resource.h>
 #include <unistd.h>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "platform/files/FileDescriptor.h"
+#include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
 namespace {
@@ -101,6 +104,58 @@ TEST_F(RereadableInputTest, IsReadOnceWhereItCannotBeKept) {
       "cannot be sent again, as there was no room for a copy of it: run the command once more");
   EXPECT_EQ(
       read(input, 13),
+      "cannot be sent again, as there was no room for a copy of it: run the command once more");
+}
+
+// While it lives, temporary files go to another folder.
+class TemporaryFiles {
+ public:
+  explicit TemporaryFiles(const std::filesystem::path& folder) {
+    setenv("TMPDIR", folder.c_str(), 1);
+  }
+  ~TemporaryFiles() { setenv("TMPDIR", before.c_str(), 1); }
+  TemporaryFiles(const TemporaryFiles&) = delete;
+  TemporaryFiles& operator=(const TemporaryFiles&) = delete;
+
+ private:
+  const std::filesystem::path before = std::filesystem::temp_directory_path();
+};
+
+// The files that this process has open in a folder and that have no name there any more.
+std::vector<int> namelessFilesIn(const std::filesystem::path& folder) {
+  std::vector<int> found;
+  for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+    std::error_code gone;
+    const std::string file = std::filesystem::read_symlink(entry, gone).string();
+    if (file.starts_with(folder.string()) && file.ends_with(" (deleted)"))
+      found.push_back(std::stoi(entry.path().filename()));
+  }
+  return found;
+}
+
+TEST_F(RereadableInputTest, IsKeptInTheTemporaryFolderOfTheEnvironment) {
+  const test::TemporaryFolder place;
+  const TemporaryFiles there(place.path());
+  {
+    RereadableInput input(out.get());
+    send("a photo");
+    EXPECT_EQ(read(input, 0), "a photo");
+    EXPECT_EQ(read(input, 2), "photo");
+    const std::vector<int> files = namelessFilesIn(place.path());
+    ASSERT_EQ(files.size(), 1u);
+    EXPECT_EQ(fcntl(files.front(), F_GETFD), FD_CLOEXEC);
+    EXPECT_TRUE(std::filesystem::is_empty(place.path()));
+  }
+  EXPECT_TRUE(namelessFilesIn(place.path()).empty());
+}
+
+TEST_F(RereadableInputTest, IsReadOnceWithoutATemporaryFolder) {
+  const TemporaryFiles nowhere("/nowhere");
+  RereadableInput input(out.get());
+  send("a photo");
+  EXPECT_EQ(read(input, 0), "a photo");
+  EXPECT_EQ(
+      read(input, 0),
       "cannot be sent again, as there was no room for a copy of it: run the command once more");
 }
 
