@@ -1,6 +1,7 @@
 #include "host/panels/PlugInLoader.h"
 
 #include "host/panels/PlugInModule.h"
+#include "host/panels/PlugInSafety.h"
 #include "platform/files/FileName.h"
 #include "platform/text/Quoted.h"
 
@@ -46,24 +47,32 @@ Result<std::unique_ptr<PDEPlugIn>> principalObject(const fs::path& bundle,
   return std::unique_ptr<PDEPlugIn>(made);
 }
 
+Result<LoadedPlugIn> loadSafePlugIn(const fs::path& folder) {
+  auto bundle = std::make_unique<const Bundle>(Bundle::atPath(folder));
+  const auto description = describe(*bundle);
+  if (!description) return Failure{description.reason()};
+  const auto module = moduleFile(folder, description->executable);
+  if (!module) return Failure{module.reason()};
+  const auto entry = loadModule(folder, *module);
+  if (!entry) return Failure{entry.reason()};
+  auto principal = principalObject(folder, **entry, description->principalClass);
+  if (!principal) return Failure{principal.reason()};
+  if (!(*principal)->initWithBundle(bundle.get()))
+    return plugInFailure(folder, "cannot work on this machine.");
+  return LoadedPlugIn{std::move(bundle), std::move(*principal)};
+}
+
 }  // namespace
 
 Result<LoadedPlugIn> loadPlugIn(const fs::path& bundleFolder) {
   std::error_code error;
-  if (!fs::is_directory(bundleFolder, error))
+  // What is checked is what is loaded, so that nobody can turn a link elsewhere in between.
+  const fs::path folder = fs::canonical(bundleFolder, error);
+  if (error || !fs::is_directory(folder, error))
     return Failure{"There is no plug-in bundle " + quoted(bundleFolder.string()) + "."};
-  auto bundle = std::make_unique<const Bundle>(Bundle::atPath(bundleFolder));
-  const auto description = describe(*bundle);
-  if (!description) return Failure{description.reason()};
-  const auto module = moduleFile(bundleFolder, description->executable);
-  if (!module) return Failure{module.reason()};
-  const auto entry = loadModule(bundleFolder, *module);
-  if (!entry) return Failure{entry.reason()};
-  auto principal = principalObject(bundleFolder, **entry, description->principalClass);
-  if (!principal) return Failure{principal.reason()};
-  if (!(*principal)->initWithBundle(bundle.get()))
-    return plugInFailure(bundleFolder, "cannot work on this machine.");
-  return LoadedPlugIn{std::move(bundle), std::move(*principal)};
+  if (const std::string danger = dangerIn(folder); !danger.empty())
+    return plugInFailure(folder, "is not safe to load: " + danger);
+  return loadSafePlugIn(folder);
 }
 
 }  // namespace tavrin

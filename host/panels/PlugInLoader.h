@@ -23,9 +23,9 @@ struct LoadedPlugIn {
   std::unique_ptr<PDEPlugIn> principal;  // never null, knows its bundle
 };
 
-// Loads the plug-in of a bundle folder, runs its code and makes its principal object. The folder
-// is trusted to hold code that may run, and yet it is refused when every user of the machine can
-// write to it. The reason names the bundle and what is wrong with it.
+// Loads the plug-in of a bundle folder, runs its code and makes its principal object. Links are
+// followed first; a bundle that somebody else could have changed is refused, see PlugInSafety.h.
+// The reason names the bundle and what is wrong with it.
 Result<LoadedPlugIn> loadPlugIn(const std::filesystem::path& bundleFolder);
 
 }  // namespace tavrin

@@ -18,6 +18,7 @@ class PlugInLoaderTest : public testing::Test {
     describe("module.so", "SoundPlugIn");
     useModule(SOUND_MODULE);
   }
+  ~PlugInLoaderTest() override { umask(usualUmask); }
 
   void describe(const std::string& executable, const std::string& principalClass,
                 const std::string& panelType = kPrintDialogPanelType) {
@@ -35,6 +36,7 @@ class PlugInLoaderTest : public testing::Test {
   void useModule(const fs::path& module) const {
     fs::create_directories(moduleFile.parent_path());
     fs::copy_file(module, moduleFile, fs::copy_options::overwrite_existing);
+    fs::permissions(moduleFile, fs::perms::group_write, fs::perm_options::remove);
   }
   // Why the bundle is not loaded, without the plug-in's name in front; empty when it is loaded.
   std::string problem() const {
@@ -45,6 +47,8 @@ class PlugInLoaderTest : public testing::Test {
     return plugIn.reason().substr(std::min(start.size(), plugIn.reason().size()));
   }
 
+  // What the user lets a group write to would not be safe to load.
+  mode_t usualUmask = umask(022);
   test::TemporaryFolder place;
   fs::path bundle = place.path() / "A.plugin";
   fs::path moduleFile = bundle / "Contents/Linux/module.so";
@@ -94,20 +98,35 @@ TEST_F(PlugInLoaderTest, SaysThatTheExecutableIsMissing) {
 }
 
 TEST_F(PlugInLoaderTest, RefusesAnExecutableOutsideOfTheBundle) {
-  fs::remove(moduleFile);
-  fs::create_symlink(SOUND_MODULE, moduleFile);
+  fs::rename(moduleFile, place.path() / "module.so");
+  fs::create_symlink(place.path() / "module.so", moduleFile);
   EXPECT_EQ(problem(), "has an executable file that lies outside of it. Install it again.");
 }
 
-TEST_F(PlugInLoaderTest, RefusesWhatEverybodyCanWriteTo) {
-  for (const fs::path& path : {bundle, bundle / "Contents", bundle / "Contents/Info.plist",
-                               moduleFile.parent_path(), moduleFile}) {
-    fs::permissions(path, fs::perms::others_write, fs::perm_options::add);
-    EXPECT_EQ(problem(), "is not safe to load: every user can write to \"" + path.string() +
-                             "\". Take that permission away with chmod o-w.");
-    fs::permissions(path, fs::perms::others_write, fs::perm_options::remove);
-  }
-  EXPECT_EQ(problem(), "");
+TEST_F(PlugInLoaderTest, RefusesABundleThatOthersCanChange) {
+  const fs::path interface = place.write("A.plugin/Contents/Resources/Panel.ui", "");
+  fs::permissions(interface, fs::perms::others_write, fs::perm_options::add);
+  EXPECT_EQ(problem(), "is not safe to load: every user can write to \"" + interface.string() +
+                           "\". Take that permission away with chmod go-w.");
+}
+
+TEST_F(PlugInLoaderTest, FollowsLinksToTheBundleFirst) {
+  const fs::path link = place.path() / "Link.plugin";
+  fs::create_directory_symlink("A.plugin", link);
+  const auto plugIn = loadPlugIn(link);
+  ASSERT_TRUE(plugIn) << plugIn.reason();
+  EXPECT_EQ(plugIn->bundle->path(), bundle);
+
+  const fs::path open = place.path() / "open";
+  fs::create_directory(open);
+  fs::permissions(open, fs::perms::others_all, fs::perm_options::add);
+  fs::rename(bundle, open / "A.plugin");
+  fs::remove(link);
+  fs::create_directory_symlink("open/A.plugin", link);
+  EXPECT_EQ(loadPlugIn(link).reason(), "The plug-in \"" + (open / "A.plugin").string() +
+                                           "\" is not safe to load: every user can write to \"" +
+                                           open.string() +
+                                           "\". Take that permission away with chmod go-w.");
 }
 
 TEST_F(PlugInLoaderTest, TellsWhyTheLoaderRefusesAModule) {

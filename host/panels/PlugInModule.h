@@ -14,8 +14,7 @@ namespace tavrin {
 Failure plugInFailure(const std::filesystem::path& bundle, const std::string& problem);
 
 // The module's file, links followed, by the name that the bundle gives for it. The reason when it
-// is missing, when it lies outside of the bundle, or when every user of the machine can write to it
-// or to what is around it.
+// is missing or lies outside of the bundle.
 Result<std::filesystem::path> moduleFile(const std::filesystem::path& bundle,
                                          const std::string& executable);
 
