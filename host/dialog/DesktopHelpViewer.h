@@ -1,8 +1,10 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <QUrl>
 
@@ -10,6 +12,10 @@
 #include "platform/toolkit/HelpViewer.h"
 
 namespace tavrin {
+
+// Where help may lie: the folders with plug-ins, and that of the printers' software below the root
+// folder of this moment.
+std::vector<std::filesystem::path> foldersWithHelp();
 
 // Shows pages of printers' help books in the person's browser.
 class DesktopHelpViewer : public HelpViewer {
@@ -19,8 +25,10 @@ class DesktopHelpViewer : public HelpViewer {
   // Told why a page could not be shown, in a sentence.
   using Complaint = std::function<void(const std::string&)>;
 
-  explicit DesktopHelpViewer(Opener opener);
-  // The desktop's own way to open a page.
+  // Shows the books in these folders, links followed, and nothing else: the path of a book comes
+  // from a printer's file, which could name any folder.
+  DesktopHelpViewer(std::vector<std::filesystem::path> folders, Opener opener);
+  // Shows the books where help may lie, and opens pages in the desktop's own way.
   DesktopHelpViewer();
 
   void setComplaint(Complaint heard) { complaint = std::move(heard); }
@@ -29,8 +37,10 @@ class DesktopHelpViewer : public HelpViewer {
   void gotoPage(const std::string& book, const OptString& page, const OptString& anchor) override;
 
  private:
+  bool mayShow(const std::filesystem::path& place) const;
   void complain(const std::string& sentence) const;
 
+  std::vector<std::filesystem::path> folders;
   Opener open;
   Complaint complaint;
   std::map<std::string, HelpBook> books;

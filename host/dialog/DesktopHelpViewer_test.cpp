@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/panels/TrustedBundles.h"
 #include "platform/files/RootFolder.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
@@ -24,10 +25,10 @@ class DesktopHelpViewerTest : public testing::Test {
   QUrl address;
   bool opens = true;
   std::string complaint;
-  DesktopHelpViewer viewer{[this](const QUrl& url) {
-    address = url;
-    return opens;
-  }};
+  DesktopHelpViewer viewer{{place.path() / "Library"}, [this](const QUrl& url) {
+                             address = url;
+                             return opens;
+                           }};
 };
 
 TEST_F(DesktopHelpViewerTest, OpensAPageOfARegisteredBook) {
@@ -62,6 +63,33 @@ TEST_F(DesktopHelpViewerTest, OpensNothingOutsideTheBook) {
   viewer.gotoPage("R420 Help", "../secret.html", std::nullopt);
   EXPECT_TRUE(address.isEmpty());
   EXPECT_NE(complaint, "");
+}
+
+TEST_F(DesktopHelpViewerTest, ShowsNoBookOutsideOfItsFolders) {
+  place.write("home/ada/index.html", "<html><head><title>Diary</title></head></html>");
+  std::filesystem::create_directory_symlink("../home/ada", place.path() / "Library/Link");
+  for (const char* path : {"/home/ada", "/Library/Link"}) {
+    viewer.registerHelpBook(path);
+    viewer.gotoPage("Diary", std::nullopt, std::nullopt);
+    EXPECT_TRUE(address.isEmpty()) << path;
+    EXPECT_EQ(complaint,
+              "The help of this printer was not found. Installing the printer's software again "
+              "brings it back.");
+  }
+}
+
+TEST_F(DesktopHelpViewerTest, ShowsNoOtherPrintersHelpInPlaceOfAMissingOne) {
+  viewer.registerHelpBook("/Library/Book");
+  viewer.registerHelpBook("/home");
+  viewer.gotoPage("", std::nullopt, std::nullopt);
+  EXPECT_TRUE(address.isEmpty());
+  EXPECT_NE(complaint.find("not found"), std::string::npos);
+}
+
+TEST_F(DesktopHelpViewerTest, MayShowWhatPrintersSoftwareAndPlugInsBring) {
+  auto expected = trustedPlugInFolders();
+  expected.push_back(place.path() / "Library/Printers");
+  EXPECT_EQ(foldersWithHelp(), expected);
 }
 
 }  // namespace
