@@ -129,9 +129,8 @@ std::optional<std::string> nextLine(std::istream& script) {
 }
 
 Result<ReplayCommand> parseCommand(const std::string& line) {
-  if (line.size() > kScriptLineLimit)
-    return Failure{"The line is too long: a line has at most " + std::to_string(kScriptLineLimit) +
-                   " bytes. It begins: " + quotedInShort(line) + "."};
+  if (const std::string broken = brokenLimit(line); !broken.empty())
+    return Failure{broken + " It begins: " + quotedInShort(line) + "."};
   const Json parsed = Json::parse(line, nullptr, /*allow_exceptions=*/false);
   // The parser takes a NUL for the end of the line.
   const bool cut = line.find('\0') != std::string::npos;

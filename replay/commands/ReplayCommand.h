@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <istream>
 #include <optional>
 #include <string>
@@ -9,6 +8,7 @@
 
 #include "platform/text/OptionalString.h"
 #include "platform/text/Result.h"
+#include "replay/commands/LineLimits.h"
 
 namespace tavrin {
 
@@ -70,16 +70,14 @@ struct ReplayCommand {
   std::vector<WindowAnswer> answers;
 };
 
-// Longer lines (bytes) are refused.
-inline constexpr std::size_t kScriptLineLimit = 16 << 20;
-
 // Takes the next line of a script, without its line break; absent after the last one. Of a line
 // that is too long only the beginning is given, one byte past the limit, so that it does not fill
 // memory.
 std::optional<std::string> nextLine(std::istream& script);
 
-// Reads a line of a script. The reason names what is wrong: a line that is too long or not a JSON
-// object, an unknown verb, or a field that is unknown to the verb, missing, or of another form.
+// Reads a line of a script. The reason names what is wrong: a line that breaks a limit or is not a
+// JSON object, an unknown verb, or a field that is unknown to the verb, missing, or of another
+// form.
 Result<ReplayCommand> parseCommand(const std::string& line);
 
 // Every verb as scripts spell it.

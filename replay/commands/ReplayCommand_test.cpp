@@ -153,6 +153,39 @@ TEST(ReplayCommand, ALineThatIsTooLongIsRefusedAndThenPassedOver) {
   EXPECT_EQ(nextLine(script), std::nullopt);
 }
 
+// A line of nothing but brackets took hundreds of times its length.
+TEST(ReplayCommand, ALineThatIsNestedTooDeepIsRefusedUnread) {
+  EXPECT_EQ(kScriptLineLimit, 1024u * 1024);
+  const auto lists = [](std::size_t depth) {
+    return R"({"do":"state","x":)" + std::string(depth, '[') + std::string(depth, ']') + "}";
+  };
+  EXPECT_EQ(reasonFor(lists(kNestingLimit - 1)), R"(The command "state" has no field "x".)");
+  EXPECT_TRUE(reasonFor(lists(kNestingLimit))
+                  .starts_with("The line is nested too deep: brackets stand at most 32 deep in "
+                               "each other. It begins: \"{\"do\":\"state\""));
+  EXPECT_TRUE(mentions(reasonFor(std::string(kScriptLineLimit, '[')), "too deep"));
+  EXPECT_TRUE(mentions(reasonFor(std::string(kNestingLimit + 1, '{')), "too deep"));
+}
+
+// It took minutes: each field was compared with all those before it.
+TEST(ReplayCommand, ALineWithTooManyFieldsIsRefusedUnread) {
+  std::string fields;
+  for (int i = 1; i < kFieldLimit; ++i) fields += R"(,"a)" + std::to_string(i) + "\":0";
+  EXPECT_EQ(reasonFor(R"({"do":"state")" + fields + "}"),
+            R"(The command "state" has no field "a1".)");
+  EXPECT_TRUE(
+      reasonFor(R"({"do":"state")" + fields + R"(,"b":0})")
+          .starts_with("The line has too many fields: a line has at most 4096. It begins: "));
+}
+
+TEST(ReplayCommand, BracketsInATextAndBesideEachOtherAreNotDeep) {
+  const std::string brackets(kNestingLimit + 1, '[');
+  EXPECT_EQ(reasonFor(R"({"do":"unmark","key":"\\\")" + brackets + R"("})"), "");
+  std::string lists = "[]";
+  for (int i = 0; i < 100; ++i) lists += ",[]";
+  EXPECT_TRUE(mentions(reasonFor(R"({"do":"open","ppd":null,"marks":[)" + lists + "]}"), "pairs"));
+}
+
 TEST(ReplayCommand, ALongLineIsCutInTheReason) {
   EXPECT_LT(reasonFor(std::string(100000, 'x')).size(), 400u);
   EXPECT_LT(reasonFor(std::string(100000, '\x80')).size(), 400u);
