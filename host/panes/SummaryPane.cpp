@@ -28,8 +28,8 @@ QTreeWidgetItem* addHeading(QTreeWidget& list, const QString& name) {
 void addLine(QTreeWidgetItem& heading, const QString& label, const QString& value) {
   auto* line = makeChild<QTreeWidgetItem>(&heading, QStringList{label, value});
   // A list elides what is too long for its column; here it can still be read.
-  line->setToolTip(0, label.toHtmlEscaped());
-  line->setToolTip(1, value.toHtmlEscaped());
+  line->setToolTip(0, toolTipFor(label));
+  line->setToolTip(1, toolTipFor(value));
 }
 
 }  // namespace

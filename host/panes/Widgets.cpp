@@ -57,6 +57,10 @@ QLabel* makeTextLabel(QWidget* parent) {
   return label;
 }
 
+QString toolTipFor(const QString& text) {
+  return "<span style='white-space:pre-wrap'>" + text.toHtmlEscaped() + "</span>";
+}
+
 QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control) {
   auto* title = makeChild<QLabel>(form.parentWidget());
   title->setTextFormat(Qt::PlainText);

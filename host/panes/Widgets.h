@@ -17,6 +17,10 @@ namespace tavrin {
 // A label that shows a text without interpreting markup, and wraps it.
 QLabel* makeTextLabel(QWidget* parent);
 
+// A tool tip that shows a text as it is. Qt takes one for markup when it looks like it, so that it
+// has to be markup at all times.
+QString toolTipFor(const QString& text);
+
 // Adds a row "label:" with a control that is reached and announced by that label. The text may
 // hold a mnemonic.
 QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control);
