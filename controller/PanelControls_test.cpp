@@ -20,6 +20,12 @@ TEST_F(Controls, FillsThePopUpsOnce) {
   EXPECT_EQ(panel().popUp("ibPrintQuality").numberOfItems(), 4);
 }
 
+TEST_F(Controls, ShowsThePaperSourceWithASecondTray) {
+  show({paperSourceOption(), tray2Option("True")});
+  EXPECT_FALSE(panel().popUp("ibPaperSource").hidden);
+  EXPECT_FALSE(panel().label("ibPaperSourceLabel").hidden);
+}
+
 TEST_F(Controls, DoesNotFillThePaperSourceWithoutASecondTray) {
   show({paperSourceOption(), tray2Option("False")});
   EXPECT_EQ(panel().popUp("ibPaperSource").numberOfItems(), 0);
