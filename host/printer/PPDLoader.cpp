@@ -7,8 +7,8 @@
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
 
+#include "host/printer/PPDLimits.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/text/Quoted.h"
 #include "platform/text/Utf8.h"
@@ -28,18 +28,6 @@ std::string megabytes(std::size_t bytes) { return std::to_string(bytes >> 20) + 
 int fromStart(int file) {
   lseek(file, 0, SEEK_SET);
   return fcntl(file, F_DUPFD_CLOEXEC, 0);
-}
-
-// Whether the text that the file holds, unpacked, stays within the limit: a small file can unpack
-// to any size, and the parser would take it all.
-bool textFits(int file) {
-  const CupsFilePtr text(cupsFileOpenFd(fromStart(file), "r"));
-  std::vector<char> buffer(1 << 16);
-  std::size_t total = 0;
-  for (ssize_t bytes = 1; text && bytes > 0 && total <= kPPDTextLimit;
-       total += static_cast<std::size_t>(bytes > 0 ? bytes : 0))
-    bytes = cupsFileRead(text.get(), buffer.data(), buffer.size());
-  return total <= kPPDTextLimit;
 }
 
 Failure parseFailure(const std::string& name) {
@@ -89,8 +77,9 @@ Result<PPDPtr> loadPPD(int fileDescriptor, const std::string& name) {
     return about(name, "is not a file");
   if (static_cast<std::size_t>(status.st_size) > kPPDFileLimit)
     return about(name, "is larger than " + megabytes(kPPDFileLimit));
-  if (!textFits(fileDescriptor))
-    return about(name, "unpacks to more than " + megabytes(kPPDTextLimit));
+  const CupsFilePtr text(cupsFileOpenFd(fromStart(fileDescriptor), "r"));
+  if (const std::string broken = text ? brokenPPDLimit(*text) : ""; !broken.empty())
+    return about(name, broken);
   PPDPtr ppd(ppdOpenFd(fromStart(fileDescriptor)));
   if (!ppd) return parseFailure(name);
   makeSound(*ppd);

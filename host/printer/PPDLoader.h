@@ -10,9 +10,8 @@
 
 namespace tavrin {
 
-// Larger files are refused, packed or unpacked.
+// Larger files (bytes) are refused, packed or not; for what is in them see PPDLimits.h.
 inline constexpr std::size_t kPPDFileLimit = 4 * 1024 * 1024;
-inline constexpr std::size_t kPPDTextLimit = 16 * 1024 * 1024;
 
 // Loads a PPD file, plain or compressed, for a host that hands it to panels. The texts of its
 // groups, options and choices are whole UTF-8 characters and its language encoding is never null.

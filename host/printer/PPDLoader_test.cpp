@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/printer/PPDLimits.h"
 #include "tests/fakes/FakePPD.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
@@ -121,6 +122,17 @@ TEST_F(PPDLoaderTest, RefusesAFileThatUnpacksToTooMuch) {
   ASSERT_LT(fs::file_size(file), kPPDFileLimit / 100);
   EXPECT_EQ(problem(file),
             "The printer description \"" + file.string() + "\" unpacks to more than 16 MiB.");
+}
+
+TEST_F(PPDLoaderTest, RefusesAFileThatWouldTakeTooLongToRead) {
+  std::string resolvers;
+  for (int i = 0; i < 20000; ++i)
+    resolvers += "*cupsUIResolver r" + std::to_string(i) + ": \"*A y *B y\"\n" +
+                 "*cupsUIConstraints r" + std::to_string(i) + ": \"*A x *B x\"\n";
+  const fs::path file = write(ppdText({}) + resolvers);
+  EXPECT_EQ(problem(file), "The printer description \"" + file.string() +
+                               "\" has more than 2000 statements \"*cupsUIResolver\", which would "
+                               "take too long to read.");
 }
 
 }  // namespace
