@@ -63,7 +63,7 @@ class SafetyWalk {
     if (lstat(path.c_str(), &status) != 0) return cannotBeRead(path, errno);
     if (status.st_uid != 0 && status.st_uid != user)
       return quoted(path.string()) + " belongs to the user " + quoted(userName(status.st_uid)) +
-             ". Make it root's or your own with chown.";
+             ". Make it root's or your own with chown, or install the plug-in elsewhere.";
     if (S_ISLNK(status.st_mode)) return addTarget(place);
     if (!S_ISDIR(status.st_mode) && !S_ISREG(status.st_mode))
       return quoted(path.string()) + " is neither a file nor a folder. Install the plug-in again.";
@@ -73,7 +73,8 @@ class SafetyWalk {
   }
 
   static std::string cannotBeRead(const fs::path& path, int reason) {
-    return quoted(path.string()) + " cannot be read: " + std::strerror(reason) + ".";
+    return quoted(path.string()) + " cannot be read: " + std::strerror(reason) +
+           ". Install the plug-in again.";
   }
 
   static std::string othersWrite(const fs::path& path, mode_t mode) {

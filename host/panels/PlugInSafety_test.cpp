@@ -51,7 +51,9 @@ TEST_F(PlugInSafetyTest, NamesTheStrangerWhoOwnsAFolderAbove) {
   if (isRoot) give(place.path(), 4711);
   const std::string found = dangerIn(bundle, isRoot ? 0 : geteuid() + 1);
   EXPECT_NE(found.find("\" belongs to the user \""), std::string::npos) << found;
-  EXPECT_TRUE(found.ends_with("\". Make it root's or your own with chown.")) << found;
+  EXPECT_TRUE(found.ends_with(
+      "\". Make it root's or your own with chown, or install the plug-in elsewhere."))
+      << found;
 }
 
 TEST_F(PlugInSafetyTest, TrustsTheUserThatItIsToldOf) {
@@ -109,8 +111,8 @@ TEST_F(PlugInSafetyTest, RefusesALinkToWhatAnybodyCouldStillPutThere) {
   chmod(plugIns, 01777);
   fs::create_symlink(plugIns / "later", resources / "later");
   EXPECT_EQ(danger(), "\"" + (plugIns / "later").string() +
-                          "\" cannot be read: No such file or "
-                          "directory.");
+                          "\" cannot be read: No such file or directory. Install the plug-in "
+                          "again.");
 }
 
 TEST_F(PlugInSafetyTest, ComesToAnEndWithLinksThatGoRound) {
