@@ -1,7 +1,11 @@
 #include "host/dialog/PrintDialog.h"
 
+#include <chrono>
+
+#include <QCoreApplication>
 #include <QEvent>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "host/dialog/FittingScrollArea.h"
@@ -20,6 +24,9 @@ namespace {
 
 // Wide enough for most panels, in line heights, so that the window does not jump when one appears.
 constexpr int kUsualWidth = 35;
+
+// How long a program that is to end waits for a job to be taken back.
+constexpr std::chrono::milliseconds kLongestEnd(1500);
 
 QString titleFor(const JobRequest& request) {
   const bool isNamed = !request.title.empty() || request.document != kStandardInput;
@@ -184,8 +191,23 @@ void PrintDialog::print() {
 void PrintDialog::reject() {
   if (task.stage() == PrintTask::Stage::done) return accept();
   if (task.stage() == PrintTask::Stage::printing) return task.cancel();
+  leave();
+}
+
+void PrintDialog::leave() {
   task.leave();
   QDialog::reject();
+}
+
+void PrintDialog::end() {
+  QEvent quit(QEvent::Quit);  // QCoreApplication::quit() does nothing in a dialog's own event loop
+  if (!task.isSending())
+    return void(QCoreApplication::sendEvent(QCoreApplication::instance(), &quit));
+  connect(&task, &PrintTask::stageChanged, this, [this] {
+    if (!task.isSending()) leave();
+  });
+  QTimer::singleShot(kLongestEnd, this, &PrintDialog::leave);
+  task.cancel();
 }
 
 }  // namespace tavrin

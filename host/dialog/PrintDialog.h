@@ -31,6 +31,9 @@ class PrintDialog : public QDialog {
 
   // Takes a job back that is on its way; else leaves.
   void reject() override;
+  // The program is to end: takes back a job that is on its way, and leaves when that is done or has
+  // taken too long. Windows in front of the dialog go unanswered.
+  void end();
   void setVisible(bool visible) override;
 
  protected:
@@ -50,6 +53,7 @@ class PrintDialog : public QDialog {
   void showConflicts();
   void showHelp();
   void print();
+  void leave();
   SummaryPane::Sections allLines() const;
 
   PrintTask& task;

@@ -1,6 +1,8 @@
 #include "host/dialog/PrintDialog.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QAccessible>
 #include <QComboBox>
@@ -16,6 +18,7 @@
 #include "host/dialog/PrinterPopUp.h"
 #include "host/panes/FeaturesPane.h"
 #include "host/printer/PPDLoader.h"
+#include "platform/files/FileDescriptor.h"
 #include "platform/qt/toolkit/QtToolkit.h"
 #include "tests/servers/FaultyServer.h"
 #include "tests/servers/PrivateCupsd.h"
@@ -339,6 +342,42 @@ TEST_F(PrintDialogTest, PrintsOnTheChosenQueueAndInstance) {
   const auto captured = cups.waitForJob(1);
   EXPECT_TRUE(captured.has("MediaType=IronOn"));
   EXPECT_EQ(captured.copies, "2");
+}
+
+TEST_F(PrintDialogTest, TakesAJobBackWhenTheProgramIsToEnd) {
+  JobRequest request = job();
+  request.document = place.path() / "pipe";  // nobody ever fills it, so the job never ends
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  PrintTask task(request);
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path() / "out");
+  dialog.show();
+  press(dialog, "print");
+  dialog.end();
+  EXPECT_TRUE(dialog.isVisible()) << "until the job is taken back";
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, kPatience));
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::cancelled);
+  EXPECT_EQ(task.report(), "");
+  EXPECT_FALSE(fs::exists(place.path() / "out"));
+}
+
+TEST_F(PrintDialogTest, EndsInTimeWhereTheJobCannotBeTakenBack) {
+  const FaultyServer server(Fault::silent, IPP_OP_CANCEL_JOB);
+  JobRequest request = job();
+  request.printer = "photo";
+  request.document = place.path() / "pipe";  // only begins, so that the job never ends
+  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+  const FileDescriptor pipe(open(request.document.c_str(), O_RDWR));
+  ASSERT_EQ(write(pipe.get(), "%PDF-1.4", 8), 8);
+  PrintTask task(request);
+  PrintDialog dialog(task);
+  task.usePrintServer();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return task.session() != nullptr; }, kPatience));
+  dialog.show();
+  press(dialog, "print");
+  dialog.end();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, kPatience));
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::cancelled);
 }
 
 TEST_F(PrintDialogTest, PickingThePrinterAgainKeepsWhatWasChosen) {

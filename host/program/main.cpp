@@ -12,12 +12,15 @@
 #include "host/document/Document.h"
 #include "host/printer/PPDLoader.h"
 #include "host/program/CommandLine.h"
+#include "host/program/EndSignals.h"
 #include "host/program/Samples.h"
 #include "host/task/PrintTask.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/files/RootFolder.h"
+#include "platform/files/StandardStreams.h"
 #include "platform/qt/base/ShownText.h"
 #include "platform/qt/toolkit/QtToolkit.h"
+#include "platform/text/Visible.h"
 
 namespace {
 
@@ -29,8 +32,16 @@ constexpr char kNoDisplay[] =
 enum ExitStatus { kPrinted = 0, kCancelled = 1, kUsage = 2, kNotPrinted = 3 };
 
 int complain(ExitStatus status, const std::string& sentence) {
-  std::cerr << "tavrin-print: " << sentence << "\n";
+  writeError("tavrin-print", sentence);
   return status;
+}
+
+// Writes on standard output. What was to be said there is lost when that fails, so that is a
+// failure even of a program that has printed; the sentence says so first.
+int tell(const std::string& text, const std::string& whatIsDone = "") {
+  const std::string problem = writeOutput(text);
+  if (problem.empty()) return kPrinted;
+  return complain(kNotPrinted, whatIsDone + "Standard output cannot be written: " + problem + ".");
 }
 
 bool hasDisplay() {
@@ -52,7 +63,7 @@ void takeForStandardInput(JobRequest& job) {
 
 // Qt ends the program when the display cannot be reached; the person should learn why.
 void complainAndLeave(QtMsgType type, const QMessageLogContext&, const QString& text) {
-  std::cerr << text.toStdString() << "\n";
+  std::cerr << visibleLines(text.toStdString()) << "\n";
   if (type == QtFatalMsg) std::_Exit(complain(kNotPrinted, kNoDisplay));
 }
 
@@ -62,6 +73,15 @@ std::string documentProblem(const std::filesystem::path& document) {
   if (document == kStandardInput) return {};
   const auto opened = Document::open(document);
   return opened ? "" : opened.reason();
+}
+
+// Why standard input cannot be the document; empty when it can, or need not.
+std::string inputProblem(const CommandLine& line) {
+  if (line.job.document != kStandardInput) return {};
+  if (!canReadStandardInput())
+    return "Standard input is closed, so there is no document in it. Name a file.";
+  const bool isForgotten = !line.namesDocument && isatty(STDIN_FILENO);
+  return isForgotten ? "No document was named. Name a file, or - to type the document." : "";
 }
 
 int report(const PrintTask& task) {
@@ -74,14 +94,14 @@ int report(const PrintTask& task) {
     case PrintTask::Outcome::printed:
       break;
   }
-  std::cout << text << "\n";
-  return kPrinted;
+  return tell(text + "\n", text + " ");
 }
 
 // The panels go before the toolkit and the help viewer that they use.
 int runDialog(const CommandLine& line, const SharedPPD& ppd, DesktopHelpViewer& helpViewer) {
   PrintTask task(line.job);
   PrintDialog dialog(task);
+  const EndSignals endSignals([&dialog] { dialog.end(); });
   helpViewer.setComplaint([&](const std::string& sentence) { task.say(sentence); });
   if (ppd)
     task.usePrinterWithoutQueue(ppd, line.output);
@@ -112,8 +132,8 @@ int print(CommandLine line, int& argc, char** argv) {
     if (!line.namesDocument) line.job.document = samples().document;
     setRootFolder(samples().root);
   }
-  if (line.job.document == kStandardInput && !line.namesDocument && isatty(STDIN_FILENO))
-    return complain(kUsage, "No document was named. Name a file, or - to type the document.");
+  if (const std::string problem = inputProblem(line); !problem.empty())
+    return complain(kUsage, problem);
   takeForStandardInput(line.job);
   if (const std::string problem = documentProblem(line.job.document); !problem.empty())
     return complain(kNotPrinted, problem);
@@ -130,15 +150,14 @@ int print(CommandLine line, int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  occupyStandardStreams();
   const Result<CommandLine> line = parseCommandLine({argv + 1, argv + argc});
   if (!line) return complain(kUsage, line.reason());
   switch (line->wish) {
     case CommandLine::Wish::help:
-      std::cout << usage();
-      return kPrinted;
+      return tell(usage());
     case CommandLine::Wish::version:
-      std::cout << "tavrin-print " TAVRIN_VERSION "\n";
-      return kPrinted;
+      return tell("tavrin-print " TAVRIN_VERSION "\n");
     case CommandLine::Wish::print:
       break;
   }

@@ -82,7 +82,8 @@ std::string PrintServer::whatItDid() const {
   if (relay->cut() == Relay::Cut::tooLong)
     return address() + " sent more than any answer needs. Check that it is a print server.";
   if (wantsPassword()) return kWantsPassword;
-  std::string reason = cupsLastErrorString();
+  const char* words = cupsLastErrorString();  // null before the thread's first request in IPP
+  std::string reason = words ? words : "";
   if (knowsNoReason(reason))
     return address() + " gave no proper answer. Check that it runs, then try again.";
   while (reason.ends_with('.')) reason.pop_back();

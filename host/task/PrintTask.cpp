@@ -55,10 +55,17 @@ void PrintTask::tell(Notice notice) {
 void PrintTask::leave() {
   if (end != Outcome::cancelled) return;
   if (isSending())
-    reportText = tr("The job may still be on its way. See whether it is in the queue: lpstat -o")
-                     .toStdString();
+    reportText = stillOnItsWay().toStdString();
   else if (said.isWarning)
     reportText = said.text;
+}
+
+QString PrintTask::stillOnItsWay() const {
+  return hasQueue()
+             ? tr("The job may still be on its way. See whether it is in the queue: lpstat -o")
+             : tr("The job may have been written all the same. See whether it is in the "
+                  "folder %1.")
+                   .arg(shown(output.string()));
 }
 
 // --- Printers ---

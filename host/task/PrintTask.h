@@ -112,6 +112,7 @@ class PrintTask : public QObject {
     std::vector<std::string> unmarked;  // options in which nothing was chosen at all
   };
 
+  QString stillOnItsWay() const;
   void connectSearch();
   void connectRunner();
   void enter(Stage stage);

@@ -5,7 +5,8 @@
 namespace tavrin {
 
 // A new hidden folder that goes away with everything in it, unless it is kept under a name: so that
-// others see it whole or not at all. Every failure leaves its reason in errno.
+// others see it whole or not at all. It goes away with the program, too, when that ends while
+// another thread still fills the folder. Every failure leaves its reason in errno.
 class HiddenFolder {
  public:
   explicit HiddenFolder(const std::filesystem::path& parent);

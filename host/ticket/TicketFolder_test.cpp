@@ -127,6 +127,13 @@ TEST_F(TicketFolderTest, LeavesNothingBehindWhenCancelled) {
   EXPECT_EQ(entries(), 0u);
 }
 
+TEST_F(TicketFolderTest, LeavesNothingBehindWhenTheProgramEndsMeanwhile) {
+  EXPECT_EXIT(writeTicketFolder(output, request, options, neverCancelled(),
+                                [](const Progress&) { std::exit(0); }),
+              testing::ExitedWithCode(0), "");
+  EXPECT_EQ(entries(), 0u);
+}
+
 TEST_F(TicketFolderTest, LeavesNothingBehindWhenItFails) {
   request.document = "/nowhere/card.pdf";
   EXPECT_FALSE(writeTicketFolder(output, request, options));

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace tavrin {
 namespace {
@@ -22,32 +23,35 @@ bool isContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
 // The smallest character that needs a sequence of that many bytes.
 constexpr std::array<std::uint32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
 
-bool isSequence(std::string_view bytes) {
-  const auto lead = static_cast<unsigned char>(bytes[0]);
-  if (bytes.size() == 1) return true;
-  std::uint32_t character = lead & (0x7FU >> bytes.size());
-  for (const unsigned char byte : bytes.substr(1)) {
-    if (!isContinuation(byte)) return false;
-    character = (character << 6) | (byte & 0x3F);
+// What the bytes of a sequence of that length mean; absent where they mean nothing.
+std::optional<char32_t> valueOf(std::string_view sequence) {
+  const auto lead = static_cast<unsigned char>(sequence[0]);
+  if (sequence.size() == 1) return lead;
+  std::uint32_t value = lead & (0x7FU >> sequence.size());
+  for (const unsigned char byte : sequence.substr(1)) {
+    if (!isContinuation(byte)) return std::nullopt;
+    value = (value << 6) | (byte & 0x3F);
   }
-  const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
-  return character >= kSmallest[bytes.size()] && character <= 0x10FFFF && !isSurrogate;
-}
-
-// The number of bytes in the character that they begin with; 0 where they begin with none.
-std::size_t characterLength(std::string_view bytes) {
-  const std::size_t length = sequenceLength(static_cast<unsigned char>(bytes[0]));
-  const bool isWhole = length > 0 && length <= bytes.size();
-  return isWhole && isSequence(bytes.substr(0, length)) ? length : 0;
+  const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
+  if (value < kSmallest[sequence.size()] || value > 0x10FFFF || isSurrogate) return std::nullopt;
+  return value;
 }
 
 }  // namespace
 
+Character firstCharacter(std::string_view bytes) {
+  const std::size_t length = sequenceLength(static_cast<unsigned char>(bytes[0]));
+  if (length == 0 || length > bytes.size()) return {bytes.substr(0, 1), std::nullopt};
+  const std::string_view sequence = bytes.substr(0, length);
+  const auto value = valueOf(sequence);
+  return {value ? sequence : bytes.substr(0, 1), value};
+}
+
 bool isUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
-    const std::size_t length = characterLength(bytes);
-    if (length == 0) return false;
-    bytes.remove_prefix(length);
+    const Character next = firstCharacter(bytes);
+    if (!next.value) return false;
+    bytes.remove_prefix(next.bytes.size());
   }
   return true;
 }
@@ -55,9 +59,9 @@ bool isUtf8(std::string_view bytes) {
 std::string validUtf8(std::string_view bytes) {
   std::string text;
   while (!bytes.empty()) {
-    const std::size_t length = characterLength(bytes);
-    text += length > 0 ? bytes.substr(0, length) : "\uFFFD";
-    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+    const Character next = firstCharacter(bytes);
+    text += next.value ? next.bytes : "\uFFFD";
+    bytes.remove_prefix(next.bytes.size());
   }
   return text;
 }

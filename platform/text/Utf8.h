@@ -1,9 +1,18 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tavrin {
+
+// The first character of a text.
+struct Character {
+  std::string_view bytes;         // that make it up; a single one where it is no character
+  std::optional<char32_t> value;  // absent where it is none
+};
+// The text must not be empty.
+Character firstCharacter(std::string_view bytes);
 
 // Whether the bytes are UTF-8 throughout: no stray or missing continuation bytes, no overlong
 // forms, no surrogates, nothing above U+10FFFF. True of the empty text. Texts from files are

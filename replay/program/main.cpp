@@ -9,8 +9,10 @@
 #include "host/panels/PlugInLoader.h"
 #include "host/panels/TrustedBundles.h"
 #include "platform/files/RootFolder.h"
+#include "platform/files/StandardStreams.h"
 #include "platform/qt/toolkit/QtToolkit.h"
 #include "platform/text/Quoted.h"
+#include "platform/text/Visible.h"
 #include "replay/program/Options.h"
 #include "replay/session/RecordingHelpViewer.h"
 #include "replay/session/Replayer.h"
@@ -19,26 +21,33 @@ using namespace tavrin;
 
 namespace {
 
+constexpr char kProgram[] = "tavrin-replay";
+
 enum ExitStatus { everythingOk = 0, somethingNotOk = 1, cannotStart = 2, windowUnanswered = 3 };
 
 int giveUp(const std::string& reason) {
-  std::cerr << "tavrin-replay: " << reason << '\n';
+  writeError(kProgram, reason);
   return cannotStart;
 }
 
 // The off-screen platform keeps saying what it cannot do without a screen.
 void showMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
   if (!message.startsWith("This plugin does not support"))
-    std::cerr << message.toStdString() << '\n';
+    std::cerr << visibleLines(message.toStdString()) << '\n';
 }
 
 bool isBlank(const std::string& line) {
   return line.find_first_not_of(" \t\r\n\v\f") == std::string::npos;
 }
 
-// Texts of a script or a PPD may hold bytes that are not UTF-8; a reply may not.
-void write(const Json& reply) {
-  std::cout << reply.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
+// Texts of a script or a PPD may hold bytes that are not UTF-8; a reply may not. What is made
+// visible in it means the same in JSON. Empty, or why it could not be written.
+std::string write(const Json& reply) {
+  return writeOutput(reply.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n');
+}
+
+int outputFailed(const std::string& reason) {
+  return giveUp("Standard output cannot be written: " + reason + ".");
 }
 
 int playScript(std::istream& script, Replayer& replayer, const WindowAnswers& windows) {
@@ -46,7 +55,7 @@ int playScript(std::istream& script, Replayer& replayer, const WindowAnswers& wi
   while (const auto line = nextLine(script)) {
     if (line->size() <= kScriptLineLimit && isBlank(*line)) continue;
     const Json reply = replayer.play(*line);
-    write(reply);
+    if (const std::string problem = write(reply); !problem.empty()) return outputFailed(problem);
     if (windows.ranOut()) return windowUnanswered;
     allOk = allOk && reply["ok"].get<bool>();
   }
@@ -69,7 +78,11 @@ int statusWithPictures(int status, const Screenshots& pictures) {
 }
 
 Result<std::unique_ptr<std::istream>> scriptOf(const Options& options) {
-  if (options.script.empty()) return std::make_unique<std::istream>(std::cin.rdbuf());
+  if (options.script.empty()) {
+    if (!canReadStandardInput())
+      return Failure{"Standard input is closed, so there is no script. Name a file."};
+    return std::make_unique<std::istream>(std::cin.rdbuf());
+  }
   auto file = std::make_unique<std::ifstream>(options.script, std::ios::binary);
   if (!*file || std::filesystem::is_directory(options.script))
     return Failure{"The script " + quoted(options.script.string()) + " cannot be read."};
@@ -101,6 +114,7 @@ int run(const Options& options, QtToolkit& toolkit) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  occupyStandardStreams();
   // Nobody sees the panel's window. Qt gets no arguments, because it would take some of ours.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(showMessage);
@@ -111,8 +125,8 @@ int main(int argc, char** argv) {
   const auto options = parseOptions({argv, argv + argc});
   if (!options) return giveUp(options.reason() + " --help tells how.");
   if (options->help) {
-    std::cout << helpText();
-    return everythingOk;
+    const std::string problem = writeOutput(helpText());
+    return problem.empty() ? everythingOk : outputFailed(problem);
   }
   QtToolkit toolkit;
   Toolkit::install(&toolkit);

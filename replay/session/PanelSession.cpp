@@ -1,6 +1,5 @@
 #include "replay/session/PanelSession.h"
 
-#include <iostream>
 #include <utility>
 
 #include <QVBoxLayout>
@@ -8,6 +7,7 @@
 
 #include "host/printer/MarkedOptions.h"
 #include "host/printer/PPDLoader.h"
+#include "platform/files/StandardStreams.h"
 #include "platform/qt/base/MakeChild.h"
 #include "platform/qt/toolkit/QtToolkit.h"
 #include "platform/text/Quoted.h"
@@ -22,7 +22,7 @@ Result<PPDPtr> printerOf(const ReplayCommand& command) {
 }
 
 void sayOfThePPD(const std::string& lack, const std::string& consequence) {
-  std::cerr << "tavrin-replay: The PPD has no " << lack << "; nothing is " << consequence << ".\n";
+  writeError("tavrin-replay", "The PPD has no " + lack + "; nothing is " + consequence + ".");
 }
 
 // A window of the panel's own size.

@@ -89,6 +89,12 @@ const std::string& addressOfPrinter() {
   return uri;
 }
 
+bool sendPPD(http_t* caller) {
+  const std::string ppd = goodPPD();
+  return say(caller,
+             "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(ppd.size()) + "\r\n\r\n" + ppd);
+}
+
 void describePrinter(ipp_t& answer) {
   ippAddString(&answer, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "photo");
   ippAddString(&answer, IPP_TAG_PRINTER, IPP_TAG_URI, "printer-uri-supported", nullptr,
@@ -112,7 +118,7 @@ FaultyServer::FaultyServer(Fault itsFault, ipp_op_t itsOperation)
   if (!socket.listenAt(path())) throw std::runtime_error("cannot listen at " + path());
   setenv("CUPS_SERVER", path().c_str(), 1);
   cupsSetServer(nullptr);  // libcups looks at the environment again
-  threads.emplace_back([this] { acceptCallers(); });
+  acceptor = std::thread([this] { acceptCallers(); });
 }
 
 FaultyServer::~FaultyServer() {
@@ -133,10 +139,9 @@ std::set<int> FaultyServer::unfinishedJobs() {
 void FaultyServer::stop() {
   if (stopping.exchange(true)) return;
   socket.shut();
-  threads.front().join();  // from here on nobody else comes
+  acceptor.join();  // from here on nobody else comes
   for (const HttpPtr& caller : callers) shutdown(httpGetFd(caller.get()), SHUT_RDWR);
-  for (std::thread& thread : threads)
-    if (thread.joinable()) thread.join();
+  for (std::thread& thread : threads) thread.join();
   std::filesystem::remove(path());
 }
 
@@ -174,7 +179,7 @@ bool FaultyServer::answer(http_t* caller, http_state_t method) {
                       ippRead(caller, request.get()) == IPP_STATE_DATA;
   const ipp_op_t wanted = wantsPPD ? IPP_OP_CUPS_GET_PPD : ippGetOperation(request.get());
   if (isRead && operation != IPP_OP_CUPS_INVALID && wanted != operation)
-    return answerWell(caller, *request);
+    return wantsPPD ? sendPPD(caller) : answerWell(caller, *request);
   {
     const std::lock_guard lock(mutex);
     if (asked) asked();

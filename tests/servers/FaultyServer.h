@@ -68,6 +68,7 @@ class FaultyServer {
   test::TemporaryFolder folder;
   LocalSocket socket;
   std::atomic<bool> stopping = false;
+  std::thread acceptor;
   std::mutex mutex;  // of all below
   std::function<void()> asked;
   std::set<int> jobs;
