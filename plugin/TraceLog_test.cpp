@@ -285,6 +285,11 @@ TEST_F(TraceLog, AMessageThatIsNoUTF8IsNotWritten) {
   EXPECT_EQ(messages("log"), "café|");
 }
 
+TEST_F(TraceLog, AMessageGivesNoOrdersToATerminal) {
+  inOtherProcess([&] { trace(path("log"), "%s", "\x1B[2J\u202Egol"); });
+  EXPECT_EQ(messages("log"), "\\u001b[2J\\u202egol|");
+}
+
 TEST_F(TraceLog, ALongMessageIsWrittenWhole) {
   const std::string text(1024 * 1024, 'x');
   inOtherProcess([&] { trace(path("log"), "%@!", text); });

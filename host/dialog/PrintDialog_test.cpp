@@ -361,23 +361,44 @@ TEST_F(PrintDialogTest, TakesAJobBackWhenTheProgramIsToEnd) {
   EXPECT_FALSE(fs::exists(place.path() / "out"));
 }
 
-TEST_F(PrintDialogTest, EndsInTimeWhereTheJobCannotBeTakenBack) {
-  const FaultyServer server(Fault::silent, IPP_OP_CANCEL_JOB);
-  JobRequest request = job();
-  request.printer = "photo";
-  request.document = place.path() / "pipe";  // only begins, so that the job never ends
-  ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
-  const FileDescriptor pipe(open(request.document.c_str(), O_RDWR));
-  ASSERT_EQ(write(pipe.get(), "%PDF-1.4", 8), 8);
-  PrintTask task(request);
-  PrintDialog dialog(task);
-  task.usePrintServer();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return task.session() != nullptr; }, kPatience));
-  dialog.show();
-  press(dialog, "print");
-  dialog.end();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, kPatience));
-  EXPECT_EQ(task.outcome(), PrintTask::Outcome::cancelled);
+// A dialog in the middle of sending a job to a queue, which is told that the program is to end.
+class EndingDialogTest : public PrintDialogTest {
+ protected:
+  void end(FaultyServer& server) {
+    JobRequest request = job();
+    request.printer = "photo";
+    request.document = place.path() / "pipe";  // only begins, so that the job never ends
+    ASSERT_EQ(mkfifo(request.document.c_str(), 0600), 0);
+    const FileDescriptor pipe(open(request.document.c_str(), O_RDWR));
+    const std::string begun = "%PDF-1.4" + std::string(1000, ' ');
+    ASSERT_EQ(write(pipe.get(), begun.data(), begun.size()), begun.size());
+    PrintTask task(request);
+    PrintDialog dialog(task);
+    task.usePrintServer();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return task.session() != nullptr; }, kPatience));
+    dialog.show();
+    press(dialog, "print");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !server.unfinishedJobs().empty(); }, kPatience));
+    dialog.end();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, kPatience));
+    EXPECT_EQ(task.outcome(), PrintTask::Outcome::cancelled);
+    report = task.report();
+  }
+
+  std::string report;
+};
+
+TEST_F(EndingDialogTest, LeavesNoJobInTheQueue) {
+  FaultyServer server(Fault::silent, IPP_OP_PAUSE_PRINTER);  // nobody asks for that
+  end(server);
+  EXPECT_TRUE(server.unfinishedJobs().empty());
+  EXPECT_EQ(report, "");
+}
+
+TEST_F(EndingDialogTest, EndsInTimeWhereTheJobCannotBeTakenBack) {
+  FaultyServer server(Fault::silent, IPP_OP_CANCEL_JOB);
+  end(server);
+  EXPECT_EQ(report, "The job may still be on its way. See whether it is in the queue: lpstat -o");
 }
 
 TEST_F(PrintDialogTest, PickingThePrinterAgainKeepsWhatWasChosen) {

@@ -3,6 +3,7 @@
 #include "host/job/Delivery.h"
 #include "host/server/IppRequest.h"
 #include "host/server/PrintServer.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
@@ -44,7 +45,7 @@ NoValue takeBack(const JobRequest& request, int jobId, const NoValue& why) {
       failure ? failure->reason : "The job was cancelled on this computer only.";
   const std::string name = request.printer + "-" + std::to_string(jobId);
   return Failure{reason + " The unfinished job " + name +
-                 " is still in the queue; remove it with: cancel " + name};
+                 " is still in the queue; remove it with: cancel " + shellQuoted(name)};
 }
 
 }  // namespace

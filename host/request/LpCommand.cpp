@@ -3,16 +3,11 @@
 #include "host/request/JobOptions.h"
 #include "host/support/DestinationName.h"
 #include "platform/text/IgnoringCase.h"
+#include "platform/text/Quoted.h"
 
 namespace tavrin {
 
 namespace {
-
-std::string shellQuoted(const std::string& text) {
-  std::string quoted = "'";
-  for (const char c : text) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return quoted + "'";
-}
 
 // The value as one "-o" holds it, where blanks separate options and quotes hold them together.
 std::string escaped(const std::string& value) {

@@ -15,4 +15,10 @@ std::string quotedInShort(const std::string& text) {
   return quoted(std::string(wholeCharacters(start)) + "...");
 }
 
+std::string shellQuoted(const std::string& word) {
+  std::string quotedWord = "'";
+  for (const char c : word) quotedWord += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return quotedWord + "'";
+}
+
 }  // namespace tavrin

@@ -11,4 +11,7 @@ std::string quoted(const std::string& name);
 // characters of UTF-8 and ends in dots.
 std::string quotedInShort(const std::string& text);
 
+// One word of a command that a person may copy into a shell.
+std::string shellQuoted(const std::string& word);
+
 }  // namespace tavrin

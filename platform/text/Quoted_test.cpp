@@ -16,6 +16,12 @@ TEST(Quoted, IsCutBetweenCharacters) {
   EXPECT_EQ(quotedInShort(std::string(199, 'x') + "\u00FC"), '"' + std::string(199, 'x') + "...\"");
 }
 
+TEST(Quoted, AWordForAShellIsOneWord) {
+  EXPECT_EQ(shellQuoted("photo-7"), "'photo-7'");
+  EXPECT_EQ(shellQuoted("a b; rm c"), "'a b; rm c'");
+  EXPECT_EQ(shellQuoted("Ada's"), "'Ada'\\''s'");
+}
+
 TEST(Quoted, ANameIsNeverCut) {
   const std::string name(1000, 'x');
   EXPECT_EQ(quoted(name), '"' + name + '"');

@@ -52,7 +52,7 @@ constexpr auto kTakeBack = IPP_OP_CANCEL_JOB;
   "printers, or print with lp, which can ask for the password."
 #define STILL_THERE                                                                          \
   "The job was cancelled on this computer only. The unfinished job photo-7 is still in the " \
-  "queue; remove it with: cancel photo-7"
+  "queue; remove it with: cancel 'photo-7'"
 
 // clang-format off
 constexpr Row kRows[] = {
