@@ -105,7 +105,8 @@ void writeLine(const char* first, const char* second, const char* routine, std::
   localtime_r(&now.tv_sec, &local);
   std::fprintf(gFileStream, "%s%s<%2.2d:%2.2d:%2.2d.%u> : %s in line:%d ## %s%s\n", orEmpty(first),
                orEmpty(second), local.tm_hour, local.tm_min, local.tm_sec,
-               static_cast<unsigned>(now.tv_usec), orEmpty(routine), line, visibleLines(*message).c_str(), "");
+               static_cast<unsigned>(now.tv_usec), orEmpty(routine), line,
+               visibleLines(*message).c_str(), "");
   std::fflush(gFileStream);
 }
 
