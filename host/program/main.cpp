@@ -61,9 +61,13 @@ void takeForStandardInput(JobRequest& job) {
   job.document = kStandardInput;
 }
 
-// Qt ends the program when the display cannot be reached; the person should learn why.
-void complainAndLeave(QtMsgType type, const QMessageLogContext&, const QString& text) {
+void showMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
   std::cerr << visibleLines(text.toStdString()) << "\n";
+}
+
+// Qt ends the program when the display cannot be reached; the person should learn why.
+void complainAndLeave(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  showMessage(type, context, text);
   if (type == QtFatalMsg) std::_Exit(complain(kNotPrinted, kNoDisplay));
 }
 
@@ -114,7 +118,7 @@ int runDialog(const CommandLine& line, const SharedPPD& ppd, DesktopHelpViewer& 
 int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) {
   qInstallMessageHandler(complainAndLeave);
   QApplication application(argc, argv);
-  qInstallMessageHandler(nullptr);
+  qInstallMessageHandler(showMessage);
   QApplication::setApplicationName("tavrin-print");
   QtToolkit toolkit;
   Toolkit::install(&toolkit);

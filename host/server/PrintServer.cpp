@@ -40,11 +40,18 @@ std::string address() { return "the print server at " + std::string(cupsServer()
 PrintServer::PrintServer(std::unique_ptr<Relay> itsRelay, HttpPtr itsConnection)
     : relay(std::move(itsRelay)), connection(std::move(itsConnection)) {}
 PrintServer::PrintServer(PrintServer&&) noexcept = default;
-PrintServer::~PrintServer() = default;
+
+// An answer that was left in the middle has to be read to its end, which is near once the line is
+// cut: else libcups forgets what it needed to unpack it.
+PrintServer::~PrintServer() {
+  if (!connection) return;
+  relay->hangUp();
+  httpFlush(connection.get());
+}
 
 PrintServer& PrintServer::operator=(PrintServer&& other) noexcept {
-  connection = std::move(other.connection);  // it goes through its relay until it is closed
-  relay = std::move(other.relay);
+  relay.swap(other.relay);
+  connection.swap(other.connection);
   return *this;
 }
 

@@ -69,9 +69,8 @@ class Flow {
   std::size_t total = 0;
 };
 
-// Waits for nothing at all where there is nothing to wait for.
-pollfd waitingFor(const FileDescriptor& end, int events) {
-  return {events == 0 ? -1 : end.get(), static_cast<short>(events), 0};
+pollfd waitingFor(int descriptor, int events) {
+  return {descriptor, static_cast<short>(events), 0};
 }
 
 }  // namespace
@@ -83,8 +82,8 @@ class Relay::Line {
       : near(std::move(toLibcups)), far(std::move(toServer)) {}
 
   std::array<pollfd, 2> ends() const {
-    return {waitingFor(near, question.atSource() | answer.atTarget()),
-            waitingFor(far, answer.atSource() | question.atTarget())};
+    return {atEnd(near, question.atSource() | answer.atTarget()),
+            atEnd(far, answer.atSource() | question.atTarget())};
   }
 
   // Both pass on what there is. False when the line is of no more use; a server that listens no
@@ -94,6 +93,11 @@ class Relay::Line {
   std::size_t takeReceived() { return answer.takeTotal(); }
 
  private:
+  // Where nothing is wanted of an end, that it was closed must not wake anybody.
+  static pollfd atEnd(const FileDescriptor& end, int events) {
+    return waitingFor(events == 0 ? -1 : end.get(), events);
+  }
+
   FileDescriptor near, far;
   Flow question, answer;
 };
@@ -118,7 +122,9 @@ Relay::Relay(AddressListPtr itsServer, FileDescriptor firstConnection, const Can
   if (entrance) thread = std::thread([this] { work(); });
 }
 
-Relay::~Relay() {
+Relay::~Relay() { hangUp(); }
+
+void Relay::hangUp() {
   over = true;
   entrance.shut();
   if (thread.joinable()) thread.join();
@@ -154,11 +160,15 @@ bool Relay::mustCut() {
   return over || reason != Cut::none;
 }
 
-// For somebody to come or something to happen on the line, but not for long.
+// For somebody to come or something to happen on the line, but not for long. The entrance wakes it
+// when it is shut.
 void Relay::wait(const Line* line) const {
-  std::array<pollfd, 2> ends{pollfd{entrance.descriptor(), POLLIN, 0}, pollfd{-1, 0, 0}};
-  if (line) ends = line->ends();
-  poll(ends.data(), ends.size(), kLookMilliseconds);
+  std::array<pollfd, 3> ends{};
+  ends[0] = waitingFor(entrance.descriptor(), line ? 0 : POLLIN);
+  std::size_t count = 1;
+  if (line)
+    for (const pollfd& end : line->ends()) ends[count++] = end;
+  poll(ends.data(), count, kLookMilliseconds);
 }
 
 // Null when nobody has come, or the server cannot be reached any more.

@@ -40,7 +40,10 @@ class Relay {
   // Nothing is wanted of the server for now: there is no deadline until the next restart.
   void pause();
 
-  // Why the line was cut.
+  // Cuts the line, as nobody needs it any more.
+  void hangUp();
+
+  // Why the line was cut by itself.
   enum class Cut { none, cancelled, late, tooLong };
   Cut cut() const { return reason; }
 
