@@ -21,11 +21,6 @@ struct HttpCloser {
 };
 using HttpPtr = std::unique_ptr<http_t, HttpCloser>;
 
-struct AddressListDeleter {
-  void operator()(http_addrlist_t* addresses) const { httpAddrFreeList(addresses); }
-};
-using AddressListPtr = std::unique_ptr<http_addrlist_t, AddressListDeleter>;
-
 struct IppDeleter {
   void operator()(ipp_t* message) const { ippDelete(message); }
 };

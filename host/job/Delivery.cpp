@@ -26,14 +26,13 @@ OptionList optionsOfJob(OptionList options) {
 // libcups' own call looks for the printer first, in a way that waits for minutes for a silent
 // server.
 Cancellable<int> Delivery::create(const OptionList& options) {
-  server.refresh();
   IppPtr creation = printerRequest(IPP_OP_CREATE_JOB, request.printer);
   ippAddString(creation.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                jobTitle(request).c_str());
   const CupsOptions array(options);
   for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION})
     cupsEncodeOptions2(creation.get(), array.count(), array.data(), group);
-  const IppPtr answer = ask(server.http(), std::move(creation));
+  const IppPtr answer = server.ask(std::move(creation));
   jobId = answer ? integerIn(*answer, "job-id") : 0;
   if (jobId == 0) return server.noAnswer(whatFailed());
   return jobId;
@@ -41,35 +40,25 @@ Cancellable<int> Delivery::create(const OptionList& options) {
 
 Cancellable<Done> Delivery::send(Document& document, const CancelFlag& cancel,
                                  const ProgressCallback& progress) {
-  server.refresh();
-  if (const http_status_t status = startDocument(document); status != HTTP_STATUS_CONTINUE)
-    return server.refused(whatFailed(), status);
-  const auto sendPiece = [this](std::span<const char> bytes) { return sendBytes(bytes); };
+  if (!server.beginDocument(sendRequest(document))) return server.noAnswer(whatFailed());
+  const auto sendPiece = [this](std::span<const char> bytes) -> Cancellable<Done> {
+    if (!server.sendDocument(bytes)) return server.noAnswer(whatFailed());
+    return Done{};
+  };
   if (auto sent = document.readAll(sendPiece, cancel, progress); !sent) return sent;
-  server.refresh();
-  const IppPtr answer(cupsGetResponse(server.http(), "/"));
-  if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
-    return server.noAnswer(whatFailed());
+  if (!server.endDocument()) return server.noAnswer(whatFailed());
   return Done{};
 }
 
-http_status_t Delivery::startDocument(const Document& document) {
-  const IppPtr start = printerRequest(IPP_OP_SEND_DOCUMENT, request.printer);
-  ippAddInteger(start.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
-  ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+IppPtr Delivery::sendRequest(const Document& document) const {
+  IppPtr sending = printerRequest(IPP_OP_SEND_DOCUMENT, request.printer);
+  ippAddInteger(sending.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+  ippAddString(sending.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
                document.name().c_str());
-  ippAddString(start.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, kFormatOption, nullptr,
+  ippAddString(sending.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, kFormatOption, nullptr,
                sentFormat(request, document).c_str());
-  ippAddBoolean(start.get(), IPP_TAG_OPERATION, "last-document", 1);
-  return cupsSendRequest(server.http(), start.get(), "/", CUPS_LENGTH_VARIABLE);
-}
-
-Cancellable<Done> Delivery::sendBytes(std::span<const char> bytes) {
-  server.refresh();
-  if (cupsWriteRequestData(server.http(), bytes.data(), bytes.size()) != HTTP_STATUS_CONTINUE)
-    return server.noAnswer(whatFailed());
-  server.pause();  // until the document has more to send
-  return Done{};
+  ippAddBoolean(sending.get(), IPP_TAG_OPERATION, "last-document", 1);
+  return sending;
 }
 
 std::string Delivery::whatFailed() const {

@@ -24,8 +24,7 @@ class Delivery {
                          const ProgressCallback& progress);
 
  private:
-  http_status_t startDocument(const Document& document);
-  Cancellable<Done> sendBytes(std::span<const char> bytes);
+  IppPtr sendRequest(const Document& document) const;
   std::string whatFailed() const;
 
   const JobRequest& request;

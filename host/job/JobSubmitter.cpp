@@ -22,8 +22,7 @@ bool arrived(ipp_t& job, const std::string& name, const std::string& value) {
 // The job as the server has it now, with the options that it lacks.
 Cancellable<Submission> readBack(PrintServer& server, int jobId, const OptionList& options) {
   Submission submission{jobId, {}, {}};
-  server.refresh();
-  const IppPtr job = ask(server.http(), jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, jobId));
+  const IppPtr job = server.ask(jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, jobId));
   if (!job) {
     const NoValue why = server.noAnswer("The job could not be read back");
     if (std::holds_alternative<Cancelled>(why)) return why;
@@ -38,8 +37,8 @@ Cancellable<Submission> readBack(PrintServer& server, int jobId, const OptionLis
 // Takes back a job that did not arrive as it should; the answer is why it did not, and what is left
 // to do.
 NoValue takeBack(const JobRequest& request, int jobId, const NoValue& why) {
-  const auto server = PrintServer::connect(neverCancelled(), kShortPatience);
-  if (server && ask(server->http(), jobRequest(IPP_OP_CANCEL_JOB, jobId))) return why;
+  auto server = PrintServer::connect(neverCancelled(), kShortPatience);
+  if (server && server->ask(jobRequest(IPP_OP_CANCEL_JOB, jobId))) return why;
   const auto* failure = std::get_if<Failure>(&why);
   const std::string reason =
       failure ? failure->reason : "The job was cancelled on this computer only.";

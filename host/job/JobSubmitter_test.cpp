@@ -43,8 +43,8 @@ class JobSubmitterTest : public testing::Test {
   }
   // The job's state as the server has it; 0 where there is no such job.
   static int jobState(int jobId) {
-    const auto server = PrintServer::connect(neverCancelled(), kUsualPatience);
-    const IppPtr job = ask(server->http(), jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, jobId));
+    auto server = PrintServer::connect(neverCancelled(), kUsualPatience);
+    const IppPtr job = server->ask(jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, jobId));
     return job ? integerIn(*job, "job-state") : 0;
   }
 

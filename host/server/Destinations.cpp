@@ -1,30 +1,21 @@
 #include "host/server/Destinations.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <span>
 #include <string_view>
 
+#include "host/server/DestinationArray.h"
 #include "host/server/IppRequest.h"
+#include "host/server/SavedOptions.h"
+#include "host/support/TextLists.h"
 #include "platform/text/Quoted.h"
 #include "ppd/PPDRecords.h"
 
 namespace tavrin {
 
 namespace {
-
-// Owns the array that libcups makes of all destinations.
-class DestinationArray {
- public:
-  explicit DestinationArray(http_t* http) : count(cupsGetDests2(http, &first)) {}
-  DestinationArray(const DestinationArray&) = delete;
-  DestinationArray& operator=(const DestinationArray&) = delete;
-  ~DestinationArray() { cupsFreeDests(count, first); }
-
-  std::span<const cups_dest_t> all() const { return recordsIn(first, count); }
-
- private:
-  cups_dest_t* first = nullptr;  // before the count, which is made with it
-  int count;
-};
 
 // Whether it describes the printer; all else that libcups keeps with a destination is an option.
 bool describesPrinter(std::string_view name) {
@@ -69,30 +60,105 @@ bool hasQueue(const cups_dest_t& destination) {
   return (type & CUPS_PRINTER_DISCOVERED) == 0;
 }
 
-bool failed(const PrintServer& server) {
-  // The server says "not found" when it has no printers at all.
-  return server.gaveUp() || (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE &&
-                             cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND);
+// The value as lp would have it; libcups' own writing has words for some numbers.
+std::string optionValueOf(ipp_attribute_t& attribute) {
+  const ipp_tag_t tag = ippGetValueTag(&attribute);
+  if (tag != IPP_TAG_ENUM) return valuesOf(attribute);
+  std::vector<std::string> numbers;
+  for (int i = 0; i < ippGetCount(&attribute); ++i)
+    numbers.push_back(std::to_string(ippGetInteger(&attribute, i)));
+  return joined(numbers, ",");
+}
+
+// The name of the option for which the attribute has the default; empty when it is none. As libcups
+// has it: a quality is the printer's own option.
+std::string defaultedOption(const std::string& name, ipp_tag_t tag) {
+  constexpr std::string_view kSuffix = "-default";
+  constexpr std::array kTags{IPP_TAG_INTEGER, IPP_TAG_ENUM, IPP_TAG_BOOLEAN,
+                             IPP_TAG_KEYWORD, IPP_TAG_NAME, IPP_TAG_RANGE};
+  const bool isDefault = name.ends_with(kSuffix) && !name.starts_with("notify-") &&
+                         name != "print-quality-default" &&
+                         std::ranges::find(kTags, tag) != kTags.end();
+  return isDefault ? name.substr(0, name.size() - kSuffix.size()) : "";
+}
+
+void addOption(cups_dest_t& destination, ipp_attribute_t& attribute) {
+  const std::string name = ippGetName(&attribute);
+  const std::string option =
+      describesPrinter(name) ? name : defaultedOption(name, ippGetValueTag(&attribute));
+  if (!option.empty())
+    destination.num_options = cupsAddOption(option.c_str(), optionValueOf(attribute).c_str(),
+                                            destination.num_options, &destination.options);
+}
+
+// The printers of an answer: a group of attributes each, with nameless ones between them.
+void addPrinters(DestinationArray& destinations, ipp_t& answer) {
+  std::vector<ipp_attribute_t*> group;
+  std::string name;
+  const auto addGroup = [&] {
+    if (!name.empty())
+      for (ipp_attribute_t* attribute : group)
+        addOption(destinations.add(name.c_str(), nullptr), *attribute);
+    group.clear();
+    name.clear();
+  };
+  for (auto* next = ippFirstAttribute(&answer); next; next = ippNextAttribute(&answer)) {
+    if (!ippGetName(next) || ippGetGroupTag(next) != IPP_TAG_PRINTER) {
+      addGroup();
+      continue;
+    }
+    group.push_back(next);
+    if (std::string_view(ippGetName(next)) == "printer-name") name = valuesOf(*next);
+  }
+  addGroup();
+}
+
+IppPtr requestFor(ipp_op_t operation, std::span<const char* const> attributes) {
+  IppPtr request(ippNewRequest(operation));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
+  ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                static_cast<int>(attributes.size()), nullptr, attributes.data());
+  return request;
+}
+
+// False when the server does not answer; having no default is an answer.
+bool addDefault(DestinationArray& destinations, PrintServer& server) {
+  constexpr std::array kName{"printer-name"};
+  const IppPtr answer = server.ask(requestFor(IPP_OP_CUPS_GET_DEFAULT, kName));
+  if (answer) destinations.setDefault(textIn(*answer, "printer-name").c_str(), nullptr);
+  return !server.gaveUp();
 }
 
 }  // namespace
 
 Cancellable<std::vector<Printer>> readPrinters(const CancelFlag& cancel, Patience patience) {
-  const auto server = PrintServer::connect(cancel, patience);
+  constexpr std::array kWanted{"printer-name",          "printer-type",
+                               "printer-state",         "printer-state-message",
+                               "printer-state-reasons", "printer-is-accepting-jobs",
+                               "job-sheets-default",    "printer-defaults"};
+  auto server = PrintServer::connect(cancel, patience);
   if (!server) return server.why();
-  const DestinationArray destinations(server->http());
+  const IppPtr answer = server->ask(requestFor(IPP_OP_CUPS_GET_PRINTERS, kWanted));
+  // The server says "not found" when it has no printers at all.
+  if (!answer && server->answerStatus() == IPP_STATUS_ERROR_NOT_FOUND)
+    return std::vector<Printer>();
+  DestinationArray destinations;
+  if (answer) addPrinters(destinations, *answer);
+  if (!answer || !addDefault(destinations, *server))
+    return server->noAnswer("The printers cannot be listed");
+  addSavedOptions(destinations);
   std::vector<Printer> printers;
   for (const cups_dest_t& destination : destinations.all())
     if (hasQueue(destination)) printers.push_back(printerFrom(destination));
-  if (printers.empty() && failed(*server)) return server->noAnswer("The printers cannot be listed");
   return printers;
 }
 
 Cancellable<PrinterState> readPrinterState(const std::string& queue, const CancelFlag& cancel,
                                            Patience patience) {
-  const auto server = PrintServer::connect(cancel, patience);
+  auto server = PrintServer::connect(cancel, patience);
   if (!server) return server.why();
-  const IppPtr answer = ask(server->http(), printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue));
+  const IppPtr answer = server->ask(printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue));
   if (!answer)
     return server->noAnswer("The printer " + quoted(queue) + " cannot be asked for its state");
   PrinterState state;

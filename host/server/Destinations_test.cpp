@@ -1,6 +1,8 @@
 #include "host/server/Destinations.h"
 
 #include <future>
+#include <span>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +34,79 @@ TEST_F(DestinationsTest, AreQueuesAndInstancesWithTheirStates) {
   EXPECT_EQ(stateText(printers->at(0).state), "Idle, not accepting jobs");
   EXPECT_EQ(stateText(printers->at(1).state), "Idle");
   EXPECT_EQ(optionValue(printers->at(2).options, "PrintQuality"), "Draft");
+}
+
+// All that a list says, in one text a printer.
+std::vector<std::string> told(const std::vector<Printer>& printers) {
+  std::vector<std::string> lines;
+  for (const Printer& printer : printers) {
+    std::string line = destinationName(printer) + (printer.isDefault ? " default" : "");
+    for (const auto& [name, value] : printer.options) line += " " + name + "=" + value;
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+std::vector<std::string> toldByLibcups() {
+  cups_dest_t* first = nullptr;
+  const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &first);
+  std::vector<Printer> printers;
+  for (const cups_dest_t& destination : std::span(first, static_cast<std::size_t>(count))) {
+    Printer printer{destination.name,
+                    destination.instance ? destination.instance : "",
+                    destination.is_default != 0,
+                    {},
+                    {}};
+    for (int i = 0; i < destination.num_options; ++i)
+      if (const std::string name = destination.options[i].name;
+          !name.starts_with("printer-") && !name.starts_with("marker-") && name != "device-uri")
+        printer.options.emplace_back(name, destination.options[i].value);
+    printers.push_back(printer);
+  }
+  cupsFreeDests(count, first);
+  return told(printers);
+}
+
+TEST_F(DestinationsTest, AreThoseThatLibcupsTellsOf) {
+  for (const char* name : {"tav", "Other", "third"}) cups.addPlainQueue(name);
+  cups.run({"lpadmin", "-d", "Other"});
+  cups.run({"lpadmin", "-p", "tav", "-o", "job-sheets-default=standard,none", "-o",
+            "number-up-default=2", "-o", "orientation-requested-default=4", "-o",
+            "print-quality-default=5"});
+  cups.run({"lpoptions", "-p", "tav", "-o", "MediaType=IronOn", "-o", "note=two\\ words"});
+  cups.run({"lpoptions", "-p", "tav/draft", "-o", "PrintQuality=Draft"});
+  cups.run({"lpoptions", "-p", "third/fine", "-o", "PrintQuality=Best"});
+  const auto same = [] {
+    const auto printers = readPrinters();
+    ASSERT_TRUE(printers) << printers.reason();
+    EXPECT_EQ(told(*printers), toldByLibcups());
+  };
+  std::thread(same).join();
+  cups.run({"lpoptions", "-d", "tav/draft"});
+  std::thread(same).join();
+}
+
+TEST_F(DestinationsTest, TheEnvironmentNamesTheDefaultAsForLp) {
+  for (const char* name : {"tav", "other"}) cups.addPlainQueue(name);
+  cups.run({"lpoptions", "-p", "other/draft", "-o", "PrintQuality=Draft"});
+  cups.run({"lpoptions", "-d", "tav"});
+  const auto byDefault = [] {
+    const auto printers = readPrinters();
+    for (const Printer& printer : *printers)
+      if (printer.isDefault) return destinationName(printer);
+    return std::string();
+  };
+  EXPECT_EQ(byDefault(), "tav");
+  setenv("PRINTER", "other", 1);
+  EXPECT_EQ(byDefault(), "other");
+  setenv("LPDEST", "other/draft", 1);
+  EXPECT_EQ(byDefault(), "other/draft");
+  setenv("LPDEST", "nowhere", 1);
+  EXPECT_EQ(byDefault(), "tav");
+  unsetenv("LPDEST");
+  setenv("PRINTER", "lp", 1);
+  EXPECT_EQ(byDefault(), "tav") << "which everybody has";
+  unsetenv("PRINTER");
 }
 
 TEST_F(DestinationsTest, MayBeNone) {

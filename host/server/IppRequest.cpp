@@ -27,12 +27,6 @@ IppPtr jobRequest(ipp_op_t operation, int jobId) {
   return requestAbout(operation, "job-uri", "ipp://localhost/jobs/" + std::to_string(jobId));
 }
 
-IppPtr ask(http_t* http, IppPtr request) {
-  IppPtr answer(cupsDoRequest(http, request.release(), "/"));  // which frees the request
-  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) return nullptr;
-  return answer;
-}
-
 int integerIn(ipp_t& answer, const char* name) {
   ipp_attribute_t* attribute = ippFindAttribute(&answer, name, IPP_TAG_ZERO);
   const ipp_tag_t tag = ippGetValueTag(attribute);

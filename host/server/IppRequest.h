@@ -13,10 +13,6 @@ IppPtr printerRequest(ipp_op_t operation, const std::string& queue);
 // A request about a job.
 IppPtr jobRequest(ipp_op_t operation, int jobId);
 
-// The server's answer; null when there is none or it says that the request failed. libcups' last
-// error then tells why.
-IppPtr ask(http_t* http, IppPtr request);
-
 // What an answer says under a name; 0, the fallback or the empty text when it says nothing of that
 // kind. Several values are separated by commas.
 int integerIn(ipp_t& answer, const char* name);

@@ -1,100 +1,253 @@
 #include "host/server/PrintServer.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <cstring>
 #include <sys/socket.h>
+#include <utility>
 
+#include "host/server/IppRequest.h"
 #include "platform/text/Quoted.h"
 
 namespace tavrin {
 
 namespace {
 
-const char* noPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
+// A first try, one with an account, one with encryption.
+constexpr int kMostTries = 3;
+// How long a server may take to say that it wants no document.
+constexpr int kWelcomeMilliseconds = 1000;
+// The length of a request that a document follows.
+constexpr std::size_t kOpenLength = 0;
 
-bool wantsPassword() {
-  return cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHORIZED ||
-         cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHENTICATED ||
-         cupsLastError() == IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED;
-}
-
+constexpr char kResource[] = "/";
 constexpr char kWantsPassword[] =
     "the print server does not allow it, or wants a password. Ask whoever looks after the "
     "printers, "
     "or print with lp, which can ask for the password.";
 
-// Whether libcups only knows that the right bytes did not come ("Success", "Broken pipe").
-bool knowsNoReason(const std::string& words) {
-  if (cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE) return true;
-  constexpr std::array kErrors{0, EPIPE, ECONNRESET, ECONNREFUSED, ENOTCONN, EINTR, EAGAIN};
-  return words.empty() ||
-         std::ranges::any_of(kErrors, [&](int error) { return words == std::strerror(error); });
+const char* noPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
+
+// An answer on its way, and how much of it may still come.
+struct Incoming {
+  http_t* http;
+  std::size_t& received;
+};
+
+// Reads for libcups, which wants all the bytes that it asks for.
+ssize_t readAll(void* context, ipp_uchar_t* buffer, std::size_t bytes) {
+  const Incoming& incoming = *static_cast<Incoming*>(context);
+  std::size_t have = 0;
+  while (have < bytes && incoming.received <= kLongestAnswer) {
+    const ssize_t more =
+        httpRead2(incoming.http, reinterpret_cast<char*>(buffer) + have, bytes - have);
+    if (more <= 0) break;
+    have += static_cast<std::size_t>(more);
+    incoming.received += static_cast<std::size_t>(more);
+  }
+  return have == bytes ? static_cast<ssize_t>(have) : -1;
+}
+
+// Whether the answer came to the end that was announced, by its length or chunk by chunk. libcups
+// takes the end of the connection for the end of the answer.
+bool isWhole(http_t* http) { return httpGetRemaining(http) == 0 && httpError(http) == 0; }
+
+bool wantsPassword(http_status_t http, ipp_status_t ipp) {
+  return http == HTTP_STATUS_UNAUTHORIZED || http == HTTP_STATUS_FORBIDDEN ||
+         ipp == IPP_STATUS_ERROR_NOT_AUTHORIZED || ipp == IPP_STATUS_ERROR_NOT_AUTHENTICATED;
 }
 
 std::string address() { return "the print server at " + std::string(cupsServer()); }
 
 }  // namespace
 
-PrintServer::PrintServer(std::unique_ptr<Relay> itsRelay, HttpPtr itsConnection)
-    : relay(std::move(itsRelay)), connection(std::move(itsConnection)) {}
-PrintServer::PrintServer(PrintServer&&) noexcept = default;
+PrintServer::PrintServer(HttpPtr connection) : http(std::move(connection)) {}
 
-// An answer that was left in the middle has to be read to its end, which is near once the line is
-// cut: else libcups forgets what it needed to unpack it.
 PrintServer::~PrintServer() {
-  if (!connection) return;
-  relay->hangUp();
-  httpFlush(connection.get());
+  if (http) hangUp();
 }
 
 PrintServer& PrintServer::operator=(PrintServer&& other) noexcept {
-  relay.swap(other.relay);
-  connection.swap(other.connection);
+  std::swap(http, other.http);
+  std::swap(guard, other.guard);
+  std::swap(isFresh, other.isFresh);
+  std::swap(wantsEncryption, other.wantsEncryption);
+  std::swap(last, other.last);
   return *this;
 }
 
 Cancellable<PrintServer> PrintServer::connect(const CancelFlag& cancel, Patience patience) {
   if (cancel) return Cancelled{};
-  auto relay = Relay::to(cupsServer(), ippPort(), cancel, patience);
-  HttpPtr connection;
-  if (relay)
-    connection.reset(httpConnect2(cupsServer(), ippPort(), relay->address().get(), AF_UNSPEC,
-                                  cupsEncryption(), 1, static_cast<int>(patience.count()),
-                                  nullptr));
-  if (!connection)
-    return Failure{"The print server at " + std::string(cupsServer()) +
-                   " cannot be reached. Check that it runs."};
   // libcups would ask for it in the terminal, where nobody looks. Holds for the calling thread.
   cupsSetPasswordCB2(noPassword, nullptr);
-  return PrintServer(std::move(relay), std::move(connection));
+  // With no time to connect in, so that it does not yet.
+  PrintServer server(HttpPtr(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                          cupsEncryption(), /*blocking=*/1, /*msec=*/0, nullptr)));
+  if (server.http) {
+    server.guard = std::make_unique<RequestGuard>(*server.http, cancel, patience);
+    server.isFresh = server.guard->connect();
+    if (server.isFresh) return server;
+  }
+  if (cancel) return Cancelled{};
+  return Failure{"The print server at " + std::string(cupsServer()) +
+                 " cannot be reached. Check that it runs."};
 }
 
+// --- Requests ---
+
+IppPtr PrintServer::ask(IppPtr request) {
+  const bool isAnswered = tryAll("POST", kResource, [&] {
+    return post(*request, ippLength(request.get())) && write(*request) &&
+           readStatus() == HTTP_STATUS_OK;
+  });
+  return isAnswered ? readAnswer() : nullptr;
+}
+
+bool PrintServer::beginDocument(IppPtr request) {
+  const bool isBegun = tryAll("POST", kResource, [&] {
+    return post(*request, kOpenLength) && isWelcome() && write(*request);
+  });
+  guard->pause();
+  return isBegun;
+}
+
+bool PrintServer::sendDocument(std::span<const char> piece) {
+  guard->restart();
+  const auto size = static_cast<ssize_t>(piece.size());
+  const bool sent = !hasAnswered() && httpWrite2(http.get(), piece.data(), piece.size()) == size;
+  // Who hangs up in the middle has often said why.
+  if (!sent && last.http == HTTP_STATUS_CONTINUE) readStatus();
+  guard->pause();
+  return sent;
+}
+
+// Whether the answer is there before the document is: it can be no good one.
+bool PrintServer::hasAnswered() {
+  if (!httpWait(http.get(), 0)) return false;
+  last.http = httpUpdate(http.get());
+  return last.http != HTTP_STATUS_CONTINUE;
+}
+
+IppPtr PrintServer::endDocument() {
+  guard->restart();
+  const bool isAnswered = httpWrite2(http.get(), "", 0) >= 0 && readStatus() == HTTP_STATUS_OK;
+  return isAnswered ? readAnswer() : nullptr;
+}
+
+bool PrintServer::beginFile(const std::string& resource) {
+  return tryAll("GET", resource, [&] {
+    return httpGet(http.get(), resource.c_str()) == 0 && readStatus() == HTTP_STATUS_OK;
+  });
+}
+
+ssize_t PrintServer::readFile(std::span<char> buffer) {
+  const ssize_t bytes = httpRead2(http.get(), buffer.data(), buffer.size());
+  if (bytes == 0 && !isWhole(http.get())) return -1;
+  if (bytes > 0) last.received += static_cast<std::size_t>(bytes);
+  return last.received > kLongestAnswer ? -1 : bytes;
+}
+
+// --- The steps of a request ---
+
+// Makes a request, each try over a connection of its own: what is left of the answer before may
+// have no end.
+template <class Step>
+bool PrintServer::tryAll(const char* method, const std::string& resource, Step step) {
+  guard->restart();
+  last = {};
+  for (int tries = 0; tries < kMostTries; ++tries) {
+    if (!std::exchange(isFresh, false)) {
+      hangUp();
+      if (!guard->connect()) return false;
+    }
+    if (!encrypt()) return false;
+    httpClearFields(http.get());
+    if (const char* account = httpGetAuthString(http.get()))
+      httpSetField(http.get(), HTTP_FIELD_AUTHORIZATION, account);
+    if (step()) return true;
+    if (!mayTryAgain(method, resource)) return false;
+  }
+  return false;
+}
+
+// libcups forgets what it needed to unpack an answer unless the answer is read to its end, which is
+// near once nothing comes any more.
+void PrintServer::hangUp() {
+  if (httpGetFd(http.get()) < 0) return;
+  shutdown(httpGetFd(http.get()), SHUT_RDWR);
+  httpFlush(http.get());
+}
+
+bool PrintServer::encrypt() {
+  return !wantsEncryption || httpEncryption(http.get(), HTTP_ENCRYPTION_REQUIRED) == 0;
+}
+
+// Whether another try may be allowed what this one was not: encrypted, or as a user with an
+// account.
+bool PrintServer::mayTryAgain(const char* method, const std::string& resource) {
+  if (last.http == HTTP_STATUS_UPGRADE_REQUIRED) return !std::exchange(wantsEncryption, true);
+  return last.http == HTTP_STATUS_UNAUTHORIZED &&
+         cupsDoAuthentication(http.get(), method, resource.c_str()) == 0;
+}
+
+// Begins a request in IPP of that length.
+bool PrintServer::post(ipp_t& request, std::size_t length) {
+  ippSetState(&request, IPP_STATE_IDLE);  // it may have been sent before
+  httpSetField(http.get(), HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+  httpSetLength(http.get(), length);
+  if (length == kOpenLength) httpSetExpect(http.get(), HTTP_STATUS_CONTINUE);
+  return httpPost(http.get(), kResource) == 0;
+}
+
+// Whether the server wants the document. One that does not say so in time is taken to want it.
+bool PrintServer::isWelcome() {
+  last.http = HTTP_STATUS_CONTINUE;
+  if (httpWait(http.get(), kWelcomeMilliseconds)) last.http = httpUpdate(http.get());
+  return last.http == HTTP_STATUS_CONTINUE;
+}
+
+bool PrintServer::write(ipp_t& request) {
+  ipp_state_t state = IPP_STATE_IDLE;
+  while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+    state = ippWrite(http.get(), &request);
+  return state == IPP_STATE_DATA && httpFlushWrite(http.get()) >= 0;
+}
+
+http_status_t PrintServer::readStatus() {
+  do last.http = httpUpdate(http.get());
+  while (last.http == HTTP_STATUS_CONTINUE);
+  return last.http;
+}
+
+IppPtr PrintServer::readAnswer() {
+  IppPtr answer(ippNew());
+  Incoming incoming{http.get(), last.received};
+  ipp_state_t state = IPP_STATE_IDLE;
+  while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+    state = ippReadIO(&incoming, readAll, /*blocking=*/1, nullptr, answer.get());
+  if (state == IPP_STATE_ERROR) return nullptr;
+  last.ipp = ippGetStatusCode(answer.get());
+  if (last.ipp <= IPP_STATUS_OK_EVENTS_COMPLETE) return answer;
+  last.words = textIn(*answer, "status-message");
+  if (last.words.empty()) last.words = ippErrorString(last.ipp);
+  return nullptr;
+}
+
+// --- What to say of a failure ---
+
 NoValue PrintServer::noAnswer(const std::string& words) const {
-  if (relay->cut() == Relay::Cut::cancelled) return Cancelled{};
+  if (guard->cut() == RequestGuard::Cut::cancelled) return Cancelled{};
   return Failure{words + ": " + whatItDid()};
 }
 
-NoValue PrintServer::refused(const std::string& words, http_status_t status) const {
-  if (gaveUp() || status < HTTP_STATUS_MULTIPLE_CHOICES) return noAnswer(words);
-  if (status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_FORBIDDEN)
-    return Failure{words + ": " + kWantsPassword};
-  return Failure{words + ": the print server says " + quoted(httpStatus(status)) + "."};
-}
-
 std::string PrintServer::whatItDid() const {
-  if (relay->cut() == Relay::Cut::late)
+  if (guard->cut() == RequestGuard::Cut::late)
     return address() + " does not answer. Check that it runs, then try again.";
-  if (relay->cut() == Relay::Cut::tooLong)
+  if (last.received > kLongestAnswer)
     return address() + " sent more than any answer needs. Check that it is a print server.";
-  if (wantsPassword()) return kWantsPassword;
-  const char* words = cupsLastErrorString();  // null before the thread's first request in IPP
-  std::string reason = words ? words : "";
-  if (knowsNoReason(reason))
+  if (wantsPassword(last.http, last.ipp)) return kWantsPassword;
+  if (last.http >= HTTP_STATUS_MULTIPLE_CHOICES)
+    return "the print server says " + quoted(httpStatus(last.http)) + ".";
+  if (last.words.empty())
     return address() + " gave no proper answer. Check that it runs, then try again.";
-  while (reason.ends_with('.')) reason.pop_back();
-  return reason + ".";
+  return last.words + (last.words.ends_with('.') ? "" : ".");
 }
 
 }  // namespace tavrin

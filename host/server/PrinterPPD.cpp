@@ -21,27 +21,15 @@ bool fitsInPath(const std::string& queue) {
   });
 }
 
-http_status_t get(http_t* http, const std::string& resource) {
-  httpClearFields(http);
-  if (httpGet(http, resource.c_str()) != 0) return HTTP_STATUS_ERROR;
-  http_status_t status = HTTP_STATUS_CONTINUE;
-  while (status == HTTP_STATUS_CONTINUE) status = httpUpdate(http);
-  return status;
-}
-
-// Whether the answer came to the end that was announced, by its length or chunk by chunk. libcups
-// takes the end of the connection for the end of the answer.
-bool isWhole(http_t* http) { return httpGetRemaining(http) == 0 && httpError(http) == 0; }
-
 // Copies what the server sends. What is wrong with it, as the rest of a sentence; null when nothing
 // is.
-const char* receive(http_t* http, int file) {
+const char* receive(PrintServer& server, int file) {
   std::array<char, 65536> buffer;
   std::size_t total = 0;
   for (;;) {
-    const ssize_t bytes = httpRead2(http, buffer.data(), buffer.size());
-    if (bytes == 0 && isWhole(http)) return nullptr;
-    if (bytes <= 0) return "it was not sent whole. Try again.";
+    const ssize_t bytes = server.readFile(buffer);
+    if (bytes == 0) return nullptr;
+    if (bytes < 0) return "it was not sent whole. Try again.";
     total += static_cast<std::size_t>(bytes);
     if (total > kPPDFileLimit) return "it is too large.";
     if (write(file, buffer.data(), static_cast<std::size_t>(bytes)) != bytes)
@@ -51,14 +39,15 @@ const char* receive(http_t* http, int file) {
 
 // What the server sends as the queue's PPD, in a memory file: nobody else can open it, and
 // nothing is left behind.
-Cancellable<FileDescriptor> fetch(const PrintServer& server, const std::string& queue) {
-  const std::string printer = "The printer " + quoted(queue);
+Cancellable<FileDescriptor> fetch(PrintServer& server, const std::string& queue) {
   const std::string problem = "The description of the printer " + quoted(queue) + " cannot be read";
-  const http_status_t status = get(server.http(), "/printers/" + queue + ".ppd");
-  if (status == HTTP_STATUS_NOT_FOUND) return Failure{printer + " does not exist or has no PPD."};
-  if (status != HTTP_STATUS_OK) return server.refused(problem, status);
+  if (!server.beginFile("/printers/" + queue + ".ppd")) {
+    if (server.status() == HTTP_STATUS_NOT_FOUND)
+      return Failure{"The printer " + quoted(queue) + " does not exist or has no PPD."};
+    return server.noAnswer(problem);
+  }
   FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
-  const char* wrong = receive(server.http(), file.get());
+  const char* wrong = receive(server, file.get());
   if (!wrong) return file;
   if (server.gaveUp()) return server.noAnswer(problem);
   return Failure{problem + ": " + wrong};
@@ -69,7 +58,7 @@ Cancellable<FileDescriptor> fetch(const PrintServer& server, const std::string& 
 Cancellable<PPDPtr> readPrinterPPD(const std::string& queue, const CancelFlag& cancel,
                                    Patience patience) {
   if (!fitsInPath(queue)) return Failure{quoted(queue) + " is not the name of a printer."};
-  const auto server = PrintServer::connect(cancel, patience);
+  auto server = PrintServer::connect(cancel, patience);
   if (!server) return server.why();
   const auto file = fetch(*server, queue);
   if (!file) return file.why();

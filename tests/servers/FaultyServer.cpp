@@ -72,14 +72,16 @@ std::string more(bool wantsPPD) {
   return wantsPPD ? "*% and so on, and so on\n" : ippValue(30'000);
 }
 
-// Many megabytes of blank lines.
-std::string packedLines() {
+// Text that goes on for many megabytes, packed.
+std::string packed(const std::string& start, const std::string& more) {
   const test::TemporaryFolder place;
-  const std::string path = (place.path() / "lines.gz").string();
+  const std::string path = (place.path() / "packed.gz").string();
   {
     const CupsFilePtr file(cupsFileOpen(path.c_str(), "w9"));
-    const std::string lines(1 << 20, '\n');
-    for (int i = 0; i < 16; ++i) cupsFileWrite(file.get(), lines.data(), lines.size());
+    cupsFileWrite(file.get(), start.data(), start.size());
+    std::string block;
+    while (block.size() < (1 << 20)) block += more;
+    for (int i = 0; i < 16; ++i) cupsFileWrite(file.get(), block.data(), block.size());
   }
   return test::textOf(path);
 }
@@ -265,7 +267,7 @@ void FaultyServer::misbehave(http_t* caller, bool wantsPPD) {
       return;
     case Fault::gzipBomb:
       say(caller, ok + "Content-Encoding: gzip\r\nTransfer-Encoding: chunked\r\n\r\n" +
-                      chunk(packedLines()));
+                      chunk(packed(beginning(wantsPPD), wantsPPD ? more(true) : ippAttribute())));
       return;
   }
 }
