@@ -180,7 +180,8 @@ bool FaultyServer::answer(http_t* caller, http_state_t method) {
   const bool isRead = wantsPPD || operation == IPP_OP_CUPS_INVALID ||
                       ippRead(caller, request.get()) == IPP_STATE_DATA;
   const ipp_op_t wanted = wantsPPD ? IPP_OP_CUPS_GET_PPD : ippGetOperation(request.get());
-  if (isRead && operation != IPP_OP_CUPS_INVALID && wanted != operation)
+  const bool isSpoilt = operation == IPP_OP_CUPS_INVALID || wanted == operation;
+  if (isRead && (!isSpoilt || fault == Fault::slow))
     return wantsPPD ? sendPPD(caller) : answerWell(caller, *request);
   {
     const std::lock_guard lock(mutex);
@@ -192,7 +193,8 @@ bool FaultyServer::answer(http_t* caller, http_state_t method) {
 
 bool FaultyServer::answerWell(http_t* caller, ipp_t& request) {
   std::array<char, 4096> document;
-  while (httpRead2(caller, document.data(), document.size()) > 0) continue;
+  while (httpRead2(caller, document.data(), document.size()) > 0)
+    if (fault == Fault::slow) std::this_thread::sleep_for(std::chrono::milliseconds(20));
   if (httpGetRemaining(caller) != 0 || httpError(caller) != 0)
     return false;  // the caller hung up in the middle
   keepBooks(request);
@@ -217,6 +219,8 @@ void FaultyServer::misbehave(http_t* caller, bool wantsPPD) {
   const std::string ok = kOk;
   const std::string chunked = ok + "Transfer-Encoding: chunked\r\n\r\n";
   switch (fault) {
+    case Fault::slow:
+      return;  // answers well
     case Fault::silent:
       return waitUntilHungUp(caller);
     case Fault::dripping:

@@ -16,6 +16,7 @@ namespace tavrin {
 
 // How a print server can misbehave.
 enum class Fault {
+  slow,             // takes what it is sent in small bites, and then answers well
   silent,           // says nothing
   dripping,         // a byte of its answer now and then, without an end
   endlessContinue,  // "100 Continue" again and again
