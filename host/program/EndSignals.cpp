@@ -1,29 +1,49 @@
 #include "host/program/EndSignals.h"
 
 #include <array>
+#include <atomic>
 #include <csignal>
+#include <cstdint>
+#include <ctime>
 #include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tavrin {
 
 namespace {
 
 constexpr std::array kSignals{SIGTERM, SIGINT, SIGHUP};
+constexpr std::int64_t kOneWish = 500;  // milliseconds
+constexpr std::int64_t kNever = -1;
 
-// All that a signal's handler may use.
+// All that a signal's handler may use. Two signals may arrive in two threads at the same time.
 int gWriteEnd = -1;
+std::atomic<std::int64_t> gFirst = kNever;  // when the first one came, as milliseconds() says
+static_assert(decltype(gFirst)::is_always_lock_free, "a handler cannot wait for a lock");
 
-// Leaves alone what somebody else has switched off (nohup).
-void actAsUsual() {
-  for (const int signal : kSignals)
-    if (std::signal(signal, SIG_DFL) == SIG_IGN) std::signal(signal, SIG_IGN);
+std::int64_t milliseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1000000;
 }
 
-void passOn(int) {
-  actAsUsual();  // for the second one
-  const char byte = 0;
-  (void)!write(gWriteEnd, &byte, 1);
+// Leaves alone what somebody else has switched off (nohup).
+void answerAllWith(void (*handler)(int)) {
+  for (const int signal : kSignals)
+    if (std::signal(signal, handler) == SIG_IGN) std::signal(signal, SIG_IGN);
+}
+
+void passOn(int signal) {
+  const std::int64_t now = milliseconds();
+  std::int64_t first = kNever;
+  if (gFirst.compare_exchange_strong(first, now)) {
+    const char byte = 0;
+    (void)!write(gWriteEnd, &byte, 1);
+  } else if (now - first > kOneWish) {
+    std::signal(signal, SIG_DFL);
+    raise(signal);  // arrives when this handler returns
+  }
 }
 
 // A pipe of which the handler has the other end. A handler may do next to nothing; what is to be
@@ -43,12 +63,12 @@ EndSignals::EndSignals(std::function<void()> heard)
     notifier.setEnabled(false);
     call();
   });
-  for (const int signal : kSignals)
-    if (std::signal(signal, passOn) == SIG_IGN) std::signal(signal, SIG_IGN);
+  gFirst = kNever;
+  answerAllWith(passOn);
 }
 
 EndSignals::~EndSignals() {
-  actAsUsual();
+  if (gFirst == kNever) answerAllWith(SIG_DFL);
   close(gWriteEnd);
 }
 
