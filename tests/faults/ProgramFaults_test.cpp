@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/fixtures/DefaultSignals.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 // What a person sees of a program that is started badly, and what is left in the current folder.
@@ -26,10 +27,14 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 #define REPLAY TAVRIN_REPLAY " "
 #define SEEN " 2>&3 "  // what the program says on standard error
 
-// Waits until the program listens to SIGTERM, which is bit 14 of what it catches.
-#define UNTIL_IT_LISTENS                                                            \
-  "until [ $((0x$(sed -n 's/^SigCgt:.//p' /proc/$!/status) & 0x4000)) -ne 0 ]; do " \
-  "sleep 0.02; done; "
+// The sample's dialog, and the wait until it listens to a signal, which is a bit of what it
+// catches. A program that is gone is not waited for, and one that never listens not for long.
+#define SAMPLE "QT_QPA_PLATFORM=offscreen " PRINT "--sample" SEEN "& "
+#define IS_DEAF_TO(bit) "[ $((0x0$(sed -n 's/^SigCgt:.//p' /proc/$!/status) & " bit ")) -eq 0 ]"
+#define UNTIL_IT_HEARS(bit) \
+  "for try in $(seq 999); do kill -0 $! && " IS_DEAF_TO(bit) " || break; sleep 0.02; done; "
+#define TERM "0x4000"
+#define HUP "0x1"
 
 constexpr Row kRows[] = {
     {"NoInput", PRINT "--sample -" SEEN "<&-", 2, "Standard input is closed"},
@@ -46,13 +51,10 @@ constexpr Row kRows[] = {
      "x\\u202efdp.exe"},
     {"NameThatIsNoUtf8", PRINT "\"$(printf 'caf\\351.pdf')\"" SEEN, 3, "caf\\xe9.pdf"},
     {"EmptyFileOfTheKernel", PRINT "/dev/null" SEEN, 3, "is a device, not a file"},
-    {"EndedWhileItWaits",
-     "QT_QPA_PLATFORM=offscreen " PRINT "--sample" SEEN "& " UNTIL_IT_LISTENS "kill $!; wait $!", 1,
-     ""},
-    {"HungUpOnWhileItWaits",
-     "QT_QPA_PLATFORM=offscreen " PRINT "--sample" SEEN "& " UNTIL_IT_LISTENS
-     "kill -HUP $!; wait $!",
-     1, ""},
+    {"EndedWhileItWaits", SAMPLE UNTIL_IT_HEARS(TERM) "kill $!; wait $!", 1, ""},
+    {"HungUpOnWhileItWaits", SAMPLE UNTIL_IT_HEARS(HUP) "kill -HUP $!; wait $!", 1, ""},
+    {"EndedWithItsSession",
+     SAMPLE UNTIL_IT_HEARS(HUP) "kill -HUP $!; sleep 0.001; kill $!; wait $!", 1, ""},
 
     {"NoScript", REPLAY SEEN "<&-", 2, "Standard input is closed, so there is no script"},
     {"NoRepliesPossible", "echo '{\"do\": \"state\"}' |" REPLAY SEEN ">/dev/full", 2,
@@ -73,11 +75,16 @@ class ProgramFaults : public testing::TestWithParam<Row> {
     const std::string command = "unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM; cd " +
                                 place.path().string() + "; exec 3>&1; " + GetParam().command;
     const auto close = [](FILE*) {};
-    const std::unique_ptr<FILE, decltype(close)> pipe(popen(command.c_str(), "r"), close);
+    const std::unique_ptr<FILE, decltype(close)> pipe(start(command), close);
     std::array<char, 4096> buffer;
     while (const std::size_t size = std::fread(buffer.data(), 1, buffer.size(), pipe.get()))
       seen.append(buffer.data(), size);
     status = WEXITSTATUS(pclose(pipe.get()));
+  }
+
+  static FILE* start(const std::string& command) {
+    const test::DefaultSignals inherited;
+    return popen(command.c_str(), "r");
   }
 
   test::TemporaryFolder place;
