@@ -20,8 +20,7 @@ constexpr std::size_t kOpenLength = 0;
 constexpr char kResource[] = "/";
 constexpr char kWantsPassword[] =
     "the print server does not allow it, or wants a password. Ask whoever looks after the "
-    "printers, "
-    "or print with lp, which can ask for the password.";
+    "printers, or print with lp, which can ask for the password.";
 
 const char* noPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
 
