@@ -89,10 +89,12 @@ Cancellable<Done> Document::readAll(const Taker& take, const CancelFlag& cancel,
   return Done{};
 }
 
+// Standard input cannot be opened anew, so it is for the person to do that.
 Failure Document::hasChanged(std::uint64_t bytes) const {
+  const std::string advice = file ? "Print it again" : "Run the command once more";
   return {"The document " + quoted(itsName) + " changed while it was read: it had " +
           std::to_string(bytesInAll) + " bytes when it was opened, but " + std::to_string(bytes) +
-          " were read. Print it again when it is complete."};
+          " were read. " + advice + " when it is complete."};
 }
 
 Cancellable<std::size_t> Document::readOn(std::span<char> buffer, const CancelFlag& cancel) {

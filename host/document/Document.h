@@ -18,7 +18,8 @@ namespace tavrin {
 class Document {
  public:
   // Opens a file or standard input, and waits for its first bytes. The reason names a file that is
-  // missing, is not a file, cannot be read, or is empty.
+  // missing, is not a file, cannot be read (standard input: not again, see RereadableInput), or is
+  // empty.
   static Cancellable<Document> open(const std::filesystem::path& path,
                                     const CancelFlag& cancel = neverCancelled());
 

@@ -98,7 +98,21 @@ TEST_F(ChangingDocumentTest, IsNotTakenForWholeFromStandardInputEither) {
   EXPECT_EXIT(
       readStandardInput(), testing::ExitedWithCode(0),
       "\"\\(stdin\\)\" changed while it was read: it had 99000 bytes when it was opened, but "
-      "1000 were read");
+      "1000 were read. Run the command once more when it is complete.");
+}
+
+TEST_F(ChangingDocumentTest, IsNotMixedWithItsFormerSelfFromStandardInput) {
+  const auto readStandardInputTwice = [&] {
+    dup2(open(file.c_str(), O_RDONLY), STDIN_FILENO);
+    readWhileItBecomes(600, kStandardInput, file);
+    fs::resize_file(file, 100000);
+    std::cerr << readWhileItBecomes(100000, kStandardInput, file);
+    std::_Exit(0);
+  };
+  EXPECT_EXIT(
+      readStandardInputTwice(), testing::ExitedWithCode(0),
+      "^The document \"\\(stdin\\)\" cannot be sent again, as it changed while it was read: "
+      "run the command once more when it is complete.$");
 }
 
 TEST_F(DocumentTest, IsReadToItsEndWhereItsSizeIsUnknown) {

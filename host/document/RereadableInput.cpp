@@ -24,6 +24,10 @@ Cancellable<std::size_t> RereadableInput::read(std::uint64_t offset, std::span<c
 
 Cancellable<std::size_t> RereadableInput::readAgain(std::uint64_t offset,
                                                     std::span<char> buffer) const {
+  if (hasChanged)
+    return Failure{
+        "cannot be sent again, as it changed while it was read: run the command once more when it "
+        "is complete"};
   if (offset >= keptBytes)
     return Failure{
         "cannot be sent again, as there was no room for a copy of it: run the command once more"};
@@ -38,7 +42,13 @@ Cancellable<std::size_t> RereadableInput::readOn(std::span<char> buffer, const C
   if (!bytes) return bytes;
   keep(buffer.first(*bytes));
   takenBytes += *bytes;
+  hasChanged |= contradictsItsSize(*bytes == 0);
   return bytes;
+}
+
+bool RereadableInput::contradictsItsSize(bool isAll) const {
+  if (bytesInAll == 0) return false;
+  return takenBytes > bytesInAll || (isAll && takenBytes < bytesInAll);
 }
 
 void RereadableInput::keep(std::span<const char> bytes) {

@@ -64,6 +64,38 @@ TEST_F(RereadableInputTest, WaitsUntilItIsCancelled) {
   EXPECT_EQ(read(input, 0), "still there");
 }
 
+// A file of seven bytes when the input is opened, and another text later.
+class RereadableFileTest : public RereadableInputTest {
+ protected:
+  void rewrite(const std::string& text) const { place.write("photo", text); }
+
+  const std::string changed =
+      "cannot be sent again, as it changed while it was read: run the command once more when it is "
+      "complete";
+  const test::TemporaryFolder place;
+  const FileDescriptor file{open(place.write("photo", "a photo").c_str(), O_RDONLY)};
+  RereadableInput input{file.get()};
+};
+
+TEST_F(RereadableFileTest, IsReadOnceWhenItHasBecomeShorter) {
+  EXPECT_EQ(read(input, 0, 3), "a p");
+  EXPECT_EQ(read(input, 0, 3), "a p");
+  rewrite("a pie");
+  EXPECT_EQ(read(input, 3), "ie");
+  EXPECT_EQ(read(input, 5), "");
+  rewrite("a piece");
+  EXPECT_EQ(read(input, 0), changed);
+}
+
+TEST_F(RereadableFileTest, IsReadOnceWhenItHasBecomeLonger) {
+  EXPECT_EQ(read(input, 0), "a photo");
+  EXPECT_EQ(read(input, 7), "");
+  EXPECT_EQ(read(input, 0), "a photo");
+  rewrite("a photo of us");
+  EXPECT_EQ(read(input, 7), " of us");
+  EXPECT_EQ(read(input, 0), changed);
+}
+
 // As on a full disk: no file of this process may grow beyond so many bytes.
 class LargestFile {
  public:
