@@ -13,11 +13,12 @@ constexpr std::array<std::string_view, 10> kBeginnings{
     "attributes-", "document-", "ipp-",     "job-",       "media-",
     "notify-",     "number-up", "printer-", "requested-", "requesting-"};
 
-constexpr std::array<std::string_view, 26> kNames{"auth-info",
+constexpr std::array<std::string_view, 27> kNames{"auth-info",
                                                   "compression",
                                                   "copies",
                                                   "cover-back",
                                                   "cover-front",
+                                                  "finishing-template",
                                                   "finishings",
                                                   "finishings-col",
                                                   "force-front-side",

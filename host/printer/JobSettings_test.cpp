@@ -18,6 +18,11 @@ TEST(JobSettings, AreWhatThePrintSystemHasForEveryJob) {
     EXPECT_TRUE(isJobSetting(name)) << name;
 }
 
+TEST(JobSettings, SayHowAJobIsFinished) {
+  for (const char* name : {"finishings", "finishings-col", "finishing-template"})
+    EXPECT_TRUE(isJobSetting(name)) << name;
+}
+
 TEST(JobSettings, AreNotThePrintersOwnFeatures) {
   for (const char* keyword :
        {"Collate", "Resolution", "OutputBin", "OutputOrder", "InputSlot", "Brightness", "Gamma",
