@@ -2,6 +2,7 @@
 
 #include <future>
 #include <span>
+#include <sys/stat.h>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -107,6 +108,15 @@ TEST_F(DestinationsTest, TheEnvironmentNamesTheDefaultAsForLp) {
   setenv("PRINTER", "lp", 1);
   EXPECT_EQ(byDefault(), "tav") << "which everybody has";
   unsetenv("PRINTER");
+}
+
+TEST_F(DestinationsTest, AFifoInPlaceOfSavedOptionsIsNotWaitedFor) {
+  cups.addPlainQueue("tav");
+  std::filesystem::create_directory(cups.folder() / "home/.cups");
+  ASSERT_EQ(mkfifo((cups.folder() / "home/.cups/lpoptions").c_str(), 0600), 0);
+  const auto printers = readPrinters();
+  ASSERT_TRUE(printers) << printers.reason();
+  EXPECT_EQ(printers->size(), 1u);
 }
 
 TEST_F(DestinationsTest, MayBeNone) {

@@ -2,8 +2,10 @@
 
 #include <array>
 #include <cstdlib>
-#include <cstring>
+#include <fcntl.h>
 #include <string>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/text/IgnoringCase.h"
 #include "ppd/CupsHandles.h"
@@ -35,8 +37,19 @@ void addLine(DestinationArray& destinations, const std::string& text, bool isDef
   if (isDefault) destinations.setDefault(named.queue.c_str(), named.instanceOrNull());
 }
 
+// Null for what is no file: a FIFO in its place would be waited for.
+CupsFilePtr openFile(const std::string& path) {
+  struct stat status {};
+  const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (file >= 0 && (fstat(file, &status) != 0 || !S_ISREG(status.st_mode))) {
+    close(file);
+    return nullptr;
+  }
+  return CupsFilePtr(file < 0 ? nullptr : cupsFileOpenFd(file, "r"));  // which closes it
+}
+
 void addFile(DestinationArray& destinations, const std::string& path) {
-  const CupsFilePtr file(cupsFileOpen(path.c_str(), "r"));
+  const CupsFilePtr file = openFile(path);
   std::array<char, 8192> line;
   char* value = nullptr;
   int number = 0;
