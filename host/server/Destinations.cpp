@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "host/server/DestinationArray.h"
 #include "host/server/IppRequest.h"
@@ -16,6 +17,9 @@
 namespace tavrin {
 
 namespace {
+
+constexpr std::size_t kMostPrinters = 10'000;
+constexpr std::size_t kMostAttributes = 1'000;  // of a printer
 
 // Whether it describes the printer; all else that libcups keeps with a destination is an option.
 bool describesPrinter(std::string_view name) {
@@ -65,6 +69,7 @@ std::string optionValueOf(ipp_attribute_t& attribute) {
   const ipp_tag_t tag = ippGetValueTag(&attribute);
   if (tag != IPP_TAG_ENUM) return valuesOf(attribute);
   std::vector<std::string> numbers;
+  numbers.reserve(static_cast<std::size_t>(ippGetCount(&attribute)));
   for (int i = 0; i < ippGetCount(&attribute); ++i)
     numbers.push_back(std::to_string(ippGetInteger(&attribute, i)));
   return joined(numbers, ",");
@@ -91,26 +96,32 @@ void addOption(cups_dest_t& destination, ipp_attribute_t& attribute) {
                                             destination.num_options, &destination.options);
 }
 
-// The printers of an answer: a group of attributes each, with nameless ones between them.
-void addPrinters(DestinationArray& destinations, ipp_t& answer) {
-  std::vector<ipp_attribute_t*> group;
-  std::string name;
-  const auto addGroup = [&] {
-    if (!name.empty())
-      for (ipp_attribute_t* attribute : group)
-        addOption(destinations.add(name.c_str(), nullptr), *attribute);
-    group.clear();
-    name.clear();
+using Attributes = std::vector<ipp_attribute_t*>;
+
+void addPrinter(DestinationArray& destinations, const Attributes& attributes) {
+  const auto isName = [](ipp_attribute_t* attribute) {
+    return std::string_view(ippGetName(attribute)) == "printer-name";
   };
+  const auto name = std::ranges::find_if(attributes, isName);
+  if (name == attributes.end() || attributes.size() > kMostAttributes) return;
+  cups_dest_t& destination = destinations.add(valuesOf(**name).c_str(), nullptr);
+  for (ipp_attribute_t* attribute : attributes) addOption(destination, *attribute);
+}
+
+// The printers of an answer: a group of attributes each, with nameless ones between them. Adding
+// takes longer the more there are, so that a server could keep us busy with printers that nobody
+// has.
+void addPrinters(DestinationArray& destinations, ipp_t& answer) {
+  Attributes group;
   for (auto* next = ippFirstAttribute(&answer); next; next = ippNextAttribute(&answer)) {
-    if (!ippGetName(next) || ippGetGroupTag(next) != IPP_TAG_PRINTER) {
-      addGroup();
+    if (ippGetName(next) && ippGetGroupTag(next) == IPP_TAG_PRINTER) {
+      group.push_back(next);
       continue;
     }
-    group.push_back(next);
-    if (std::string_view(ippGetName(next)) == "printer-name") name = valuesOf(*next);
+    addPrinter(destinations, std::exchange(group, {}));
+    if (destinations.all().size() >= kMostPrinters) return;
   }
-  addGroup();
+  addPrinter(destinations, group);
 }
 
 IppPtr requestFor(ipp_op_t operation, std::span<const char* const> attributes) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "ppd/CupsHandles.h"
 
@@ -12,6 +13,10 @@ namespace tavrin {
 IppPtr printerRequest(ipp_op_t operation, const std::string& queue);
 // A request about a job.
 IppPtr jobRequest(ipp_op_t operation, int jobId);
+
+// Reads a message that came from somebody; null when it is broken, or nested deeper than any
+// answer: libcups takes each level of it by a call within a call, until there is no stack left.
+IppPtr readMessage(std::string_view bytes);
 
 // What an answer says under a name; 0, the fallback or the empty text when it says nothing of that
 // kind. Several values are separated by commas.

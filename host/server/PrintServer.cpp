@@ -1,5 +1,6 @@
 #include "host/server/PrintServer.h"
 
+#include <array>
 #include <sys/socket.h>
 #include <utility>
 
@@ -23,26 +24,6 @@ constexpr char kWantsPassword[] =
     "printers, or print with lp, which can ask for the password.";
 
 const char* noPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
-
-// An answer on its way, and how much of it may still come.
-struct Incoming {
-  http_t* http;
-  std::size_t& received;
-};
-
-// Reads for libcups, which wants all the bytes that it asks for.
-ssize_t readAll(void* context, ipp_uchar_t* buffer, std::size_t bytes) {
-  const Incoming& incoming = *static_cast<Incoming*>(context);
-  std::size_t have = 0;
-  while (have < bytes && incoming.received <= kLongestAnswer) {
-    const ssize_t more =
-        httpRead2(incoming.http, reinterpret_cast<char*>(buffer) + have, bytes - have);
-    if (more <= 0) break;
-    have += static_cast<std::size_t>(more);
-    incoming.received += static_cast<std::size_t>(more);
-  }
-  return have == bytes ? static_cast<ssize_t>(have) : -1;
-}
 
 // Whether the answer came to the end that was announced, by its length or chunk by chunk. libcups
 // takes the end of the connection for the end of the answer.
@@ -139,7 +120,10 @@ bool PrintServer::beginFile(const std::string& resource) {
 ssize_t PrintServer::readFile(std::span<char> buffer) {
   const ssize_t bytes = httpRead2(http.get(), buffer.data(), buffer.size());
   if (bytes == 0 && !isWhole(http.get())) return -1;
-  if (bytes > 0) last.received += static_cast<std::size_t>(bytes);
+  if (bytes > 0) {
+    last.received += static_cast<std::size_t>(bytes);
+    guard->goOn();
+  }
   return last.received > kLongestAnswer ? -1 : bytes;
 }
 
@@ -181,7 +165,8 @@ bool PrintServer::encrypt() {
 // Whether another try may be allowed what this one was not: encrypted, or as a user with an
 // account.
 bool PrintServer::mayTryAgain(const char* method, const std::string& resource) {
-  if (last.http == HTTP_STATUS_UPGRADE_REQUIRED) return !std::exchange(wantsEncryption, true);
+  if (last.http == HTTP_STATUS_UPGRADE_REQUIRED && cupsEncryption() != HTTP_ENCRYPTION_ALWAYS)
+    return !std::exchange(wantsEncryption, true);
   return last.http == HTTP_STATUS_UNAUTHORIZED &&
          cupsDoAuthentication(http.get(), method, resource.c_str()) == 0;
 }
@@ -216,12 +201,12 @@ http_status_t PrintServer::readStatus() {
 }
 
 IppPtr PrintServer::readAnswer() {
-  IppPtr answer(ippNew());
-  Incoming incoming{http.get(), last.received};
-  ipp_state_t state = IPP_STATE_IDLE;
-  while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
-    state = ippReadIO(&incoming, readAll, /*blocking=*/1, nullptr, answer.get());
-  if (state == IPP_STATE_ERROR) return nullptr;
+  std::string bytes;
+  std::array<char, 1 << 14> buffer;
+  ssize_t more = 0;
+  while ((more = readFile(buffer)) > 0) bytes.append(buffer.data(), static_cast<std::size_t>(more));
+  IppPtr answer = more == 0 ? readMessage(bytes) : nullptr;
+  if (!answer) return nullptr;
   last.ipp = ippGetStatusCode(answer.get());
   if (last.ipp <= IPP_STATUS_OK_EVENTS_COMPLETE) return answer;
   last.words = textIn(*answer, "status-message");

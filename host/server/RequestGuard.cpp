@@ -1,5 +1,6 @@
 #include "host/server/RequestGuard.h"
 
+#include <algorithm>
 #include <linux/sockios.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
@@ -10,6 +11,7 @@ namespace tavrin {
 namespace {
 
 constexpr std::chrono::milliseconds kLookInterval(50);
+constexpr int kLongestAnswerInPatiences = 5;
 
 }  // namespace
 
@@ -18,6 +20,7 @@ RequestGuard::RequestGuard(http_t& connection, const CancelFlag& cancelFlag, Pat
       cancel(cancelFlag),
       patience(itsPatience),
       deadline(Clock::now() + itsPatience),
+      latest(deadline),
       thread([this] { work(); }) {}
 
 RequestGuard::~RequestGuard() {
@@ -38,6 +41,12 @@ bool RequestGuard::connect() {
 void RequestGuard::restart() {
   const std::lock_guard lock(mutex);
   deadline = Clock::now() + patience;
+  latest = Clock::now() + patience * kLongestAnswerInPatiences;
+}
+
+void RequestGuard::goOn() {
+  const std::lock_guard lock(mutex);
+  deadline = std::min(Clock::now() + patience, latest);
 }
 
 void RequestGuard::pause() {

@@ -27,6 +27,9 @@ class RequestGuard {
   // A new request, or the server has shown that it is alive: the deadline is a whole patience away
   // again. It moves by itself while the server takes what is sent to it.
   void restart();
+  // A part of the answer has come: the deadline is a whole patience away again, but no later than a
+  // few of them from the restart.
+  void goOn();
   // Nothing is wanted of the server for now: there is no deadline until the next restart.
   void pause();
 
@@ -48,6 +51,7 @@ class RequestGuard {
   std::condition_variable wake;
   bool over = false;
   Clock::time_point deadline;
+  Clock::time_point latest;  // that the deadline may move to while an answer comes
   Cut reason = Cut::none;
   int unsent = 0;          // bytes that the server had not taken at the last look
   int stopConnecting = 0;  // not 0: libcups gives up connecting

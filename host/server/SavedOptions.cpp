@@ -37,11 +37,15 @@ void addLine(DestinationArray& destinations, const std::string& text, bool isDef
   if (isDefault) destinations.setDefault(named.queue.c_str(), named.instanceOrNull());
 }
 
-// Null for what is no file: a FIFO in its place would be waited for.
+constexpr off_t kLargestFile = 1 << 20;
+
+// Null for what is no file, where a FIFO would be waited for, and for one that nobody has written
+// by hand or with lpoptions.
 CupsFilePtr openFile(const std::string& path) {
   struct stat status {};
   const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  if (file >= 0 && (fstat(file, &status) != 0 || !S_ISREG(status.st_mode))) {
+  if (file >= 0 &&
+      (fstat(file, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > kLargestFile)) {
     close(file);
     return nullptr;
   }

@@ -58,6 +58,7 @@ constexpr Row kRows[] = {
     {"ListWithEndlessHeaders", Fault::endlessHeaders, kList, NO_LIST SILENT, kNothing},
     {"ListOfEmptyChunks", Fault::emptyChunks, kList, NO_LIST NO_ANSWER, kNothing},
     {"ListWithoutEnd", Fault::endlessAnswer, kList, NO_LIST TOO_MUCH, kNothing},
+    {"ListOfCollectionsInCollections", Fault::deep, kList, NO_LIST NO_ANSWER, kNothing},
     {"ListFromAClosingServer", Fault::closing, kList, NO_LIST NO_ANSWER, kNothing},
     {"HalfAList", Fault::half, kList, NO_LIST NO_ANSWER, kNothing},
     {"ListThatIsNone", Fault::wrong, kList, NO_LIST NO_ANSWER, kNothing},
@@ -70,6 +71,7 @@ constexpr Row kRows[] = {
 
     {"StateFromASilentServer", Fault::silent, kState, NO_STATE SILENT, kNothing},
     {"StateThatDrips", Fault::dripping, kState, NO_STATE SILENT, kNothing},
+    {"StateOfCollectionsInCollections", Fault::deep, kState, NO_STATE NO_ANSWER, kNothing},
     {"StateFromAClosingServer", Fault::closing, kState, NO_STATE NO_ANSWER, kNothing},
 
     {"SettingsFromASilentServer", Fault::silent, kPPD, NO_PPD SILENT, kNothing},

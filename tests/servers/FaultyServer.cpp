@@ -68,6 +68,17 @@ std::string beginning(bool wantsPPD) {
   return wantsPPD ? goodPPD().substr(0, 400) : std::string(kIppStart) + ippAttribute();
 }
 
+// A whole answer, and yet.
+std::string deepAnswer() {
+  const std::string begin("\x34\x00\x01x\x00\x00", 6);   // a collection named "x"
+  const std::string member("\x4A\x00\x00\x00\x01x", 6);  // with a member named "x"
+  const std::string inner("\x34\x00\x00\x00\x00", 5);    // that is a collection
+  std::string message = std::string(kIppStart) + begin;
+  for (int level = 0; level < 20'000; ++level) message += member + inner;
+  for (int level = 0; level <= 20'000; ++level) message += std::string("\x37\x00\x00\x00\x00", 5);
+  return message + '\x03';
+}
+
 std::string more(bool wantsPPD) {
   return wantsPPD ? "*% and so on, and so on\n" : ippValue(30'000);
 }
@@ -236,6 +247,9 @@ void FaultyServer::misbehave(http_t* caller, bool wantsPPD) {
     case Fault::endlessAnswer:
       say(caller, chunked + chunk(beginning(wantsPPD)));
       return sayForEver(caller, chunk(more(wantsPPD)));
+    case Fault::deep:
+      say(caller, chunked + chunk(deepAnswer()) + chunk(""));
+      return;
     case Fault::closing:
       return;
     case Fault::half:

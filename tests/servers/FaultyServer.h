@@ -23,6 +23,7 @@ enum class Fault {
   endlessHeaders,   // headers without an end
   emptyChunks,      // an answer of chunks that hold nothing
   endlessAnswer,    // a good beginning, and then attributes or lines without an end
+  deep,             // an answer of collections in collections
   closing,          // hangs up instead of answering
   half,             // hangs up in the middle of the length that it announced
   halfChunk,        // hangs up in the middle of a chunk
