@@ -203,9 +203,10 @@ http_status_t PrintServer::readStatus() {
 IppPtr PrintServer::readAnswer() {
   std::string bytes;
   std::array<char, 1 << 14> buffer;
-  ssize_t more = 0;
-  while ((more = readFile(buffer)) > 0) bytes.append(buffer.data(), static_cast<std::size_t>(more));
-  IppPtr answer = more == 0 ? readMessage(bytes) : nullptr;
+  for (ssize_t more = 0; (more = readFile(buffer)) > 0;)
+    bytes.append(buffer.data(), static_cast<std::size_t>(more));
+  // A message has an end of its own, whatever length was announced.
+  IppPtr answer = last.received <= kLongestAnswer ? readMessage(bytes) : nullptr;
   if (!answer) return nullptr;
   last.ipp = ippGetStatusCode(answer.get());
   if (last.ipp <= IPP_STATUS_OK_EVENTS_COMPLETE) return answer;
