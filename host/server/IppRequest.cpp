@@ -45,7 +45,7 @@ bool isSound(std::string_view message) {
     const std::size_t length = tag < IPP_TAG_UNSUPPORTED_VALUE ? 1 : attributeLength(message);
     if (tag == IPP_TAG_BEGIN_COLLECTION) ++depth;
     if (tag == IPP_TAG_END_COLLECTION) --depth;
-    if (length == 0 || depth > kDeepest || tag == IPP_TAG_EXTENSION) return false;
+    if (length == 0 || depth < 0 || depth > kDeepest || tag == IPP_TAG_EXTENSION) return false;
     message.remove_prefix(length);
   }
   return false;
