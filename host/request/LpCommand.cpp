@@ -7,20 +7,6 @@
 
 namespace tavrin {
 
-namespace {
-
-// The value as one "-o" holds it, where blanks separate options and quotes hold them together.
-std::string escaped(const std::string& value) {
-  std::string text;
-  for (const char c : value) {
-    if (std::string_view(" \t\n\v\f\r\\'\"").find(c) != std::string_view::npos) text += '\\';
-    text += c;
-  }
-  return text;
-}
-
-}  // namespace
-
 std::string lpCommand(const JobRequest& request, const OptionList& options) {
   std::string command = "lp";
   if (!request.printer.empty())
@@ -29,7 +15,7 @@ std::string lpCommand(const JobRequest& request, const OptionList& options) {
   if (!request.title.empty()) command += " -t " + shellQuoted(jobTitle(request));
   for (const auto& [name, value] : options)
     if (!equalIgnoringCase(name, kCopiesOption))
-      command += " -o " + shellQuoted(name + "=" + escaped(value));
+      command += " -o " + shellQuoted(optionArgument(name, value));
   return command + " -- " + shellQuoted(request.document.string());
 }
 

@@ -20,6 +20,16 @@ OptionList optionsFromArgument(const std::string& argument) {
   return parsed.list();
 }
 
+// Blanks separate options, and quotes hold them together.
+std::string optionArgument(const std::string& name, const std::string& value) {
+  std::string text = name + "=";
+  for (const char c : value) {
+    if (std::string_view(" \t\n\v\f\r\\'\"").find(c) != std::string_view::npos) text += '\\';
+    text += c;
+  }
+  return text;
+}
+
 OptString optionValue(const OptionList& options, const std::string& name) {
   const auto place = std::ranges::find_if(options, named(name));
   return place != options.end() ? OptString(place->second) : std::nullopt;

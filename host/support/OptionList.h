@@ -17,6 +17,8 @@ using OptionList = std::vector<std::pair<std::string, std::string>>;
 // The options in the argument of one "-o": several may be separated by blanks, values may be
 // quoted, "name" and "noname" stand for true and false.
 OptionList optionsFromArgument(const std::string& argument);
+// One option as such an argument, which reads as this option again.
+std::string optionArgument(const std::string& name, const std::string& value);
 
 // The option's value; absent when it is not there.
 OptString optionValue(const OptionList& options, const std::string& name);

@@ -6,7 +6,7 @@
 
 #include "host/document/Document.h"
 #include "host/ticket/DurableFile.h"
-#include "host/ticket/HiddenFolder.h"
+#include "host/support/HiddenFolder.h"
 #include "host/ticket/Ticket.h"
 #include "platform/text/Quoted.h"
 #include "platform/text/Utf8.h"

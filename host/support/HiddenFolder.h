@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 
 namespace tavrin {
 
@@ -25,5 +26,9 @@ class HiddenFolder {
  private:
   std::filesystem::path folder;
 };
+
+// One for files that nobody keeps, in the temporary folder of the environment (TMPDIR, else /tmp);
+// null where it cannot be made.
+std::shared_ptr<const HiddenFolder> temporaryHiddenFolder();
 
 }  // namespace tavrin

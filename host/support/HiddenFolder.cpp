@@ -1,4 +1,4 @@
-#include "host/ticket/HiddenFolder.h"
+#include "host/support/HiddenFolder.h"
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -60,7 +60,7 @@ void openToOthers(const std::filesystem::path& folder) {
 }  // namespace
 
 HiddenFolder::HiddenFolder(const std::filesystem::path& parent) {
-  std::string name = (parent / ".tavrin-job-XXXXXX").string();
+  std::string name = (parent / ".tavrin-XXXXXX").string();
   if (!mkdtemp(name.data())) return;
   folder = name;
   HiddenFolders::all().add(folder);
@@ -79,6 +79,14 @@ bool HiddenFolder::keepAs(const std::filesystem::path& name) {
   HiddenFolders::all().forget(folder);
   folder.clear();
   return true;
+}
+
+std::shared_ptr<const HiddenFolder> temporaryHiddenFolder() {
+  std::error_code problem;
+  const fs::path parent = fs::temp_directory_path(problem);
+  if (problem) return nullptr;
+  const auto folder = std::make_shared<const HiddenFolder>(parent);
+  return *folder ? folder : nullptr;
 }
 
 }  // namespace tavrin
