@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
@@ -9,12 +10,21 @@
 
 namespace tavrin {
 
+// Its text stays with a PPD, for those who hand it to others.
 struct PPDCloser {
   void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
+
+  std::shared_ptr<const std::string> text;
 };
 using PPDPtr = std::unique_ptr<ppd_file_t, PPDCloser>;
-// A PPD that several may hold.
+// A PPD that several may hold; made from a PPDPtr.
 using SharedPPD = std::shared_ptr<ppd_file_t>;
+
+// The text, unpacked, that a PPD was loaded from; empty where it did not stay.
+inline std::string sourceOf(const SharedPPD& ppd) {
+  const auto* closer = std::get_deleter<PPDCloser>(ppd);
+  return closer && closer->text ? *closer->text : "";
+}
 
 struct HttpCloser {
   void operator()(http_t* http) const { httpClose(http); }

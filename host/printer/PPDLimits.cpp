@@ -46,12 +46,13 @@ class StatementTally {
 
 }  // namespace
 
-std::string brokenPPDLimit(cups_file_t& text) {
+std::string brokenPPDLimit(cups_file_t& text, std::string& lines) {
   std::vector<char> line(1 << 16);
   StatementTally tally;
   while (cupsFileGets(&text, line.data(), line.size())) {
     if (static_cast<std::size_t>(cupsFileTell(&text)) > kPPDTextLimit)
       return "unpacks to more than " + std::to_string(kPPDTextLimit >> 20) + " MiB";
+    lines.append(line.data()).append("\n");
     if (std::string broken = tally.add(line.data()); !broken.empty()) return broken;
   }
   return {};

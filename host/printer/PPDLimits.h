@@ -18,7 +18,7 @@ inline constexpr std::size_t kPPDStatementLimit = 50'000;
 inline constexpr std::size_t kPPDKeywordLimit = 2'000;
 
 // Which limit the text breaks, as the end of a sentence: "unpacks to more than 16 MiB"; empty when
-// it keeps them all. Reads on from where the file stands.
-std::string brokenPPDLimit(cups_file_t& text);
+// it keeps them all. Reads on from where the file stands, and appends to `lines` what it reads.
+std::string brokenPPDLimit(cups_file_t& text, std::string& lines);
 
 }  // namespace tavrin

@@ -11,7 +11,8 @@ namespace {
 std::string brokenBy(const std::string& text) {
   const test::TemporaryFolder place;
   const CupsFilePtr file(cupsFileOpen(place.write("a.ppd", text).c_str(), "r"));
-  return brokenPPDLimit(*file);
+  std::string lines;
+  return brokenPPDLimit(*file, lines);
 }
 
 std::string lines(std::size_t count, const std::string& line) {

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <memory>
 #include <span>
 #include <string>
 #include <sys/stat.h>
@@ -78,11 +79,13 @@ Result<PPDPtr> loadPPD(int fileDescriptor, const std::string& name) {
   if (static_cast<std::size_t>(status.st_size) > kPPDFileLimit)
     return about(name, "is larger than " + megabytes(kPPDFileLimit));
   const CupsFilePtr text(cupsFileOpenFd(fromStart(fileDescriptor), "r"));
-  if (const std::string broken = text ? brokenPPDLimit(*text) : ""; !broken.empty())
+  std::string lines;
+  if (const std::string broken = text ? brokenPPDLimit(*text, lines) : ""; !broken.empty())
     return about(name, broken);
   PPDPtr ppd(ppdOpenFd(fromStart(fileDescriptor)));
   if (!ppd) return parseFailure(name);
   makeSound(*ppd);
+  ppd.get_deleter().text = std::make_shared<const std::string>(std::move(lines));
   return ppd;
 }
 

@@ -15,7 +15,8 @@ inline constexpr std::size_t kPPDFileLimit = 4 * 1024 * 1024;
 
 // Loads a PPD file, plain or compressed, for a host that hands it to panels. The texts of its
 // groups, options and choices are whole UTF-8 characters and its language encoding is never null.
-// Nothing is marked. Never blocks. The reason names the file, and the line where the PPD is bad.
+// Nothing is marked, and its text stays with it (sourceOf). Never blocks. The reason names the
+// file, and the line where the PPD is bad.
 Result<PPDPtr> loadPPD(const std::filesystem::path& file);
 
 // The same for an open file, which stays the caller's and is read from its start; the name is for
