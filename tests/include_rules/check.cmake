@@ -38,6 +38,8 @@ room(host/request        platform/text ppd host/support host/printer host/docume
 room(host/ticket         platform/text platform/files host/support host/document host/request)
 room(host/job            platform/text host/support host/printer host/server host/document host/request
                          host/ticket)
+room(host/preview        platform/text platform/files ppd host/support host/printer host/document
+                         host/request)
 room(host/panels         platform/text platform/files platform/contract ppd host/support
                          host/printer)
 room(host/task           platform/text host/support host/printer host/server host/request host/job
@@ -63,7 +65,7 @@ room(tests               ${ROOMS})
 set(LIBRARIES Qt widgets cups plist nlohmann gtest)
 set(LOOK_Qt "<(Q[A-Z]|Qt|q[a-z]+\\.h)")
 set(MAY_HAVE_Qt "^(platform/qt|host|replay|tests)/")
-set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QMimeDatabase|QObject|QRegularExpression|QStandardPaths|QString|QStringList|QTimer|QUrl")
+set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QMimeDatabase|QObject|QProcess|QRegularExpression|QStandardPaths|QString|QStringList|QTimer|QUrl")
 set(LOOK_widgets "${LOOK_Qt}")
 set(NOT_widgets "<(${QT_CORE})>")
 set(MAY_HAVE_widgets "^(platform/qt|host/(panes|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")

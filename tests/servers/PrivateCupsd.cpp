@@ -123,6 +123,7 @@ void PrivateCupsd::writeConfiguration() const {
   for (const char* name :
        {"etc/ppd", "run", "cache", "spool", "log", "tmp", "out", "home", "bin/backend"})
     fs::create_directories(top / name);
+  fs::permissions(top / "tmp", fs::perms(01777));
   for (const char* name : {"daemon", "notifier", "cgi-bin", "monitor", "filter"})
     fs::create_directory_symlink(fs::path("/usr/lib/cups") / name, top / "bin" / name);
   // Readable by its owner alone, so that a server that root has started runs it as root, who may

@@ -1,0 +1,70 @@
+#include "host/preview/DocumentFile.h"
+
+#include <fstream>
+
+#include "host/document/Document.h"
+#include "host/document/DocumentName.h"
+
+namespace tavrin {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A copy for a preview is not worth more room than this.
+constexpr std::uint64_t kLargestCopy = 256 << 20;
+
+constexpr char kNoRoom[] = "There is no room in the temporary folder for a preview.";
+
+struct Found {
+  fs::path file;
+  std::string format;
+};
+
+Cancellable<Done> copy(Document& document, const fs::path& file, const CancelFlag& cancel) {
+  std::ofstream stream(file, std::ios::binary);
+  std::uint64_t room = kLargestCopy;
+  const auto take = [&](std::span<const char> piece) -> Cancellable<Done> {
+    if (piece.size() > room)
+      return Failure{"The document is too large for a preview. It can be printed all the same."};
+    room -= piece.size();
+    if (!stream.write(piece.data(), static_cast<std::streamsize>(piece.size())))
+      return Failure{kNoRoom};
+    return Done{};
+  };
+  auto done = document.readAll(take, cancel, {});
+  if (done && !stream.flush()) return Failure{kNoRoom};
+  return done;
+}
+
+// The folder, which may be null, is for a copy.
+Cancellable<Found> find(const fs::path& path, const HiddenFolder* folder,
+                        const CancelFlag& cancel) {
+  auto document = Document::open(path, cancel);
+  if (!document) return document.why();
+  if (path != kStandardInput) return Found{fs::absolute(path), document->format()};
+  if (!folder) return Failure{kNoRoom};
+  const Found found{folder->path() / "document", document->format()};
+  if (const auto copied = copy(*document, found.file, cancel); !copied) return copied.why();
+  return found;
+}
+
+}  // namespace
+
+void DocumentFile::fetch(const fs::path& document) {
+  stop();
+  file.clear();
+  folder = temporaryHiddenFolder();
+  background.run([=, this, place = folder](const CancelFlag& cancel, const Background::Send& send) {
+    const auto found = find(document, place.get(), cancel);
+    if (found.cancelled()) return;
+    send([=, this] {
+      if (!found) return emit failed(QString::fromStdString(found.reason()));
+      file = found->file;
+      itsFormat = found->format;
+      emit ready();
+    });
+  });
+}
+
+}  // namespace tavrin

@@ -1,0 +1,82 @@
+#include "host/preview/LimitedCommand.h"
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <QStandardPaths>
+
+namespace tavrin {
+
+namespace {
+
+void limit(__rlimit_resource resource, rlim_t most) {
+  const rlimit both{most, most};
+  setrlimit(resource, &both);
+}
+
+// In the child, between fork and exec: only calls that are safe there.
+void confine(const LimitedCommand::Limits& limits) {
+  setsid();  // a group of its own, so that all that it starts can be ended with it
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
+  prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+  limit(RLIMIT_CORE, 0);
+  limit(RLIMIT_CPU, static_cast<rlim_t>(limits.time.count()));
+  limit(RLIMIT_AS, limits.memory);
+  limit(RLIMIT_FSIZE, limits.file);
+}
+
+QString shown(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+
+}  // namespace
+
+QString LimitedCommand::find(const QString& name) {
+  const QString found = QStandardPaths::findExecutable(name);
+  return found.isEmpty() ? QStandardPaths::findExecutable(name, {"/usr/sbin", "/sbin"}) : found;
+}
+
+LimitedCommand::LimitedCommand(const Call& call, QObject* parent) : QObject(parent) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("TMPDIR", shown(call.folder));
+  process.setProcessEnvironment(environment);
+  process.setProgram(call.program);
+  process.setArguments(call.arguments);
+  process.setStandardInputFile(QProcess::nullDevice());
+  process.setStandardOutputFile(shown(call.output));
+  process.setStandardErrorFile(QProcess::nullDevice());
+  process.setChildProcessModifier([limits = call.limits] { confine(limits); });
+  clock.setSingleShot(true);
+  clock.setInterval(call.limits.time);
+  connect(&process, &QProcess::started, &clock, qOverload<>(&QTimer::start));
+  connect(&clock, &QTimer::timeout, this, [this] {
+    isSlow = true;
+    killAll();
+  });
+  connectProcess();
+}
+
+// By way of the event loop, so that whoever hears the end may delete this object.
+void LimitedCommand::connectProcess() {
+  const auto tellEnd = [this](int status, QProcess::ExitStatus how) {
+    const bool isWell = how == QProcess::NormalExit && status == 0;
+    emit ended(isSlow ? End::slow : isWell ? End::well : End::failed);
+  };
+  const auto tellFailure = [this](QProcess::ProcessError error) {
+    if (error == QProcess::FailedToStart) emit ended(End::failed);
+  };
+  connect(&process, &QProcess::finished, this, tellEnd, Qt::QueuedConnection);
+  connect(&process, &QProcess::errorOccurred, this, tellFailure, Qt::QueuedConnection);
+}
+
+LimitedCommand::~LimitedCommand() {
+  process.disconnect(this);
+  killAll();
+  process.waitForFinished();
+}
+
+void LimitedCommand::killAll() {
+  if (const qint64 id = process.processId(); id > 0) ::kill(static_cast<pid_t>(-id), SIGKILL);
+}
+
+}  // namespace tavrin

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QObject>
+#include <QTimer>
+
+#include "host/preview/DocumentFile.h"
+#include "host/preview/SheetMaker.h"
+#include "host/preview/SheetPainter.h"
+
+namespace tavrin {
+
+// The sheets of a job as they will come out of the printer. It exists so that nothing that shows
+// them waits: whatever is asked for is answered by a signal, and work that nobody wants any more is
+// dropped.
+class Preview : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Stage {
+    empty,    // there is nothing to show yet
+    waiting,  // for the document
+    working,  // on the sheets
+    ready,    // to draw
+    failed,   // there are no sheets; the problem says why
+  };
+
+  explicit Preview(QObject* parent = nullptr);
+
+  // Makes the sheets of this job, soon: of several jobs in quick succession only those of the last.
+  void show(const PreviewJob& job);
+  // Drops all work, and lets go of the document, until the next show().
+  void pause();
+
+  Stage stage() const { return now; }
+  // While new sheets are made, still the sheets before.
+  const std::vector<Sheet>& sheets() const { return shown.list; }
+  // A sentence; empty unless the stage is failed.
+  const QString& problem() const { return why; }
+
+  // Draws a sheet (SheetPainter::draw), if it is there.
+  void draw(int index, int pixels, SheetPainter::Ink ink);
+
+ signals:
+  void stageChanged();
+  void drawn(int index, int pixels, const QByteArray& picture);
+  void drawingFailed(int index);
+
+ private:
+  void enter(Stage stage);
+  void begin();
+  void makeSheets();
+  void take(const Sheets& sheets);
+  void fail(const QString& reason);
+
+  std::optional<PreviewJob> wanted;
+  QTimer rest;  // until the person has stopped
+  DocumentFile document;
+  std::unique_ptr<SheetMaker> maker;
+  SheetPainter painter;
+  Sheets shown;
+  Stage now = Stage::empty;
+  QString why;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,201 @@
+#include "host/preview/Preview.h"
+
+#include <algorithm>
+#include <csignal>
+#include <fcntl.h>
+#include <map>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "host/printer/PPDLoader.h"
+#include "tests/fakes/FakePDF.h"
+#include "tests/fixtures/EventLoopTest.h"
+#include "tests/fixtures/TemporaryFolder.h"
+
+namespace tavrin {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Ink = SheetPainter::Ink;
+using Stage = Preview::Stage;
+
+// A picture in the portable anymap format.
+struct Picture {
+  explicit Picture(const QByteArray& bytes) {
+    std::istringstream text(bytes.toStdString());
+    int most = 0;
+    text >> kind >> width >> height >> most;
+    dots = bytes.right(qsizetype(width) * height * (kind == "P6" ? 3 : 1)).toStdString();
+  }
+  std::string row(int y) const {
+    const int length = width * (kind == "P6" ? 3 : 1);
+    return dots.substr(static_cast<std::size_t>(y) * length, length);
+  }
+
+  std::string kind;
+  int width = 0, height = 0;
+  std::string dots;
+};
+
+class PreviewTest : public EventLoopTest {
+ protected:
+  PreviewTest() {
+    QObject::connect(&preview, &Preview::drawn, [this](int index, int, const QByteArray& bytes) {
+      pictures.insert_or_assign(index, Picture(bytes));
+    });
+  }
+  static std::string samplePPD() {
+    auto ppd = loadPPD(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
+    return sourceOf(SharedPPD(std::move(*ppd)));
+  }
+  PreviewJob job(const OptionList& options = {}) const { return {document, samplePPD(), options}; }
+  bool reaches(Stage stage) {
+    return eventually([&] { return preview.stage() == stage; });
+  }
+  // Shows it; the number of sheets, or what is said instead.
+  std::string outcome(const PreviewJob& shown) {
+    preview.show(shown);
+    EXPECT_TRUE(eventually([&] { return preview.stage() != Stage::ready || isNew; }));
+    EXPECT_TRUE(eventually(
+        [&] { return preview.stage() == Stage::ready || preview.stage() == Stage::failed; }));
+    return preview.stage() == Stage::ready ? std::to_string(preview.sheets().size())
+                                           : preview.problem().toStdString();
+  }
+  Picture drawn(int index, Ink ink = Ink::colour) {
+    pictures.clear();
+    preview.draw(index, 100, ink);
+    EXPECT_TRUE(eventually([&] { return pictures.contains(index); }));
+    return pictures.at(index);
+  }
+
+  test::TemporaryFolder place;
+  fs::path document = place.write("pages.pdf", numberedPDF(8));
+  Preview preview;
+  bool isNew = true;
+  std::map<int, Picture> pictures;
+};
+
+TEST_F(PreviewTest, ShowsEverySheet) {
+  EXPECT_EQ(outcome(job()), "8");
+  const Picture last = drawn(7);
+  EXPECT_EQ(last.height, 100);
+  EXPECT_EQ(last.kind, "P6");
+  EXPECT_NE(last.dots, drawn(0).dots);
+}
+
+TEST_F(PreviewTest, ShowsTheJobsOptions) { EXPECT_EQ(outcome(job({{"number-up", "4"}})), "2"); }
+
+TEST_F(PreviewTest, AMirroredSheetIsTheOtherSheetsMirrorImage) {
+  outcome(job());
+  const Picture plain = drawn(0, Ink::grey);
+  preview.pause();
+  outcome(job({{"Mirror", "True"}}));
+  ASSERT_TRUE(eventually([&] { return preview.stage() == Stage::ready; }));
+  const Picture mirrored = drawn(0, Ink::grey);
+  ASSERT_EQ(mirrored.dots.size(), plain.dots.size());
+  EXPECT_NE(mirrored.dots, plain.dots);
+  int different = 0;
+  for (int y = 0; y < plain.height; ++y) {
+    std::string row = plain.row(y);
+    std::ranges::reverse(row);
+    // The edges of what is drawn fall between dots.
+    for (std::size_t x = 0; x < row.size(); ++x)
+      different += std::abs(static_cast<unsigned char>(row[x]) -
+                            static_cast<unsigned char>(mirrored.row(y)[x])) > 128;
+  }
+  EXPECT_LT(different, plain.width * plain.height / 100);
+}
+
+TEST_F(PreviewTest, DrawsInGreyWhereOnlyBlackIsPrinted) {
+  outcome(job());
+  EXPECT_EQ(drawn(0, Ink::grey).kind, "P5");
+}
+
+TEST_F(PreviewTest, MakesOnlyTheLastOfSeveralJobsInQuickSuccession) {
+  int made = 0;
+  QObject::connect(&preview, &Preview::stageChanged,
+                   [&] { made += preview.stage() == Stage::ready; });
+  outcome(job());
+  for (const char* pages : {"2", "4", "6", "9"}) preview.show(job({{"number-up", pages}}));
+  EXPECT_TRUE(eventually([&] { return preview.sheets().size() == 1; }));
+  EXPECT_EQ(made, 2);
+}
+
+TEST_F(PreviewTest, KeepsTheSheetsUntilThereAreNewOnes) {
+  outcome(job());
+  preview.show(job({{"number-up", "4"}}));
+  EXPECT_EQ(preview.sheets().size(), 8u);
+  EXPECT_TRUE(eventually([&] { return preview.sheets().size() == 2; }));
+}
+
+TEST_F(PreviewTest, SaysWhenNothingComesOut) {
+  EXPECT_EQ(outcome(job({{"page-ranges", "50"}})),
+            "With these settings nothing comes out of the printer: no page of the document is left "
+            "to print.");
+}
+
+TEST_F(PreviewTest, SaysWhyThereIsNoPicture) {
+  document = place.write("broken.pdf", "%PDF-1.4\nno more");
+  EXPECT_EQ(outcome(job()),
+            "The document could not be laid out for a preview: it is damaged, or too large.");
+}
+
+TEST_F(PreviewTest, RunsNoPrograms) {
+  document = place.write("program.ps", "%!PS\nshowpage\n");
+  EXPECT_EQ(outcome(job()), "There is no preview of this kind of document.");
+}
+
+TEST_F(PreviewTest, ARawJobIsNotLaidOut) {
+  const std::string asItIs = "The printer gets the document as it is, so there is nothing to show.";
+  EXPECT_EQ(outcome(job({{"raw", "true"}})), asItIs);
+  preview.pause();
+  EXPECT_EQ(outcome({document, "", {}}), asItIs);
+}
+
+TEST_F(PreviewTest, APPDCannotHaveItsProgramsRun) {
+  const fs::path evil = place.write("evil", "#!/bin/sh\ntouch " + (place.path() / "done").string());
+  fs::permissions(evil, fs::perms::owner_all);
+  PreviewJob hostile = job();
+  hostile.ppd += "*cupsPreFilter: \"application/pdf 0 " + evil.string() + "\"\n";
+  hostile.ppd += "*cupsFilter: \"application/pdf 0 " + evil.string() + "\"\n";
+  EXPECT_EQ(outcome(hostile), "8");
+  EXPECT_FALSE(fs::exists(place.path() / "done"));
+}
+
+TEST_F(PreviewTest, LeavesNoFiles) {
+  const auto count = [] {
+    return std::distance(fs::directory_iterator(fs::temp_directory_path()),
+                         fs::directory_iterator());
+  };
+  const auto before = count();
+  {
+    Preview other;
+    other.show(job());
+    EXPECT_TRUE(eventually([&] { return other.stage() == Stage::ready; }));
+    EXPECT_GT(count(), before);
+  }
+  EXPECT_EQ(count(), before);
+}
+
+TEST_F(PreviewTest, WaitsForADocumentThatIsNotThereYet) {
+  document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(document.c_str(), 0600), 0);
+  preview.show(job());
+  EXPECT_TRUE(reaches(Stage::waiting));
+}
+
+// Standard input comes once; what the preview has read, the job reads again.
+TEST_F(PreviewTest, ShowsStandardInput) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto show = [&] {
+    dup2(open(document.c_str(), O_RDONLY), STDIN_FILENO);
+    document = kStandardInput;
+    std::cerr << outcome(job());
+    std::_Exit(0);
+  };
+  EXPECT_EXIT(show(), testing::ExitedWithCode(0), "^8$");
+}
+
+}  // namespace
+}  // namespace tavrin

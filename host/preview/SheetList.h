@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace tavrin {
+
+// A page of a laid-out PDF.
+struct Sheet {
+  double width = 0;   // points, before it is turned
+  double height = 0;  // points
+  int rotation = 0;   // how far a reader turns it clockwise to show it: 0, 90, 180 or 270 degrees
+
+  bool operator==(const Sheet&) const = default;
+};
+
+// Both from what the command pdfinfo writes. The PDF's own texts, which come first in it, cannot
+// forge anything.
+
+// The pages of a PDF from what is written about all of them; none where that makes no sense.
+std::vector<Sheet> sheetsFromInfo(std::string_view info);
+// The number of pages; 0 where it is not there.
+int pagesFromInfo(std::string_view info);
+
+}  // namespace tavrin

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <vector>
+
+#include "host/support/OptionList.h"
+
+// What the options of a job say about the look of its sheets, as the print system's filters take
+// them.
+
+namespace tavrin {
+
+// Whether nothing but black ink comes to the paper.
+bool printsInGrey(const OptionList& options);
+bool isMirrored(const OptionList& options);
+// Whether two sheets in succession are the front and the back of one.
+bool isTwoSided(const OptionList& options);
+
+// The pages of the document on a sheet, both counted from 1, for a document of that many pages.
+// Empty where the options order the pages in a way that only the filters know.
+std::vector<int> pagesOnSheet(int sheet, int pages, const OptionList& options);
+
+}  // namespace tavrin

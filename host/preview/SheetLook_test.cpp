@@ -1,0 +1,48 @@
+#include "host/preview/SheetLook.h"
+
+#include <gtest/gtest.h>
+
+namespace tavrin {
+namespace {
+
+using Pages = std::vector<int>;
+
+TEST(SheetLookTest, CountsPagesOnSheets) {
+  EXPECT_EQ(pagesOnSheet(3, 8, {}), Pages{3});
+  EXPECT_EQ(pagesOnSheet(2, 8, {{"number-up", "2"}}), (Pages{3, 4}));
+  EXPECT_EQ(pagesOnSheet(2, 6, {{"number-up", "4"}}), (Pages{5, 6}));
+}
+
+// The filters count sheets where the person may mean pages; what is said is what comes out.
+TEST(SheetLookTest, RangesChooseSheets) {
+  EXPECT_EQ(pagesOnSheet(1, 8, {{"number-up", "2"}, {"page-ranges", "2"}}), (Pages{3, 4}));
+  EXPECT_EQ(pagesOnSheet(3, 8, {{"page-ranges", "2-3,7"}}), Pages{7});
+  EXPECT_EQ(pagesOnSheet(2, 8, {{"page-ranges", "7-"}}), Pages{8});
+}
+
+TEST(SheetLookTest, FollowsPageSetAndOrder) {
+  EXPECT_EQ(pagesOnSheet(2, 8, {{"page-set", "even"}}), Pages{4});
+  EXPECT_EQ(pagesOnSheet(2, 8, {{"page-set", "odd"}}), Pages{3});
+  EXPECT_EQ(pagesOnSheet(1, 8, {{"outputorder", "reverse"}, {"number-up", "2"}}), (Pages{7, 8}));
+}
+
+TEST(SheetLookTest, SaysNothingWhereItCannotKnow) {
+  EXPECT_EQ(pagesOnSheet(1, 8, {{"booklet", "true"}}), Pages{});
+  EXPECT_EQ(pagesOnSheet(9, 8, {}), Pages{});
+  EXPECT_EQ(pagesOnSheet(0, 8, {}), Pages{});
+  EXPECT_EQ(pagesOnSheet(1, 0, {}), Pages{});
+}
+
+TEST(SheetLookTest, KnowsTheNamesForGreyMirroredAndTwoSided) {
+  EXPECT_TRUE(printsInGrey({{"ColorModel", "Black"}}));
+  EXPECT_TRUE(printsInGrey({{"print-color-mode", "monochrome"}}));
+  EXPECT_FALSE(printsInGrey({{"ColorModel", "Color"}}));
+  EXPECT_TRUE(isMirrored({{"mirror", "true"}}));
+  EXPECT_FALSE(isMirrored({{"Mirror", "False"}}));
+  EXPECT_TRUE(isTwoSided({{"Duplex", "DuplexTumble"}}));
+  EXPECT_TRUE(isTwoSided({{"sides", "two-sided-long-edge"}}));
+  EXPECT_FALSE(isTwoSided({{"Duplex", "None"}}));
+}
+
+}  // namespace
+}  // namespace tavrin
