@@ -36,7 +36,7 @@ class Preview : public QObject {
 
   Stage stage() const { return now; }
   // While new sheets are made, still the sheets before.
-  const std::vector<Sheet>& sheets() const { return shown.list; }
+  const Sheets& sheets() const { return shown; }
   // A sentence; empty unless the stage is failed.
   const QString& problem() const { return why; }
 

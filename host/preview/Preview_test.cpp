@@ -56,10 +56,9 @@ class PreviewTest : public EventLoopTest {
   // Shows it; the number of sheets, or what is said instead.
   std::string outcome(const PreviewJob& shown) {
     preview.show(shown);
-    EXPECT_TRUE(eventually([&] { return preview.stage() != Stage::ready || isNew; }));
     EXPECT_TRUE(eventually(
         [&] { return preview.stage() == Stage::ready || preview.stage() == Stage::failed; }));
-    return preview.stage() == Stage::ready ? std::to_string(preview.sheets().size())
+    return preview.stage() == Stage::ready ? std::to_string(preview.sheets().list.size())
                                            : preview.problem().toStdString();
   }
   Picture drawn(int index, Ink ink = Ink::colour) {
@@ -72,7 +71,6 @@ class PreviewTest : public EventLoopTest {
   test::TemporaryFolder place;
   fs::path document = place.write("pages.pdf", numberedPDF(8));
   Preview preview;
-  bool isNew = true;
   std::map<int, Picture> pictures;
 };
 
@@ -118,15 +116,15 @@ TEST_F(PreviewTest, MakesOnlyTheLastOfSeveralJobsInQuickSuccession) {
                    [&] { made += preview.stage() == Stage::ready; });
   outcome(job());
   for (const char* pages : {"2", "4", "6", "9"}) preview.show(job({{"number-up", pages}}));
-  EXPECT_TRUE(eventually([&] { return preview.sheets().size() == 1; }));
+  EXPECT_TRUE(eventually([&] { return preview.sheets().list.size() == 1; }));
   EXPECT_EQ(made, 2);
 }
 
 TEST_F(PreviewTest, KeepsTheSheetsUntilThereAreNewOnes) {
   outcome(job());
   preview.show(job({{"number-up", "4"}}));
-  EXPECT_EQ(preview.sheets().size(), 8u);
-  EXPECT_TRUE(eventually([&] { return preview.sheets().size() == 2; }));
+  EXPECT_EQ(preview.sheets().list.size(), 8u);
+  EXPECT_TRUE(eventually([&] { return preview.sheets().list.size() == 2; }));
 }
 
 TEST_F(PreviewTest, SaysWhenNothingComesOut) {

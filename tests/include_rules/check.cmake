@@ -44,6 +44,7 @@ room(host/panels         platform/text platform/files platform/contract ppd host
                          host/printer)
 room(host/task           platform/text host/support host/printer host/server host/request host/job
                          host/panels)
+room(host/sheets         platform/text platform/qt/base host/support host/document host/preview)
 room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
                          host/printer host/panels host/task)
 room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
@@ -68,7 +69,7 @@ set(MAY_HAVE_Qt "^(platform/qt|host|replay|tests)/")
 set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QMimeDatabase|QObject|QProcess|QRegularExpression|QStandardPaths|QString|QStringList|QTimer|QUrl")
 set(LOOK_widgets "${LOOK_Qt}")
 set(NOT_widgets "<(${QT_CORE})>")
-set(MAY_HAVE_widgets "^(platform/qt|host/(panes|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
+set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_cups "<cups/")
 set(MAY_HAVE_cups "^(ppd|conflict|controller|plugin|host|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_plist "<plist/")

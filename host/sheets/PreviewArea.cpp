@@ -1,0 +1,258 @@
+#include "host/sheets/PreviewArea.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include "host/document/DocumentName.h"
+#include "host/preview/SheetLook.h"
+#include "host/sheets/SheetTexts.h"
+#include "host/sheets/SheetTurner.h"
+#include "host/sheets/SheetView.h"
+#include "platform/qt/base/MakeChild.h"
+#include "platform/qt/base/ShownText.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kWidthInLines = 20;
+constexpr int kPicturesKept = 12;
+constexpr int kLargestPicture = 6000;  // pixels of the longer side
+
+// A window that is being resized asks often; a picture that is about to be replaced stays as it is
+// for so long.
+constexpr std::chrono::milliseconds kDrawRest(60);
+constexpr std::chrono::milliseconds kFadeRest(300);
+
+// The first fits the sheet into the view, the others show it so many times as large as it is.
+constexpr std::array kZooms{0.0, 0.5, 1.0, 2.0};
+
+constexpr double kPointsPerInch = 72;
+
+// The sheet as people read it: the filters turn what is wider than high.
+QImage upright(const QImage& picture, const Sheet& sheet) {
+  return sheet.rotation ? picture.transformed(QTransform().rotate(-sheet.rotation)) : picture;
+}
+
+}  // namespace
+
+PreviewArea::PreviewArea(QWidget* parent)
+    : QWidget(parent),
+      desk(makeChild<QScrollArea>(this)),
+      view(makeChild<SheetView>(desk)),
+      turner(makeChild<SheetTurner>(this)),
+      contents(makeChild<QLabel>(this)),
+      pictures(kPicturesKept) {
+  build();
+  for (QTimer* timer : {&drawTimer, &fadeTimer}) timer->setSingleShot(true);
+  drawTimer.setInterval(kDrawRest);
+  fadeTimer.setInterval(kFadeRest);
+  connect(&drawTimer, &QTimer::timeout, this, &PreviewArea::draw);
+  connect(&fadeTimer, &QTimer::timeout, this, [this] { view->setFaded(true); });
+  connect(view, &SheetView::resized, &drawTimer, qOverload<>(&QTimer::start));
+  connect(&preview, &Preview::stageChanged, this, &PreviewArea::follow);
+  connect(&preview, &Preview::drawn, this, &PreviewArea::takePicture);
+  connect(&preview, &Preview::drawingFailed, this,
+          [this] { say(tr("This sheet cannot be drawn. It can be printed all the same.")); });
+  connect(turner, &SheetTurner::turned, this, &PreviewArea::turnTo);
+  connect(turner, &SheetTurner::zoomed, this, [this](int step) { setZoom(zoom + step); });
+  setZoom(0);
+  describe();
+}
+
+void PreviewArea::build() {
+  setObjectName("preview");
+  desk->setFrameShape(QFrame::NoFrame);
+  desk->setWidgetResizable(true);
+  desk->setFocusPolicy(Qt::NoFocus);
+  desk->setWidget(view);
+  view->setFocusPolicy(Qt::StrongFocus);
+  view->setObjectName("sheetView");
+  view->installEventFilter(this);
+  contents->setTextFormat(Qt::PlainText);
+  contents->setAlignment(Qt::AlignCenter);
+  contents->setText(" ");  // keeps its room
+  auto* column = makeChild<QVBoxLayout>(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(desk, 1);
+  column->addWidget(contents);
+  column->addWidget(turner);
+}
+
+QSize PreviewArea::sizeHint() const {
+  const int line = fontMetrics().height();
+  return QSize(line * kWidthInLines, line * kWidthInLines * 3 / 2);
+}
+
+void PreviewArea::show(const PreviewJob& shown, const Paper& paper) {
+  job = shown;
+  view->setPaper(paper);
+  preview.show(job);
+  if (preview.stage() == Preview::Stage::failed) return;
+  if (!preview.sheets().list.empty()) fadeTimer.start();
+}
+
+void PreviewArea::showNothing(const QString& reason) {
+  pause();
+  view->setPicture({});
+  say(reason);
+}
+
+void PreviewArea::pause() {
+  preview.pause();
+  fadeTimer.stop();
+  drawTimer.stop();
+}
+
+// --- What the preview tells ---
+
+void PreviewArea::follow() {
+  switch (preview.stage()) {
+    case Preview::Stage::ready:
+      return takeSheets();
+    case Preview::Stage::failed:
+      fadeTimer.stop();
+      return say(preview.problem());
+    case Preview::Stage::empty:
+    case Preview::Stage::waiting:
+    case Preview::Stage::working:
+      return describe();
+  }
+}
+
+void PreviewArea::takeSheets() {
+  pictures.clear();
+  view->setMessage({}, {});
+  const auto last = static_cast<int>(preview.sheets().list.size()) - 1;
+  index = std::clamp(index, 0, last);
+  showSheet();
+}
+
+void PreviewArea::showSheet() {
+  if (const QImage* kept = pictures.object(index)) {
+    const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(index)];
+    fadeTimer.stop();
+    view->setPicture(*kept, QSizeF(sheet.width, sheet.height));
+  } else {
+    fadeTimer.start();
+    drawTimer.start(std::chrono::milliseconds(0));
+  }
+  describe();
+}
+
+void PreviewArea::draw() {
+  const auto& list = preview.sheets().list;
+  if (preview.stage() != Preview::Stage::ready || list.empty()) return;
+  const int pixels = std::clamp(view->longSide(), 1, kLargestPicture);
+  if (pixels != drawnPixels) pictures.clear();
+  drawnPixels = pixels;
+  if (pictures.contains(index)) return;
+  preview.draw(index, pixels,
+               printsInGrey(job.options) ? SheetPainter::Ink::grey : SheetPainter::Ink::colour);
+}
+
+void PreviewArea::takePicture(int drawn, int pixels, const QByteArray& bytes) {
+  const QImage picture = QImage::fromData(bytes, "PPM");
+  if (drawn != index || pixels != drawnPixels || picture.isNull()) return;
+  const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(drawn)];
+  pictures.insert(drawn, std::make_unique<QImage>(upright(picture, sheet)).release());
+  showSheet();
+}
+
+// --- What is said ---
+
+void PreviewArea::describe() {
+  const Sheets& sheets = preview.sheets();
+  const int count = preview.stage() == Preview::Stage::failed ? 0 : int(sheets.list.size());
+  turner->setVisible(count > 0);
+  turner->showSheet(index, count, textBeforeNumber(job.options),
+                    textAfterNumber(count, job.options));
+  if (count > 0) {
+    const QString text = contentsText(sheets, index, job.options);
+    contents->setText(text.isEmpty() ? " " : text);
+    view->setAccessibleName(sheetText(sheets, index, job.options));
+  } else if (preview.stage() != Preview::Stage::failed) {
+    contents->setText(preview.stage() == Preview::Stage::waiting ? tr("Waiting for the document…")
+                                                                 : tr("Preparing the preview…"));
+    view->setAccessibleName(contents->text());
+  }
+  QAccessibleEvent event(view, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
+void PreviewArea::say(const QString& message) {
+  view->setMessage(shownLine(documentName(job.document)), message);
+  contents->setText(" ");
+  view->setAccessibleName(message);
+  describe();
+}
+
+// --- What the person does ---
+
+void PreviewArea::turnTo(int wanted) {
+  const auto count = static_cast<int>(preview.sheets().list.size());
+  if (wanted < 0 || wanted >= count || wanted == index) return;
+  index = wanted;
+  showSheet();
+}
+
+void PreviewArea::setZoom(int step) {
+  zoom = std::clamp(step, 0, int(kZooms.size()) - 1);
+  view->setScale(kZooms.at(static_cast<std::size_t>(zoom)) * logicalDpiX() / kPointsPerInch);
+  turner->showZoom(zoom + 1 < int(kZooms.size()), zoom > 0);
+  drawTimer.start();
+}
+
+void PreviewArea::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_PageUp:
+      return turnTo(index - 1);
+    case Qt::Key_PageDown:
+      return turnTo(index + 1);
+    case Qt::Key_Home:
+      return turnTo(0);
+    case Qt::Key_End:
+      return turnTo(static_cast<int>(preview.sheets().list.size()) - 1);
+    case Qt::Key_Plus:
+      return setZoom(zoom + 1);
+    case Qt::Key_Minus:
+      return setZoom(zoom - 1);
+    case Qt::Key_0:
+      return setZoom(0);
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+bool PreviewArea::turnByWheel(const QWheelEvent& event) {
+  const int notches = event.angleDelta().y();
+  if (notches == 0) return false;
+  const int step = notches > 0 ? 1 : -1;
+  if (event.modifiers() & Qt::ControlModifier)
+    setZoom(zoom + step);
+  else if (zoom == 0)
+    turnTo(index - step);
+  else
+    return false;
+  return true;
+}
+
+// The scroll area around the view has uses of its own for keys and the wheel.
+bool PreviewArea::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != view) return QWidget::eventFilter(watched, event);
+  if (event->type() == QEvent::Wheel) return turnByWheel(*static_cast<QWheelEvent*>(event));
+  if (event->type() != QEvent::KeyPress) return false;
+  auto* key = static_cast<QKeyEvent*>(event);
+  key->accept();
+  keyPressEvent(key);
+  return key->isAccepted();
+}
+
+}  // namespace tavrin

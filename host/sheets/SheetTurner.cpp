@@ -1,0 +1,69 @@
+#include "host/sheets/SheetTurner.h"
+
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QToolButton>
+
+#include "platform/qt/base/MakeChild.h"
+
+namespace tavrin {
+
+SheetTurner::SheetTurner(QWidget* parent)
+    : QWidget(parent),
+      back(button(tr("Previous sheet"), {})),
+      on(button(tr("Next sheet"), {})),
+      number(makeChild<QSpinBox>(this)),
+      smaller(button(tr("Smaller"), "−")),
+      larger(button(tr("Larger"), "+")) {
+  number->setObjectName("sheet");
+  number->setButtonSymbols(QAbstractSpinBox::NoButtons);
+  number->setAlignment(Qt::AlignCenter);
+  number->setKeyboardTracking(false);
+  auto* row = makeChild<QHBoxLayout>(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* widget : std::initializer_list<QWidget*>{back, number, on}) row->addWidget(widget);
+  row->addStretch();
+  for (QWidget* widget : {smaller, larger}) row->addWidget(widget);
+  addArrows();
+  connect(number, &QSpinBox::valueChanged, this, [this](int value) { emit turned(value - 1); });
+  connect(smaller, &QToolButton::clicked, this, [this] { emit zoomed(-1); });
+  connect(larger, &QToolButton::clicked, this, [this] { emit zoomed(1); });
+}
+
+QToolButton* SheetTurner::button(const QString& name, const QString& shownText) {
+  auto* made = makeChild<QToolButton>(this);
+  made->setText(shownText);
+  made->setAutoRaise(true);
+  made->setFocusPolicy(Qt::TabFocus);
+  made->setAccessibleName(name);
+  made->setToolTip(name);
+  return made;
+}
+
+void SheetTurner::addArrows() {
+  const bool isFromRight = layoutDirection() == Qt::RightToLeft;
+  back->setArrowType(isFromRight ? Qt::RightArrow : Qt::LeftArrow);
+  on->setArrowType(isFromRight ? Qt::LeftArrow : Qt::RightArrow);
+  connect(back, &QToolButton::clicked, number, &QSpinBox::stepDown);
+  connect(on, &QToolButton::clicked, number, &QSpinBox::stepUp);
+}
+
+void SheetTurner::showSheet(int index, int count, const QString& before, const QString& after) {
+  const QSignalBlocker quiet(number);
+  number->setPrefix(before);
+  number->setSuffix(after);
+  number->setRange(count > 0 ? 1 : 0, count);
+  number->setValue(index + 1);
+  number->setAccessibleName(number->text());
+  number->setEnabled(count > 1);
+  back->setEnabled(index > 0);
+  on->setEnabled(index + 1 < count);
+}
+
+void SheetTurner::showZoom(bool canGrow, bool canShrink) {
+  larger->setEnabled(canGrow);
+  smaller->setEnabled(canShrink);
+}
+
+}  // namespace tavrin
