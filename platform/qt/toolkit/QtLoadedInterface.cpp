@@ -16,6 +16,7 @@
 #include "platform/qt/controls/QtSlider.h"
 #include "platform/qt/controls/QtTextLabel.h"
 #include "platform/qt/layout/PanelLayout.h"
+#include "platform/qt/toolkit/ActionRuns.h"
 #include "platform/qt/windows/QtWindow.h"
 #include "platform/text/Quoted.h"
 
@@ -50,13 +51,15 @@ bool isOfTheFile(const QWidget& widget) {
 
 }  // namespace
 
-QtLoadedInterface::QtLoadedInterface(std::unique_ptr<QWidget> widgets, InterfaceBindings offered)
-    : root(widgets.release()), bindings(std::move(offered)) {}
+QtLoadedInterface::QtLoadedInterface(std::unique_ptr<QWidget> widgets, InterfaceBindings offered,
+                                     ActionRuns& runs)
+    : root(widgets.release()), bindings(std::move(offered)), actions(runs) {}
 
 std::shared_ptr<LoadedInterface> QtLoadedInterface::make(std::unique_ptr<QWidget> root,
-                                                         InterfaceBindings bindings) {
+                                                         InterfaceBindings bindings,
+                                                         ActionRuns& actions) {
   std::shared_ptr<QtLoadedInterface> whole(
-      new QtLoadedInterface(std::move(root), std::move(bindings)));
+      new QtLoadedInterface(std::move(root), std::move(bindings), actions));
   whole->makeObjects();
   whole->connectOutlets();
   whole->reportUnusedActions();
@@ -146,7 +149,7 @@ bool QtLoadedInterface::runOnChange(const std::function<void(Sender&)>& body, Gi
   if constexpr (fits)
     onUserChange(*control, [this, body, control] {
       const auto alive = shared_from_this();
-      if (!detached) body(*control);
+      if (!detached) actions.run([&] { body(*control); });
     });
   return fits;
 }

@@ -16,6 +16,7 @@
 
 namespace tavrin {
 
+class ActionRuns;
 class QtWindow;
 
 // The widgets of one interface file, the objects on them, and their owner's bindings. Stays alive
@@ -25,9 +26,9 @@ class QtLoadedInterface : public LoadedInterface,
                           public std::enable_shared_from_this<QtLoadedInterface> {
  public:
   // Connects the outlets for which the file has objects. The interface is detached from its owner
-  // when the caller drops the answer.
+  // when the caller drops the answer; the runs outlive it.
   static std::shared_ptr<LoadedInterface> make(std::unique_ptr<QWidget> root,
-                                               InterfaceBindings bindings);
+                                               InterfaceBindings bindings, ActionRuns& actions);
   ~QtLoadedInterface() override;
 
   void detach() override;
@@ -36,7 +37,7 @@ class QtLoadedInterface : public LoadedInterface,
  private:
   using Object = std::variant<View*, PopUpButton*, Button*, Slider*, Label*, Window*>;
 
-  QtLoadedInterface(std::unique_ptr<QWidget> root, InterfaceBindings bindings);
+  QtLoadedInterface(std::unique_ptr<QWidget> root, InterfaceBindings bindings, ActionRuns& runs);
 
   void makeObjects();
   Object makeObject(QWidget& widget);
@@ -52,6 +53,7 @@ class QtLoadedInterface : public LoadedInterface,
 
   QPointer<QWidget> root;  // ours, unless the program gave it a parent and deleted that
   InterfaceBindings bindings;
+  ActionRuns& actions;
   bool detached = false;
   std::vector<std::unique_ptr<View>> views;
   std::vector<std::unique_ptr<QtWindow>> windows;

@@ -3,6 +3,9 @@
 #include <filesystem>
 #include <functional>
 
+#include <QObject>
+
+#include "platform/qt/toolkit/ActionRuns.h"
 #include "platform/qt/windows/ModalRuns.h"
 #include "platform/toolkit/Toolkit.h"
 
@@ -12,8 +15,13 @@ namespace tavrin {
 
 // The toolkit on Qt Widgets. A program makes one after its QApplication, installs it, and
 // uninstalls it before it goes.
-class QtToolkit : public Toolkit {
+class QtToolkit : public QObject, public Toolkit {
+  Q_OBJECT
+
  public:
+  // The toolkit of this process; null before a program has installed one of this kind.
+  static QtToolkit* installed() { return dynamic_cast<QtToolkit*>(&Toolkit::current()); }
+
   std::shared_ptr<LoadedInterface> loadInterface(const Bundle& bundle, const std::string& name,
                                                  InterfaceBindings bindings) override;
   // The same for a file that is not in a bundle.
@@ -31,7 +39,15 @@ class QtToolkit : public Toolkit {
   // program may give it a parent and delete that.
   static QWidget* widgetOf(View& view);
 
+ signals:
+  // An action has run because the user changed a control, in a panel or in one of its message
+  // windows: whatever the panel was asked before may be out of date. Once for an action and all
+  // that ran inside it, after the last of its windows is down; the panel itself may be gone by
+  // then.
+  void actionRan();
+
  private:
+  ActionRuns actions{[this] { emit actionRan(); }};
   ModalRuns runs;
 };
 

@@ -237,6 +237,42 @@ TEST_F(QtToolkitTest, AnActionMayDropThePanel) {
   EXPECT_TRUE(watched.isNull());
 }
 
+TEST_F(QtToolkitTest, TellsAfterAnActionHasRun) {
+  show();
+  Strings heard;
+  QObject::connect(&toolkit, &QtToolkit::actionRan, [&] { heard = panel.ran; });
+  panel.ibMIrror->setState(1);
+  EXPECT_EQ(heard, Strings{});
+  panel.find<QAbstractButton>("ibMIrror").click();
+  EXPECT_EQ(heard, Strings{"mirrorAction:"});
+}
+
+TEST_F(QtToolkitTest, TellsOnceOfAnActionThatRanOthers) {
+  show();
+  int told = 0;
+  QObject::connect(&toolkit, &QtToolkit::actionRan, [&] { ++told; });
+  TestWindows windows(toolkit);
+  windows.duringAction = [&](const auto&) { toolkit.stopModal(); };
+  panel.duringAction = [&](const auto&) {
+    toolkit.runModalForWindow(*windows.windows["ibMsgOneWindow"]);
+    EXPECT_EQ(told, 0);
+  };
+  toolkit.onModalWindow(
+      [](QWidget& shown) { shown.findChild<QAbstractButton*>("ibOkButton_MsgOne")->click(); });
+  panel.find<QAbstractButton>("ibBlackAndWhite").click();
+  EXPECT_EQ(windows.ran, Strings{"clickOkButton_MsgOne:"});
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(QtToolkitTest, TellsOfAnActionThatDroppedThePanel) {
+  show();
+  int told = 0;
+  QObject::connect(&toolkit, &QtToolkit::actionRan, [&] { ++told; });
+  panel.duringAction = [&](const auto&) { panel.interface.reset(); };
+  panel.find<QAbstractButton>("ibMIrror").click();
+  EXPECT_EQ(told, 1);
+}
+
 TEST_F(QtToolkitTest, AProgramMayDeleteThePanelsWidgets) {
   {
     QWidget host;
