@@ -92,11 +92,12 @@ QSize PreviewArea::sizeHint() const {
 }
 
 void PreviewArea::show(const PreviewJob& shown, const Paper& paper) {
+  if (job == shown) return;
   job = shown;
   view->setPaper(paper);
-  preview.show(job);
-  if (preview.stage() == Preview::Stage::failed) return;
-  if (!preview.sheets().list.empty()) fadeTimer.start();
+  say({});
+  preview.show(shown);
+  if (count() > 0) fadeTimer.start();
 }
 
 void PreviewArea::showNothing(const QString& reason) {
@@ -107,6 +108,7 @@ void PreviewArea::showNothing(const QString& reason) {
 
 void PreviewArea::pause() {
   preview.pause();
+  job.reset();
   fadeTimer.stop();
   drawTimer.stop();
 }
@@ -129,9 +131,8 @@ void PreviewArea::follow() {
 
 void PreviewArea::takeSheets() {
   pictures.clear();
-  view->setMessage({}, {});
-  const auto last = static_cast<int>(preview.sheets().list.size()) - 1;
-  index = std::clamp(index, 0, last);
+  index = std::clamp(index, 0, count() - 1);
+  say({});
   showSheet();
 }
 
@@ -148,14 +149,13 @@ void PreviewArea::showSheet() {
 }
 
 void PreviewArea::draw() {
-  const auto& list = preview.sheets().list;
-  if (preview.stage() != Preview::Stage::ready || list.empty()) return;
+  if (preview.stage() != Preview::Stage::ready || count() == 0) return;
   const int pixels = std::clamp(view->longSide(), 1, kLargestPicture);
   if (pixels != drawnPixels) pictures.clear();
   drawnPixels = pixels;
   if (pictures.contains(index)) return;
   preview.draw(index, pixels,
-               printsInGrey(job.options) ? SheetPainter::Ink::grey : SheetPainter::Ink::colour);
+               printsInGrey(options()) ? SheetPainter::Ink::grey : SheetPainter::Ink::colour);
 }
 
 void PreviewArea::takePicture(int drawn, int pixels, const QByteArray& bytes) {
@@ -168,37 +168,39 @@ void PreviewArea::takePicture(int drawn, int pixels, const QByteArray& bytes) {
 
 // --- What is said ---
 
+void PreviewArea::say(const QString& text) {
+  message = text;
+  const std::string name = job ? documentName(job->document) : "";
+  view->setMessage(shownLine(name), message);
+  describe();
+}
+
 void PreviewArea::describe() {
-  const Sheets& sheets = preview.sheets();
-  const int count = preview.stage() == Preview::Stage::failed ? 0 : int(sheets.list.size());
-  turner->setVisible(count > 0);
-  turner->showSheet(index, count, textBeforeNumber(job.options),
-                    textAfterNumber(count, job.options));
-  if (count > 0) {
-    const QString text = contentsText(sheets, index, job.options);
-    contents->setText(text.isEmpty() ? " " : text);
-    view->setAccessibleName(sheetText(sheets, index, job.options));
-  } else if (preview.stage() != Preview::Stage::failed) {
+  const bool hasSheets = message.isEmpty() && count() > 0;
+  turner->setVisible(hasSheets);
+  contents->setText(" ");
+  if (hasSheets)
+    describeSheet();
+  else if (message.isEmpty())
     contents->setText(preview.stage() == Preview::Stage::waiting ? tr("Waiting for the document…")
                                                                  : tr("Preparing the preview…"));
-    view->setAccessibleName(contents->text());
-  }
+  if (!hasSheets) view->setAccessibleName(message.isEmpty() ? contents->text() : message);
   QAccessibleEvent event(view, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
 }
 
-void PreviewArea::say(const QString& message) {
-  view->setMessage(shownLine(documentName(job.document)), message);
-  contents->setText(" ");
-  view->setAccessibleName(message);
-  describe();
+void PreviewArea::describeSheet() {
+  turner->showSheet(index, count(), textBeforeNumber(options()),
+                    textAfterNumber(count(), options()));
+  if (const QString text = contentsText(preview.sheets(), index, options()); !text.isEmpty())
+    contents->setText(text);
+  view->setAccessibleName(sheetText(preview.sheets(), index, options()));
 }
 
 // --- What the person does ---
 
 void PreviewArea::turnTo(int wanted) {
-  const auto count = static_cast<int>(preview.sheets().list.size());
-  if (wanted < 0 || wanted >= count || wanted == index) return;
+  if (wanted < 0 || wanted >= count() || wanted == index) return;
   index = wanted;
   showSheet();
 }
@@ -219,7 +221,7 @@ void PreviewArea::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Home:
       return turnTo(0);
     case Qt::Key_End:
-      return turnTo(static_cast<int>(preview.sheets().list.size()) - 1);
+      return turnTo(count() - 1);
     case Qt::Key_Plus:
       return setZoom(zoom + 1);
     case Qt::Key_Minus:

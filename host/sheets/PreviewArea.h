@@ -1,7 +1,8 @@
 #pragma once
 
+#include <optional>
+
 #include <QCache>
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -25,7 +26,7 @@ class PreviewArea : public QWidget {
 
   // Shows this job on this paper, soon.
   void show(const PreviewJob& job, const Paper& paper);
-  // There is no job to show, and why.
+  // There is no job to show, and why; an empty reason while there is none yet.
   void showNothing(const QString& reason);
   // Drops all work until a job is shown.
   void pause();
@@ -47,13 +48,17 @@ class PreviewArea : public QWidget {
   void takePicture(int drawn, int pixels, const QByteArray& picture);
   void showSheet();
   void draw();
+  OptionList options() const { return job ? job->options : OptionList(); }
+  int count() const { return static_cast<int>(preview.sheets().list.size()); }
   void describe();
+  void describeSheet();
   void say(const QString& message);
   void setZoom(int step);
   bool turnByWheel(const QWheelEvent& event);
 
   Preview preview;
-  PreviewJob job;
+  std::optional<PreviewJob> job;  // that is shown, or about to be
+  QString message;                // shown instead; empty for none
   QScrollArea* desk;
   SheetView* view;
   SheetTurner* turner;

@@ -52,7 +52,7 @@ void SheetView::setMessage(const QString& documentName, const QString& text) {
 void SheetView::setScale(double pixelsPerPoint) {
   scale = pixelsPerPoint;
   const QSize around(2 * kDesk, 2 * kDesk);
-  setMinimumSize(scale > 0 ? (sheetSize() * scale).toSize() + around : QSize());
+  setMinimumSize(scale > 0 ? (sheetSize() * scale).toSize() + around : QSize(0, 0));
   update();
 }
 

@@ -1,0 +1,140 @@
+#include "host/sheets/PreviewArea.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTest>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+#include "host/printer/PPDLoader.h"
+#include "host/sheets/SheetView.h"
+#include "tests/fakes/FakePDF.h"
+#include "tests/fixtures/TemporaryFolder.h"
+
+namespace tavrin {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kPatience = 20'000;  // milliseconds
+
+class PreviewAreaTest : public testing::Test {
+ protected:
+  PreviewAreaTest() {
+    area.resize(300, 420);
+    area.QWidget::show();
+  }
+  PreviewJob job(const OptionList& options = {}) const {
+    auto ppd = loadPPD(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
+    return {document, sourceOf(SharedPPD(std::move(*ppd))), options};
+  }
+  void show(const OptionList& options = {}) { area.show(job(options), {}); }
+  std::string spoken() { return view->accessibleName().toStdString(); }
+  bool speaks(const char* text) {
+    return QTest::qWaitFor([&] { return spoken() == text; }, kPatience);
+  }
+  // What the view shows once that is something else.
+  QImage shownAfter(const QImage& before) {
+    QImage now;
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return (now = view->grab().toImage()) != before; }, kPatience));
+    return now;
+  }
+  void press(Qt::Key key) { QTest::keyClick(view, key); }
+  void turnWheel(int notches) {
+    QWheelEvent event(QPointF(50, 50), view->mapToGlobal(QPointF(50, 50)), {}, {0, 120 * notches},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view, &event);
+  }
+
+  test::TemporaryFolder place;
+  fs::path document = place.write("pages.pdf", numberedPDF(5));
+  PreviewArea area{nullptr};
+  SheetView* view = area.findChild<SheetView*>();
+  QSpinBox* number = area.findChild<QSpinBox*>("sheet");
+};
+
+TEST_F(PreviewAreaTest, ShowsThePapersShapeBeforeAnythingElse) {
+  const QImage desk = view->grab().toImage();
+  area.show(job(), {QSizeF(300, 100), {}});
+  EXPECT_NE(view->grab().toImage(), desk);
+  EXPECT_EQ(spoken(), "Preparing the preview…");
+}
+
+TEST_F(PreviewAreaTest, SaysWhichSheetIsShown) {
+  show({{"number-up", "2"}, {"Mirror", "True"}});
+  EXPECT_TRUE(speaks("Sheet 1 of 3: pages 1 and 2, mirrored")) << spoken();
+  EXPECT_EQ(number->text().toStdString(), "Sheet 1 of 3");
+}
+
+TEST_F(PreviewAreaTest, TurnsByKeysByWheelAndByNumber) {
+  show();
+  ASSERT_TRUE(speaks("Sheet 1 of 5: page 1")) << spoken();
+  press(Qt::Key_PageDown);
+  EXPECT_EQ(spoken(), "Sheet 2 of 5: page 2");
+  press(Qt::Key_End);
+  EXPECT_EQ(area.current(), 4);
+  press(Qt::Key_PageDown);
+  EXPECT_EQ(area.current(), 4);
+  press(Qt::Key_Home);
+  EXPECT_EQ(area.current(), 0);
+  turnWheel(-1);
+  EXPECT_EQ(area.current(), 1);
+  number->setValue(4);
+  EXPECT_EQ(area.current(), 3);
+}
+
+TEST_F(PreviewAreaTest, DrawsTheSheetThatIsTurnedTo) {
+  show();
+  ASSERT_TRUE(speaks("Sheet 1 of 5: page 1"));
+  const QImage first = shownAfter(view->grab().toImage());
+  press(Qt::Key_PageDown);
+  shownAfter(first);
+}
+
+TEST_F(PreviewAreaTest, KeepsTheSheetThatIsShownAsFarAsThereIsOne) {
+  show();
+  ASSERT_TRUE(speaks("Sheet 1 of 5: page 1"));
+  area.turnTo(4);
+  show({{"number-up", "4"}});
+  EXPECT_TRUE(speaks("Sheet 2 of 2: page 5")) << spoken();
+}
+
+TEST_F(PreviewAreaTest, ZoomsToFullSizeAndBack) {
+  show();
+  ASSERT_TRUE(speaks("Sheet 1 of 5: page 1"));
+  const QSize fitted = view->size();
+  press(Qt::Key_Plus);
+  press(Qt::Key_Plus);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return view->height() > 11 * view->logicalDpiY(); }));
+  press(Qt::Key_0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return view->size() == fitted; }));
+}
+
+TEST_F(PreviewAreaTest, SaysWhatCannotBeDrawn) {
+  document = place.write("program.ps", "%!PS\nshowpage\n");
+  show();
+  EXPECT_TRUE(speaks("There is no preview of this kind of document.")) << spoken();
+  EXPECT_FALSE(number->isVisible());
+}
+
+TEST_F(PreviewAreaTest, WaitsForADocumentWithoutHoldingAnythingUp) {
+  document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(document.c_str(), 0600), 0);
+  show();
+  EXPECT_TRUE(speaks("Waiting for the document…")) << spoken();
+}
+
+TEST_F(PreviewAreaTest, MaySayThatThereIsNothingToShow) {
+  show();
+  area.showNothing("Nothing here.");
+  EXPECT_EQ(spoken(), "Nothing here.");
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,43 @@
+#include "host/sheets/SheetTexts.h"
+
+#include <gtest/gtest.h>
+
+namespace tavrin {
+namespace {
+
+Sheets sheets(std::size_t count, int pages) {
+  Sheets made;
+  made.list.resize(count, {612, 792, 0});
+  made.documentPages = pages;
+  return made;
+}
+
+std::string text(const Sheets& all, int index, const OptionList& options) {
+  return sheetText(all, index, options).toStdString();
+}
+
+TEST(SheetTextsTest, SaysWhatIsOnASheet) {
+  EXPECT_EQ(text(sheets(5, 5), 1, {}), "Sheet 2 of 5: page 2");
+  EXPECT_EQ(text(sheets(5, 9), 0, {{"number-up", "2"}, {"Mirror", "True"}}),
+            "Sheet 1 of 5: pages 1 and 2, mirrored");
+  EXPECT_EQ(text(sheets(2, 8), 1, {{"number-up", "4"}, {"ColorModel", "Black"}}),
+            "Sheet 2 of 2: pages 5 to 8, black only");
+}
+
+TEST(SheetTextsTest, CountsSidesOnPaperThatIsPrintedOnBoth) {
+  const OptionList twoSided{{"Duplex", "DuplexNoTumble"}};
+  EXPECT_EQ(text(sheets(3, 3), 0, twoSided), "Side 1 of 3: front of sheet 1, page 1");
+  EXPECT_EQ(text(sheets(3, 3), 1, twoSided), "Side 2 of 3: back of sheet 1, page 2");
+}
+
+TEST(SheetTextsTest, DoesNotGuess) {
+  EXPECT_EQ(text(sheets(4, 8), 0, {{"booklet", "true"}}), "Sheet 1 of 4");
+}
+
+TEST(SheetTextsTest, StandsAroundANumber) {
+  EXPECT_EQ(textBeforeNumber({}).toStdString(), "Sheet ");
+  EXPECT_EQ(textAfterNumber(12, {}).toStdString(), " of 12");
+}
+
+}  // namespace
+}  // namespace tavrin
