@@ -1,6 +1,8 @@
 #include "host/dialog/PaneSwitcher.h"
 
-#include <QComboBox>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace tavrin {
@@ -18,22 +20,56 @@ class StubPane final : public Pane {
   bool mayLeave = true;
 };
 
-TEST(PaneSwitcher, StaysWhereAPaneRefusesToBeLeft) {
-  PaneSwitcher switcher(nullptr);
-  StubPane first("First", &switcher);
-  StubPane second("Second", &switcher);
-  switcher.setPanes({&first, &second}, "Second");
+class PaneSwitcherTest : public testing::Test {
+ protected:
+  PaneSwitcherTest() { switcher.setPanes({&first, &second}, "Second"); }
+
+  PaneSwitcher switcher{nullptr};
+  StubPane first{"First", &switcher};
+  StubPane second{"Second", &switcher};
+  QTabBar* tabs = switcher.findChild<QTabBar*>("panes");
+};
+
+TEST_F(PaneSwitcherTest, StaysWhereAPaneRefusesToBeLeft) {
   EXPECT_EQ(switcher.current(), &second);
   EXPECT_EQ(second.shows, 1);
-  auto* popUp = switcher.findChild<QComboBox*>("panes");
   second.mayLeave = false;
-  popUp->setCurrentIndex(0);
+  tabs->setCurrentIndex(0);
   EXPECT_EQ(switcher.current(), &second);
-  EXPECT_EQ(popUp->currentText(), "Second");
+  EXPECT_EQ(tabs->currentIndex(), 1);
   second.mayLeave = true;
-  popUp->setCurrentIndex(0);
+  tabs->setCurrentIndex(0);
   EXPECT_EQ(switcher.current(), &first);
   EXPECT_TRUE(second.isHidden());
+}
+
+TEST_F(PaneSwitcherTest, TurnsByKeysFromAnywhere) {
+  QLineEdit edit(&second);
+  switcher.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&switcher));
+  edit.setFocus();
+  QTest::keyClick(&edit, Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(switcher.current(), &first) << "the first one comes after the last one";
+  EXPECT_EQ(switcher.focusWidget(), tabs) << "what had the focus is gone";
+  QTest::keyClick(tabs, Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(switcher.current(), &second);
+  QTest::keyClick(tabs, Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(switcher.current(), &first);
+  QTest::keyClick(tabs, Qt::Key_Right);
+  EXPECT_EQ(switcher.current(), &second);
+}
+
+TEST_F(PaneSwitcherTest, TellsNamesThatAreCutOff) {
+  switcher.resize(tabs->sizeHint().width(), 200);
+  switcher.show();
+  EXPECT_EQ(tabs->tabToolTip(0), "");
+  switcher.resize(tabs->sizeHint().width() - 10, 200);
+  EXPECT_TRUE(tabs->tabToolTip(0).contains("First"));
+}
+
+TEST_F(PaneSwitcherTest, NamesItsPanesForAScreenReader) {
+  EXPECT_EQ(tabs->accessibleName(), "Settings to show");
+  EXPECT_EQ(second.accessibleName(), "Second");
 }
 
 }  // namespace

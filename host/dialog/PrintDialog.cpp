@@ -172,7 +172,7 @@ void PrintDialog::showNotice() {
   const PrintTask::Notice& notice = task.notice();
   note->say(shownLines(notice.text),
             notice.isWarning ? Note::Kind::warning : Note::Kind::information,
-            notice.canLookAgain ? tr("&Look Again") : QString());
+            notice.canLookAgain ? tr("Look A&gain") : QString());
 }
 
 void PrintDialog::showHelp() {

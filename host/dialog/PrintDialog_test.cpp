@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTest>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -17,6 +18,7 @@
 #include "host/dialog/Note.h"
 #include "host/dialog/PrinterPopUp.h"
 #include "host/panes/FeaturesPane.h"
+#include "host/panes/Mnemonics.h"
 #include "host/printer/PPDLoader.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/qt/toolkit/QtToolkit.h"
@@ -50,8 +52,16 @@ class PrintDialogTest : public testing::Test {
   static void press(PrintDialog& dialog, const char* button) {
     QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
   }
+  static QStringList panesOf(const PrintDialog& dialog) {
+    const auto* tabs = dialog.findChild<QTabBar*>("panes");
+    QStringList names;
+    for (int i = 0; i < tabs->count(); ++i) names << tabs->tabText(i).remove('&');
+    return names;
+  }
   static void turnTo(PrintDialog& dialog, const char* pane) {
-    dialog.findChild<QComboBox*>("panes")->setCurrentText(pane);
+    const auto index = panesOf(dialog).indexOf(pane);
+    ASSERT_GE(index, 0) << pane;
+    dialog.findChild<QTabBar*>("panes")->setCurrentIndex(static_cast<int>(index));
   }
   static void pick(QComboBox* popUp, const char* choice) {
     ASSERT_NE(popUp, nullptr);
@@ -89,11 +99,9 @@ TEST_F(PrintDialogTest, ShowsThePanelOfThePrinter) {
   task.usePrinterWithoutQueue(samplePPD(), place.path());
   ASSERT_NE(task.session(), nullptr);
   EXPECT_EQ(task.session()->panels().size(), 1u);
-  auto* panes = dialog.findChild<QComboBox*>("panes");
-  QStringList names;
-  for (int i = 0; i < panes->count(); ++i) names << panes->itemText(i);
-  EXPECT_EQ(names, (QStringList{"Layout", "Printer Features", "Print Settings", "Summary"}));
-  EXPECT_EQ(panes->currentText(), "Print Settings");
+  const QStringList panes = panesOf(dialog);
+  EXPECT_EQ(panes, (QStringList{"Layout", "Printer Features", "Print Settings", "Summary"}));
+  EXPECT_EQ(panes[dialog.findChild<QTabBar*>("panes")->currentIndex()], "Print Settings");
   dialog.show();
   // A second tray is installed in this printer; the panel sees so when it comes up.
   EXPECT_TRUE(dialog.findChild<QComboBox*>("ibPaperSource")->isVisible());
@@ -149,6 +157,21 @@ TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
         edges.insert(control->mapTo(&dialog, QPoint(0, 0)).x());
     EXPECT_EQ(edges.size(), 1u) << pane;
   }
+}
+
+TEST_F(PrintDialogTest, EveryLetterLeadsToOneControl) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  QString letters = mnemonicsIn(dialog);
+  const auto* tabs = dialog.findChild<QTabBar*>("panes");
+  for (int i = 0; i < tabs->count(); ++i) {
+    const QString letter = QKeySequence::mnemonic(tabs->tabText(i)).toString().right(1);
+    EXPECT_FALSE(letter.isEmpty()) << tabs->tabText(i).toStdString();
+    letters += letter;
+  }
+  const std::set<QChar> different(letters.begin(), letters.end());
+  EXPECT_EQ(different.size(), letters.size()) << letters.toStdString();
 }
 
 TEST_F(PrintDialogTest, NamesPagesPerSheetThatCannotBe) {

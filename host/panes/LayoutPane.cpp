@@ -39,7 +39,7 @@ void LayoutPane::setMarks(PPDMarks* theMarks) {
   marks = theMarks;
   const ppd_option_t* option = marks ? twoSidedOption(marks->ppd()) : nullptr;
   twoSided = option ? option->keyword : "";
-  if (option) addRow(*form, tr("&Two-sided:"), *makeChild<PickOneControl>(*marks, *option, this));
+  if (option) addRow(*form, tr("T&wo-sided:"), *makeChild<PickOneControl>(*marks, *option, this));
 }
 
 Pane::Lines LayoutPane::summary() const {

@@ -8,7 +8,7 @@
 
 namespace tavrin {
 
-// One page of the dialog that the pop-up of panes leads to.
+// One page of the dialog, which a tab leads to.
 class Pane : public QWidget {
   Q_OBJECT
 
@@ -18,7 +18,7 @@ class Pane : public QWidget {
 
   explicit Pane(const QString& name, QWidget* parent) : QWidget(parent), title(name) {}
 
-  // Its name in the pop-up.
+  // Its name on the tab.
   const QString& name() const { return title; }
   virtual Lines summary() const = 0;
 
