@@ -4,17 +4,19 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QHBoxLayout>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "host/dialog/FittingScrollArea.h"
 #include "host/dialog/GeneralArea.h"
 #include "host/dialog/HelpWindow.h"
 #include "host/dialog/JobButtons.h"
 #include "host/dialog/Note.h"
 #include "host/dialog/PaneSwitcher.h"
 #include "host/dialog/SessionPanes.h"
+#include "host/dialog/SettingsColumn.h"
 #include "host/panes/LayoutPane.h"
 #include "host/panes/Widgets.h"
 #include "platform/qt/base/ShownText.h"
@@ -22,8 +24,10 @@
 namespace tavrin {
 namespace {
 
-// Wide enough for most panels, in line heights, so that the window does not jump when one appears.
-constexpr int kUsualWidth = 35;
+// The height of the window when it opens, in line heights: enough for most panels.
+constexpr int kUsualHeight = 38;
+// What a window manager puts around a window, at most.
+constexpr QSize kWindowFrame(16, 48);
 
 // How long a program that is to end waits for a job to be taken back.
 constexpr std::chrono::milliseconds kLongestEnd(1500);
@@ -39,16 +43,16 @@ QString titleFor(const JobRequest& request) {
 PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
     : QDialog(parent),
       task(theTask),
-      scroll(makeChild<FittingScrollArea>(this)),
-      content(makeChild<QWidget>(scroll)),
+      row(makeChild<QHBoxLayout>()),
+      column(makeChild<SettingsColumn>(this)),
+      content(column->widget()),
       general(makeChild<GeneralArea>(task, content)),
       switcher(makeChild<PaneSwitcher>(content)),
-      conflictNote(makeChild<Note>(content)),
+      conflictNote(makeChild<Note>(this)),
       note(makeChild<Note>(this)),
       buttons(makeChild<JobButtons>(task, this)),
       layoutPane(makeChild<LayoutPane>(task.fields(), switcher)),
-      summaryPane(makeChild<SummaryPane>([this] { return allLines(); }, switcher)),
-      screenFit(*this) {
+      summaryPane(makeChild<SummaryPane>([this] { return allLines(); }, switcher)) {
   setWindowTitle(titleFor(task.request()));
   build();
   connectParts();
@@ -65,15 +69,15 @@ void PrintDialog::build() {
   inside->setContentsMargins(0, 0, 0, 0);
   inside->addWidget(general);
   inside->addWidget(switcher);
-  inside->addWidget(conflictNote);
   inside->addStretch();
-  scroll->setWidget(content);
-  auto* column = makeChild<QVBoxLayout>(this);
-  column->addWidget(scroll, 1);
-  column->addWidget(note);
-  column->addWidget(buttons);
+  row->addWidget(column);
+  auto* rows = makeChild<QVBoxLayout>(this);
+  rows->addLayout(row, 1);
+  rows->addWidget(conflictNote);
+  rows->addWidget(note);
+  rows->addWidget(buttons);
   switcher->setPanes({layoutPane, summaryPane}, layoutPane->name());
-  resize(kUsualWidth * fontMetrics().height(), 0);
+  resize(openingSize());
   note->setObjectName("note");
   conflictNote->setObjectName("conflictNote");
 }
@@ -96,24 +100,15 @@ void PrintDialog::connectTask() {
   connect(&task, &PrintTask::stageChanged, this, &PrintDialog::showStage);
 }
 
-void PrintDialog::setVisible(bool visible) {
-  // By default, a dialog opens at two thirds of the screen at most.
-  if (visible) fit();
-  QDialog::setVisible(visible);
+// The same for all printers, panes and notes: from then on, only the person changes it.
+QSize PrintDialog::openingSize() const {
+  const QMargins margins = layout()->contentsMargins();
+  const QSize wanted(row->sizeHint().width() + margins.left() + margins.right(),
+                     kUsualHeight * fontMetrics().height());
+  return wanted.boundedTo(screen()->availableSize() - kWindowFrame);
 }
 
-bool PrintDialog::event(QEvent* event) {
-  const bool handled = QDialog::event(event);
-  if (event->type() == QEvent::LayoutRequest) fit();
-  return handled;
-}
-
-void PrintDialog::fit() {
-  lineUpForms(*content);
-  screenFit.fit();
-}
-
-void PrintDialog::orderAllTabs() { orderTabs({content, note, buttons}); }
+void PrintDialog::orderAllTabs() { orderTabs({content, conflictNote, note, buttons}); }
 
 // --- The printer's settings ---
 

@@ -4,13 +4,13 @@
 
 #include <QDialog>
 
-#include "host/dialog/ScreenFit.h"
 #include "host/panes/SummaryPane.h"
 #include "host/task/PrintTask.h"
 
+class QHBoxLayout;
+
 namespace tavrin {
 
-class FittingScrollArea;
 class GeneralArea;
 class HelpWindow;
 class JobButtons;
@@ -18,6 +18,7 @@ class LayoutPane;
 class Note;
 class PaneSwitcher;
 class SessionPanes;
+class SettingsColumn;
 
 // The Print dialog: shows a task, and passes on to it what the person does. It can be shown at
 // once, whatever the task is still waiting for.
@@ -34,16 +35,12 @@ class PrintDialog : public QDialog {
   // The program is to end: takes back a job that is on its way, and leaves when that is done or has
   // taken too long. Windows in front of the dialog go unanswered.
   void end();
-  void setVisible(bool visible) override;
-
- protected:
-  bool event(QEvent* event) override;
 
  private:
   void build();
   void connectParts();
   void connectTask();
-  void fit();
+  QSize openingSize() const;
   void orderAllTabs();
 
   void showSession();
@@ -57,7 +54,8 @@ class PrintDialog : public QDialog {
   SummaryPane::Sections allLines() const;
 
   PrintTask& task;
-  FittingScrollArea* scroll;
+  QHBoxLayout* row;  // the preview and the settings
+  SettingsColumn* column;
   QWidget* content;
   GeneralArea* general;
   PaneSwitcher* switcher;
@@ -68,7 +66,6 @@ class PrintDialog : public QDialog {
   SummaryPane* summaryPane;
   std::unique_ptr<SessionPanes> sessionPanes;
   HelpWindow* help = nullptr;
-  ScreenFit screenFit;
 };
 
 }  // namespace tavrin

@@ -11,6 +11,7 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -157,6 +158,31 @@ TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
         edges.insert(control->mapTo(&dialog, QPoint(0, 0)).x());
     EXPECT_EQ(edges.size(), 1u) << pane;
   }
+}
+
+TEST_F(PrintDialogTest, StaysAsItIsWhateverItShows) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  const QSize size = dialog.size();
+  dialog.show();
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  const auto* print = dialog.findChild<QPushButton*>("print");
+  const auto printStands = [&] {
+    QCoreApplication::processEvents();
+    return print->mapTo(&dialog, print->rect().center());
+  };
+  const QPoint stood = printStands();
+  dialog.findChild<QToolButton*>("ibDisclosure")->click();
+  EXPECT_EQ(printStands(), stood) << "advanced options";
+  for (const char* pane : {"Layout", "Printer Features", "Summary", "Print Settings"}) {
+    turnTo(dialog, pane);
+    EXPECT_EQ(printStands(), stood) << pane;
+  }
+  task.warn(std::string(500, 'x') + " and that is why");
+  task.session()->marks().choose("MediaType", "IronOn");
+  task.session()->marks().choose("Duplex", "DuplexNoTumble");
+  EXPECT_EQ(printStands(), stood) << "notes";
+  EXPECT_EQ(dialog.size(), size);
 }
 
 TEST_F(PrintDialogTest, EveryLetterLeadsToOneControl) {

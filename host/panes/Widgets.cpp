@@ -53,6 +53,7 @@ QLabel* makeTextLabel(QWidget* parent) {
   auto* label = makeChild<QLabel>(parent);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
+  label->setMinimumWidth(1);  // a monstrous word does not widen the window
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   return label;
 }
