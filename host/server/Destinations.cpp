@@ -55,6 +55,8 @@ Printer printerFrom(const cups_dest_t& destination) {
   printer.isDefault = destination.is_default != 0;
   printer.state = stateOf(destination);
   printer.options = optionsOf(destination);
+  printer.description = text(destination, "printer-info");
+  printer.location = text(destination, "printer-location");
   return printer;
 }
 
@@ -67,6 +69,7 @@ bool hasQueue(const cups_dest_t& destination) {
 // The value as lp would have it; libcups' own writing has words for some numbers.
 std::string optionValueOf(ipp_attribute_t& attribute) {
   const ipp_tag_t tag = ippGetValueTag(&attribute);
+  if (tag == IPP_TAG_TEXT || tag == IPP_TAG_TEXTLANG) return textOf(attribute);  // for people
   if (tag != IPP_TAG_ENUM) return valuesOf(attribute);
   std::vector<std::string> numbers;
   numbers.reserve(static_cast<std::size_t>(ippGetCount(&attribute)));
@@ -145,6 +148,7 @@ bool addDefault(DestinationArray& destinations, PrintServer& server) {
 
 Cancellable<std::vector<Printer>> readPrinters(const CancelFlag& cancel, Patience patience) {
   constexpr std::array kWanted{"printer-name",          "printer-type",
+                               "printer-info",          "printer-location",
                                "printer-state",         "printer-state-message",
                                "printer-state-reasons", "printer-is-accepting-jobs",
                                "job-sheets-default",    "printer-defaults"};
@@ -170,6 +174,8 @@ Cancellable<PrinterState> readPrinterState(const std::string& queue, const Cance
   auto server = PrintServer::connect(cancel, patience);
   if (!server) return server.why();
   const IppPtr answer = server->ask(printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue));
+  if (!answer && server->answerStatus() == IPP_STATUS_ERROR_NOT_FOUND)
+    return PrinterState{.activity = PrinterState::Activity::gone};
   if (!answer)
     return server->noAnswer("The printer " + quoted(queue) + " cannot be asked for its state");
   PrinterState state;

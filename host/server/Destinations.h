@@ -17,7 +17,8 @@ namespace tavrin {
 Cancellable<std::vector<Printer>> readPrinters(const CancelFlag& cancel = neverCancelled(),
                                                Patience patience = kUsualPatience);
 
-// One queue's state as it is now; the reason when there is no such queue.
+// One queue's state as it is now, which may be that it is gone; the reason when the server cannot
+// be asked.
 Cancellable<PrinterState> readPrinterState(const std::string& queue,
                                            const CancelFlag& cancel = neverCancelled(),
                                            Patience patience = kUsualPatience);

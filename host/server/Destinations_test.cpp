@@ -32,8 +32,8 @@ TEST_F(DestinationsTest, AreQueuesAndInstancesWithTheirStates) {
   ASSERT_EQ(names, (std::vector<std::string>{"other", "tav", "tav/draft"}));
   EXPECT_TRUE(printers->at(0).isDefault);
   EXPECT_FALSE(printers->at(1).isDefault);
-  EXPECT_EQ(stateText(printers->at(0).state), "Idle, not accepting jobs");
-  EXPECT_EQ(stateText(printers->at(1).state), "Idle");
+  EXPECT_EQ(stateText(printers->at(0).state), "Takes no new jobs");
+  EXPECT_EQ(stateText(printers->at(1).state), "Ready");
   EXPECT_EQ(optionValue(printers->at(2).options, "PrintQuality"), "Draft");
 }
 
@@ -53,11 +53,10 @@ std::vector<std::string> toldByLibcups() {
   const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &first);
   std::vector<Printer> printers;
   for (const cups_dest_t& destination : std::span(first, static_cast<std::size_t>(count))) {
-    Printer printer{destination.name,
-                    destination.instance ? destination.instance : "",
-                    destination.is_default != 0,
-                    {},
-                    {}};
+    Printer printer;
+    printer.name = destination.name;
+    printer.instance = destination.instance ? destination.instance : "";
+    printer.isDefault = destination.is_default != 0;
     for (int i = 0; i < destination.num_options; ++i)
       if (const std::string name = destination.options[i].name;
           !name.starts_with("printer-") && !name.starts_with("marker-") && name != "device-uri")
@@ -131,15 +130,26 @@ TEST_F(DestinationsTest, TellTheStateOfAStoppedQueue) {
   const auto state = readPrinterState("tav");
   ASSERT_TRUE(state) << state.reason();
   EXPECT_EQ(state->activity, PrinterState::Activity::stopped);
-  EXPECT_EQ(stateText(*state), "Stopped");
+  EXPECT_EQ(stateText(*state), "Stopped. Jobs will wait.");
   cups.run({"cupsdisable", "-r", "Filter failed", "tav"});
-  EXPECT_EQ(stateText(*readPrinterState("tav")), "Stopped: Filter failed");
+  EXPECT_EQ(stateText(*readPrinterState("tav")), "Stopped: Filter failed. Jobs will wait.");
 }
 
-TEST_F(DestinationsTest, NameAnUnknownQueue) {
-  EXPECT_EQ(readPrinterState("nowhere").reason(),
-            "The printer \"nowhere\" cannot be asked for its state: The printer or class does not "
-            "exist.");
+TEST_F(DestinationsTest, TellThatAQueueIsGone) {
+  const auto state = readPrinterState("nowhere");
+  ASSERT_TRUE(state) << state.reason();
+  EXPECT_EQ(state->activity, PrinterState::Activity::gone);
+}
+
+TEST_F(DestinationsTest, AreWhatPeopleCallThemAndWhereTheyStand) {
+  cups.addPlainQueue("tav");
+  cups.run({"lpadmin", "-p", "tav", "-D", "Photo printer \"Ada\"", "-L", "First floor, left"});
+  cups.run({"lpoptions", "-p", "tav/draft", "-o", "PrintQuality=Draft"});
+  const auto printers = readPrinters();
+  ASSERT_TRUE(printers) << printers.reason();
+  EXPECT_EQ(printers->at(0).description, "Photo printer \"Ada\"");
+  EXPECT_EQ(printers->at(0).location, "First floor, left");
+  EXPECT_EQ(titleOf(printers->at(1)), "Photo printer \"Ada\" (draft)");
 }
 
 TEST_F(SilentServerTest, HoldsUpNoListOfPrinters) {

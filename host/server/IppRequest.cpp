@@ -96,7 +96,13 @@ bool booleanIn(ipp_t& answer, const char* name, bool fallback) {
 
 std::string textIn(ipp_t& answer, const char* name) {
   ipp_attribute_t* attribute = ippFindAttribute(&answer, name, IPP_TAG_ZERO);
-  return attribute ? valuesOf(*attribute) : "";
+  return attribute ? textOf(*attribute) : "";
+}
+
+std::string textOf(ipp_attribute_t& attribute) {
+  const bool isOne = ippGetCount(&attribute) == 1;
+  const char* text = isOne ? ippGetString(&attribute, 0, nullptr) : nullptr;
+  return text ? text : valuesOf(attribute);
 }
 
 std::string valuesOf(ipp_attribute_t& attribute) {

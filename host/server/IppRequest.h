@@ -24,7 +24,10 @@ int integerIn(ipp_t& answer, const char* name);
 bool booleanIn(ipp_t& answer, const char* name, bool fallback);
 std::string textIn(ipp_t& answer, const char* name);
 
-// All values of an attribute as text.
+// A single text as it is; several values as valuesOf() writes them.
+std::string textOf(ipp_attribute_t& attribute);
+// All values of an attribute as they are written among options: separated by commas, with a
+// backslash before quotation marks.
 std::string valuesOf(ipp_attribute_t& attribute);
 
 }  // namespace tavrin

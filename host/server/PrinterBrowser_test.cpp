@@ -42,7 +42,7 @@ TEST_F(PrinterBrowserTest, AnswersEveryRequest) {
   EXPECT_TRUE(eventually([&] { return answers.size() == 4; }));
   std::sort(answers.begin(), answers.end());
   EXPECT_EQ(answers, (std::vector<std::string>{"found tav", "no ppd of nowhere", "ppd of tav",
-                                               "tav is Idle"}));
+                                               "tav is Ready"}));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <cups/ipp.h>
 
 #include "host/support/TextLists.h"
+#include "platform/text/IgnoringCase.h"
 
 namespace tavrin {
 
@@ -12,43 +13,52 @@ namespace {
 
 using Activity = PrinterState::Activity;
 
-// A keyword in words: "media-empty-warning" is "media empty (warning)".
-std::string reasonText(std::string reason) {
-  std::string severity;
-  for (const char* suffix : {"-report", "-warning", "-error"}) {
-    if (!reason.ends_with(suffix)) continue;
-    severity = suffix + 1;
-    reason.resize(reason.size() - severity.size() - 1);
-    break;
-  }
-  std::ranges::replace(reason, '-', ' ');
-  return severity == "warning" ? reason + " (warning)" : reason;
-}
-
 const char* activityText(Activity activity) {
   switch (activity) {
     case Activity::idle:
-      return "Idle";
+      return "Ready";
     case Activity::printing:
       return "Printing";
     case Activity::stopped:
       return "Stopped";
+    case Activity::silent:
+      return "Does not answer";
+    case Activity::gone:
+      return "There is no such printer any more.";
     case Activity::unknown:
       break;
   }
   return "State unknown";
 }
 
-std::vector<std::string> reasonTexts(const PrinterState& state) {
+bool isReady(const PrinterState& state) {
+  return state.activity == Activity::idle && state.acceptsJobs;
+}
+
+std::string headText(const PrinterState& state) {
+  if (state.acceptsJobs) return activityText(state.activity);
+  if (state.activity == Activity::idle) return "Takes no new jobs";
+  return activityText(state.activity) + std::string(", takes no new jobs");
+}
+
+// The server's words within a sentence. "Paused" is all that it says of a printer that somebody
+// stopped.
+std::string whyStopped(std::string message) {
+  if (message.ends_with('.')) message.pop_back();
+  return message == "Paused" ? "" : message;
+}
+
+std::string reasonsText(const PrinterState& state) {
   std::vector<std::string> texts;
-  // "Stopped" has said so already.
-  for (const std::string& reason : state.reasons)
-    if (reason != "paused") texts.push_back(reasonText(reason));
-  // "Paused" is all that the server says of a printer that somebody stopped.
-  const bool isExplained = !state.message.empty() && state.message != "Paused";
-  if (texts.empty() && state.activity == Activity::stopped && isExplained)
-    texts.push_back(state.message);
-  return texts;
+  for (const std::string& keyword : state.reasons)
+    if (std::string words = explained(keyword).words; !words.empty()) texts.push_back(words);
+  if (texts.empty() && state.activity == Activity::stopped) return whyStopped(state.message);
+  return joined(texts);
+}
+
+std::string asSentence(std::string text) {
+  if (text.front() >= 'a' && text.front() <= 'z') text.front() -= 'a' - 'A';
+  return text;
 }
 
 }  // namespace
@@ -74,10 +84,24 @@ std::vector<std::string> reasonsFrom(const std::string& list) {
 }
 
 std::string stateText(const PrinterState& state) {
-  std::string text = activityText(state.activity);
-  if (!state.acceptsJobs) text += ", not accepting jobs";
-  if (const auto reasons = reasonTexts(state); !reasons.empty()) text += ": " + joined(reasons);
-  return text;
+  const std::string reasons = reasonsText(state);
+  // A printer that is out of paper is hardly ready.
+  if (isReady(state) && !reasons.empty()) return asSentence(reasons);
+  std::string text = headText(state);
+  if (!reasons.empty()) text += ": " + reasons;
+  const bool jobsWait = state.activity == Activity::stopped && state.acceptsJobs;
+  return jobsWait ? text + ". Jobs will wait." : text;
+}
+
+Concern concernOf(const PrinterState& state) {
+  const Activity doing = state.activity;
+  if (doing == Activity::stopped || doing == Activity::silent || doing == Activity::gone ||
+      !state.acceptsJobs)
+    return Concern::trouble;
+  Concern concern = Concern::none;
+  for (const std::string& keyword : state.reasons)
+    concern = std::max(concern, explained(keyword).concern);
+  return concern;
 }
 
 }  // namespace tavrin

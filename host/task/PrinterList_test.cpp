@@ -18,7 +18,7 @@ TEST(PrinterList, FollowsWhatAQueueIsDoingInAllItsInstances) {
   list.setState("office", "does not answer");
   std::vector<std::string> states;
   for (const PrinterList::Entry& entry : list.entries()) states.push_back(entry.state);
-  EXPECT_EQ(states, (std::vector<std::string>{"Idle", "does not answer", "does not answer"}));
+  EXPECT_EQ(states, (std::vector<std::string>{"Ready", "does not answer", "does not answer"}));
 }
 
 TEST(PrinterList, ChoosesAnInstanceByItsName) {
