@@ -10,7 +10,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "host/dialog/GeneralArea.h"
+#include "host/general/GeneralArea.h"
 #include "host/dialog/HelpWindow.h"
 #include "host/dialog/JobButtons.h"
 #include "host/dialog/Note.h"

@@ -1,4 +1,4 @@
-#include "host/dialog/GeneralArea.h"
+#include "host/general/GeneralArea.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -8,7 +8,8 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
-#include "host/dialog/PrinterPopUp.h"
+#include "host/general/PrinterPopUp.h"
+#include "host/general/PrinterStateLine.h"
 #include "host/panes/PickOneControl.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
@@ -38,13 +39,18 @@ GeneralArea::GeneralArea(PrintTask& theTask, QWidget* parent)
       somePages(makeChild<QRadioButton>(tr("&Range:"), this)),
       rangeEdit(makeChild<QLineEdit>(this)),
       rangeProblem(makeTextLabel(this)) {
-  addRow(*form, tr("Prin&ter:"), *printerPopUp);
+  addPrinterRows();
   addCopiesRow();
   addPagesRow();
   refresh();
   connectPages();
   connect(copiesBox, &QSpinBox::valueChanged, &task.fields(), &JobFields::setCopies);
   connect(&task.fields(), &JobFields::suggestionTaken, this, &GeneralArea::refresh);
+}
+
+void GeneralArea::addPrinterRows() {
+  addRow(*form, tr("Prin&ter:"), *printerPopUp);
+  form->addRow(nullptr, makeChild<PrinterStateLine>(task, this));
 }
 
 void GeneralArea::addCopiesRow() {

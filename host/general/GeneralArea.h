@@ -33,6 +33,7 @@ class GeneralArea : public QWidget {
   Pane::Lines summary() const;
 
  private:
+  void addPrinterRows();
   void addCopiesRow();
   void addPagesRow();
   void connectPages();

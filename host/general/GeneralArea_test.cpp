@@ -1,4 +1,4 @@
-#include "host/dialog/GeneralArea.h"
+#include "host/general/GeneralArea.h"
 
 #include <QLabel>
 #include <QLineEdit>

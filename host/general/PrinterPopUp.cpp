@@ -1,17 +1,13 @@
-#include "host/dialog/PrinterPopUp.h"
+#include "host/general/PrinterPopUp.h"
 
+#include "host/general/PrinterItems.h"
+#include "host/general/PrinterTexts.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
 namespace {
-
-QString row(const std::string& name, const QString& state) {
-  const QString shown = shownLine(name);
-  return state.isEmpty() ? shown
-                         : PrinterPopUp::tr("%1 — %2", "printer and its state").arg(shown, state);
-}
 
 // What the pop-up says while no printer is chosen.
 QString placeholder(PrintTask::Stage stage) {
@@ -30,6 +26,7 @@ QString placeholder(PrintTask::Stage stage) {
 PrinterPopUp::PrinterPopUp(PrintTask& theTask, QWidget* parent) : QComboBox(parent), task(theTask) {
   setObjectName("printer");
   setAccessibleName(tr("Printer"));
+  setItemDelegate(makeChild<PrinterItems>(this));
   refresh();
   connect(&task, &PrintTask::printersChanged, this, &PrinterPopUp::refresh);
   connect(&task, &PrintTask::stageChanged, this, &PrinterPopUp::refresh);
@@ -38,26 +35,36 @@ PrinterPopUp::PrinterPopUp(PrintTask& theTask, QWidget* parent) : QComboBox(pare
   });
 }
 
-QStringList PrinterPopUp::rows() const {
-  if (!task.hasQueue()) return {row(task.printerName(), tr("jobs go to a folder"))};
-  QStringList all;
-  for (const PrinterList::Entry& entry : task.printers().entries())
-    all << row(destinationName(entry.printer), shownLine(entry.state));
+std::vector<PrinterPopUp::Row> PrinterPopUp::rows() const {
+  if (!task.hasQueue()) return {{shownLine(task.printerName()), tr("Jobs go to a folder")}};
+  std::vector<Row> all;
+  for (const Printer& printer : task.printers().entries())
+    all.push_back({shownLine(titleOf(printer)), printerDetails(printer)});
   return all;
+}
+
+void PrinterPopUp::setRow(int index, const Row& row) {
+  // A list of thousands is not drawn anew for one that has changed.
+  if (itemText(index) == row.title && itemData(index, PrinterItems::kDetails) == row.details)
+    return;
+  setItemText(index, row.title);
+  setItemData(index, row.details, PrinterItems::kDetails);
+  setItemData(index, tr("%1, %2", "printer, details").arg(row.title, row.details),
+              Qt::AccessibleTextRole);
 }
 
 // A list that is open keeps its place where only states have changed.
 void PrinterPopUp::refresh() {
-  const QStringList texts = rows();
-  const bool sameNumber = texts.size() == count();
-  if (!sameNumber) {
-    clear();
-    addItems(texts);
-  }
-  for (int index = 0; sameNumber && index < count(); ++index) setItemText(index, texts[index]);
+  const std::vector<Row> all = rows();
+  const int number = static_cast<int>(all.size());
+  const bool sameNumber = number == count();
+  if (!sameNumber) clear();
+  while (count() < number) addItem({});
+  for (int index = 0; index < number; ++index) setRow(index, all[static_cast<std::size_t>(index)]);
   setPlaceholderText(placeholder(task.stage()));
   const auto chosen = task.printers().chosenIndex();
   setCurrentIndex(!task.hasQueue() ? 0 : chosen ? static_cast<int>(*chosen) : -1);
+  setAccessibleDescription(currentData(PrinterItems::kDetails).toString());
   if (!sameNumber) letPopUpShrink(*this);
 }
 

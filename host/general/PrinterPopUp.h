@@ -6,7 +6,7 @@ namespace tavrin {
 
 class PrintTask;
 
-// The pop-up of printers, each with what it is doing beside its name.
+// The pop-up of printers. Each is there as people know it; the list tells more of it.
 class PrinterPopUp : public QComboBox {
   Q_OBJECT
 
@@ -16,8 +16,14 @@ class PrinterPopUp : public QComboBox {
   PrinterPopUp(PrintTask& task, QWidget* parent);
 
  private:
+  struct Row {
+    QString title;
+    QString details;
+  };
+
   void refresh();
-  QStringList rows() const;
+  std::vector<Row> rows() const;
+  void setRow(int index, const Row& row);
 
   PrintTask& task;
 };

@@ -146,7 +146,7 @@ void PrintTask::goWithoutPPD(const QString& reason) {
 
 std::string PrintTask::printerName() const {
   if (!hasQueue()) return current ? nameOf(current->ppd()) : "";
-  return printers().chosen() ? destinationName(*printers().chosen()) : "";
+  return printers().chosen() ? titleOf(*printers().chosen()) : "";
 }
 
 // --- The chosen printer's settings ---

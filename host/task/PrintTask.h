@@ -79,9 +79,11 @@ class PrintTask : public QObject {
 
   const JobRequest& request() const { return asked; }
   const PrinterList& printers() const { return search.printers(); }
-  // The chosen printer's name on the screen; empty while none is chosen.
+  // The chosen printer as a person knows it; empty while none is chosen.
   std::string printerName() const;
   bool hasQueue() const { return output.empty(); }
+  // Where the jobs of a printer without a queue are put; empty for one with a queue.
+  const std::filesystem::path& outputFolder() const { return output; }
   JobFields& fields() { return jobFields; }
   const JobFields& fields() const { return jobFields; }
   // The chosen printer's settings; null while there are none.

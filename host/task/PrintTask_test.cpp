@@ -65,9 +65,8 @@ class PrintTaskTest : public EventLoopTest {
   }
   static std::size_t placeOf(const PrintTask& task, const std::string& destination) {
     const auto& entries = task.printers().entries();
-    const auto found = std::ranges::find(entries, destination, [](const PrinterList::Entry& entry) {
-      return destinationName(entry.printer);
-    });
+    const auto found = std::ranges::find(
+        entries, destination, [](const Printer& printer) { return destinationName(printer); });
     return static_cast<std::size_t>(found - entries.begin());
   }
 

@@ -4,21 +4,13 @@
 
 namespace tavrin {
 
-PrinterList::PrinterList(std::vector<Printer> printers) {
-  for (Printer& printer : printers) {
-    std::string state = stateText(printer.state);
-    all.push_back({std::move(printer), std::move(state)});
-  }
-}
-
-const Printer* PrinterList::chosen() const { return index ? &all[*index].printer : nullptr; }
+const Printer* PrinterList::chosen() const { return index ? &all[*index] : nullptr; }
 
 void PrinterList::choose(std::size_t place) { index = place; }
 
 bool PrinterList::choose(const std::string& destination) {
-  const auto found = std::ranges::find_if(all, [&](const Entry& entry) {
-    return destination.empty() ? entry.printer.isDefault
-                               : destinationName(entry.printer) == destination;
+  const auto found = std::ranges::find_if(all, [&](const Printer& printer) {
+    return destination.empty() ? printer.isDefault : destinationName(printer) == destination;
   });
   index.reset();
   if (found != all.end())
@@ -28,9 +20,9 @@ bool PrinterList::choose(const std::string& destination) {
   return index.has_value();
 }
 
-void PrinterList::setState(const std::string& queue, const std::string& words) {
-  for (Entry& entry : all)
-    if (entry.printer.name == queue) entry.state = words;
+void PrinterList::setState(const std::string& queue, const PrinterState& state) {
+  for (Printer& printer : all)
+    if (printer.name == queue) printer.state = state;
 }
 
 }  // namespace tavrin

@@ -2,9 +2,8 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
-
-#include <QString>
 
 #include "host/server/Destinations.h"
 
@@ -13,16 +12,11 @@ namespace tavrin {
 // The printers that a person can choose from, with what each is doing, and which one is chosen.
 class PrinterList {
  public:
-  struct Entry {
-    Printer printer;
-    std::string state;  // in words; may be empty
-  };
-
   PrinterList() = default;
   // None is chosen at first.
-  explicit PrinterList(std::vector<Printer> printers);
+  explicit PrinterList(std::vector<Printer> printers) : all(std::move(printers)) {}
 
-  const std::vector<Entry>& entries() const { return all; }
+  const std::vector<Printer>& entries() const { return all; }
   // Null while no printer is chosen.
   const Printer* chosen() const;
   // Absent while no printer is chosen.
@@ -36,10 +30,10 @@ class PrinterList {
   bool choose(const std::string& destination);
 
   // What a queue is doing now, for it and all its instances.
-  void setState(const std::string& queue, const std::string& words);
+  void setState(const std::string& queue, const PrinterState& state);
 
  private:
-  std::vector<Entry> all;
+  std::vector<Printer> all;
   std::optional<std::size_t> index;
 };
 

@@ -15,10 +15,10 @@ Printer printer(const char* name, const char* instance = "") {
 
 TEST(PrinterList, FollowsWhatAQueueIsDoingInAllItsInstances) {
   PrinterList list({printer("attic"), printer("office"), printer("office", "draft")});
-  list.setState("office", "does not answer");
+  list.setState("office", {.activity = PrinterState::Activity::silent});
   std::vector<std::string> states;
-  for (const PrinterList::Entry& entry : list.entries()) states.push_back(entry.state);
-  EXPECT_EQ(states, (std::vector<std::string>{"Ready", "does not answer", "does not answer"}));
+  for (const Printer& printer : list.entries()) states.push_back(stateText(printer.state));
+  EXPECT_EQ(states, (std::vector<std::string>{"Ready", "Does not answer", "Does not answer"}));
 }
 
 TEST(PrinterList, ChoosesAnInstanceByItsName) {

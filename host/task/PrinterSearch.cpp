@@ -3,7 +3,7 @@
 namespace tavrin {
 namespace {
 
-constexpr int kStateInterval = 10'000;  // milliseconds
+constexpr int kStateInterval = 5'000;  // milliseconds
 
 }  // namespace
 
@@ -18,12 +18,9 @@ PrinterSearch::PrinterSearch(QObject* parent) : QObject(parent) {
           [this](const std::string& queue, const QString& reason) {
             if (isChosen(queue)) emit settingsFailed(reason);
           });
-  connect(&browser, &PrinterBrowser::stateChanged, this,
-          [this](const std::string& queue, const PrinterState& state) {
-            setState(queue, stateText(state));
-          });
+  connect(&browser, &PrinterBrowser::stateChanged, this, &PrinterSearch::setState);
   connect(&browser, &PrinterBrowser::stateFailed, this, [this](const std::string& queue) {
-    setState(queue, tr("does not answer").toStdString());
+    setState(queue, {.activity = PrinterState::Activity::silent});
   });
   connect(&stateTimer, &QTimer::timeout, this, &PrinterSearch::watchChosen);
 }
@@ -65,8 +62,8 @@ void PrinterSearch::watchChosen() {
   if (const Printer* printer = list.chosen()) browser.readState(printer->name);
 }
 
-void PrinterSearch::setState(const std::string& queue, const std::string& words) {
-  list.setState(queue, words);
+void PrinterSearch::setState(const std::string& queue, const PrinterState& state) {
+  list.setState(queue, state);
   emit printersChanged();
 }
 

@@ -42,7 +42,7 @@ class PrinterSearch : public QObject {
   void takePrinters(const std::vector<Printer>& printers);
   bool isChosen(const std::string& queue) const;
   void watchChosen();
-  void setState(const std::string& queue, const std::string& words);
+  void setState(const std::string& queue, const PrinterState& state);
 
   PrinterList list;
   PrinterBrowser browser;

@@ -47,9 +47,10 @@ room(host/task           platform/text host/support host/printer host/server hos
 room(host/sheets         platform/text platform/qt/base host/support host/document host/preview)
 room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
                          host/printer host/panels host/task)
+room(host/general        platform/qt/base ppd host/printer host/server host/task host/panes)
 room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
                          platform/qt/toolkit ppd
-                         host/printer host/panels host/task host/panes)
+                         host/printer host/panels host/task host/panes host/general)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
                          host/printer host/document host/request host/task host/dialog)
 room(replay/commands     platform/text)
@@ -69,7 +70,7 @@ set(MAY_HAVE_Qt "^(platform/qt|host|replay|tests)/")
 set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QMimeDatabase|QObject|QProcess|QRegularExpression|QStandardPaths|QString|QStringList|QTimer|QUrl")
 set(LOOK_widgets "${LOOK_Qt}")
 set(NOT_widgets "<(${QT_CORE})>")
-set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
+set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|general|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_cups "<cups/")
 set(MAY_HAVE_cups "^(ppd|conflict|controller|plugin|host|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_plist "<plist/")
