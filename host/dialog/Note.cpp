@@ -1,11 +1,11 @@
 #include "host/dialog/Note.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 
+#include "host/dialog/Announcement.h"
 #include "host/panes/Widgets.h"
 
 namespace tavrin {
@@ -34,10 +34,7 @@ void Note::say(const QString& text, Kind kind, const QString& wayOut) {
   button->setText(wayOut);
   button->setVisible(!wayOut.isEmpty());
   setVisible(!text.isEmpty());
-  if (text.isEmpty()) return;
-  label->setAccessibleName(text);
-  QAccessibleEvent event(label, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  if (!text.isEmpty()) announce(*label);
 }
 
 QString Note::text() const { return label->text(); }

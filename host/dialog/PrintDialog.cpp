@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
+#include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -15,6 +16,7 @@
 #include "host/dialog/JobButtons.h"
 #include "host/dialog/Note.h"
 #include "host/dialog/PaneSwitcher.h"
+#include "host/dialog/ResultPage.h"
 #include "host/dialog/SessionPanes.h"
 #include "host/dialog/SettingsColumn.h"
 #include "host/panes/LayoutPane.h"
@@ -44,7 +46,8 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
     : QDialog(parent),
       task(theTask),
       row(makeChild<QHBoxLayout>()),
-      column(makeChild<SettingsColumn>(this)),
+      pages(makeChild<QStackedWidget>(this)),
+      column(makeChild<SettingsColumn>(pages)),
       content(column->widget()),
       general(makeChild<GeneralArea>(task, content)),
       switcher(makeChild<PaneSwitcher>(content)),
@@ -70,7 +73,8 @@ void PrintDialog::build() {
   inside->addWidget(general);
   inside->addWidget(switcher);
   inside->addStretch();
-  row->addWidget(column);
+  pages->addWidget(column);
+  row->addWidget(pages);
   auto* rows = makeChild<QVBoxLayout>(this);
   rows->addLayout(row, 1);
   rows->addWidget(conflictNote);
@@ -160,7 +164,16 @@ SummaryPane::Sections PrintDialog::allLines() const {
 // --- What is said, and what the person wants ---
 
 void PrintDialog::showStage() {
-  content->setEnabled(!task.isSending() && task.stage() != PrintTask::Stage::done);
+  content->setEnabled(!task.isSending());
+  if (task.stage() == PrintTask::Stage::done) showResult();
+}
+
+// The settings have done their work; a stack keeps the window as large as it was.
+void PrintDialog::showResult() {
+  auto* result = makeChild<ResultPage>(task, pages);
+  pages->addWidget(result);
+  pages->setCurrentWidget(result);
+  orderTabs({result, note, buttons});
 }
 
 void PrintDialog::showNotice() {

@@ -8,6 +8,7 @@
 #include "host/task/PrintTask.h"
 
 class QHBoxLayout;
+class QStackedWidget;
 
 namespace tavrin {
 
@@ -46,6 +47,7 @@ class PrintDialog : public QDialog {
   void showSession();
   void hideSession();
   void showStage();
+  void showResult();
   void showNotice();
   void showConflicts();
   void showHelp();
@@ -55,6 +57,7 @@ class PrintDialog : public QDialog {
 
   PrintTask& task;
   QHBoxLayout* row;  // the preview and the settings
+  QStackedWidget* pages;  // the settings, and then the result
   SettingsColumn* column;
   QWidget* content;
   GeneralArea* general;

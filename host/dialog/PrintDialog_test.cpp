@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -247,6 +248,26 @@ TEST_F(PrintDialogTest, WritesTheJobOfAPrinterWithoutAQueueToAFolder) {
   EXPECT_EQ(json.at("title"), "Card");
   EXPECT_EQ(json.at("options").at("MediaType"), "IronOn");
   EXPECT_EQ(json.at("options").at("QuietMode"), "True");
+}
+
+TEST_F(PrintDialogTest, AResultTakesThePlaceOfTheSettings) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  QCoreApplication::processEvents();
+  const QSize size = dialog.size();
+  press(dialog, "print");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return task.arrived() != nullptr; }, kPatience));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialog.size(), size);
+  EXPECT_FALSE(dialog.findChild<QWidget*>("copies")->isVisible());
+  const auto* text = dialog.findChild<QLabel*>("resultText");
+  EXPECT_TRUE(text->isVisible());
+  EXPECT_EQ(text->text().toStdString(), task.report());
+  EXPECT_FALSE(dialog.findChild<Note*>("note")->isVisible()) << "it is said once";
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "print");
+  EXPECT_EQ(dialog.findChild<QPushButton*>("print")->text(), "&Done");
 }
 
 TEST_F(PrintDialogTest, LosesNothingWhenTheJobCannotBeWritten) {

@@ -24,4 +24,8 @@ std::string documentName(const std::filesystem::path& document) {
   return document == kStandardInput ? "(stdin)" : nameForPrinting(document.filename().string());
 }
 
+std::string nameInWords(const std::filesystem::path& document) {
+  return document == kStandardInput ? "standard input" : documentName(document);
+}
+
 }  // namespace tavrin

@@ -16,4 +16,7 @@ std::string nameForPrinting(const std::string& name);
 // it; "(stdin)" for standard input, as lp has it.
 std::string documentName(const std::filesystem::path& document);
 
+// The same for a sentence: "standard input" for the document that has no name.
+std::string nameInWords(const std::filesystem::path& document);
+
 }  // namespace tavrin

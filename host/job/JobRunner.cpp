@@ -36,9 +36,7 @@ void JobRunner::writeFolder(const std::filesystem::path& output, const JobReques
       [=](const CancelFlag& cancel, const ProgressCallback& progress) {
         return writeTicketFolder(output, request, options, cancel, progress);
       },
-      [this](const std::filesystem::path& folder) {
-        emit folderWritten(QString::fromStdString(folder.string()));
-      });
+      [this](const std::filesystem::path& folder) { emit folderWritten(folder); });
 }
 
 }  // namespace tavrin

@@ -29,7 +29,7 @@ class JobRunner : public QObject {
  signals:
   void progressed(const tavrin::Progress& progress);
   void submitted(const tavrin::Submission& submission);
-  void folderWritten(const QString& folder);
+  void folderWritten(const std::filesystem::path& folder);
   void cancelled();
   void failed(const QString& reason);
 

@@ -24,4 +24,7 @@ struct JobRequest {
 // The name that the job gets: its title, as nameForPrinting makes it, else the document's.
 std::string jobTitle(const JobRequest& request);
 
+// The same for a sentence: a document that has no name is "standard input".
+std::string titleInWords(const JobRequest& request);
+
 }  // namespace tavrin

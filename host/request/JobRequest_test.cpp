@@ -11,5 +11,11 @@ TEST(JobRequest, NamesTheJobAfterItsDocument) {
   EXPECT_EQ(jobTitle({}), "(stdin)");
 }
 
+TEST(JobRequest, IsCalledAsPeopleCallItsDocument) {
+  EXPECT_EQ(titleInWords({"", "", 1, "Holiday", "", {}, "-"}), "Holiday");
+  EXPECT_EQ(titleInWords({"", "", 1, "", "", {}, "/x/a.pdf"}), "a.pdf");
+  EXPECT_EQ(titleInWords({}), "standard input");
+}
+
 }  // namespace
 }  // namespace tavrin

@@ -19,7 +19,13 @@ JobReport reportOn(const std::string& queue, const Submission& submission) {
     sentences << tr("The printer did not get: %1. Look at the print before printing more.")
                      .arg(QString::fromStdString(joined(submission.missingOptions)));
   if (!submission.notReadBack.empty()) sentences << QString::fromStdString(submission.notReadBack);
-  return {sentences.join(' '), sentences.size() > 1};
+  return {tr("The job was sent"), sentences.join(' '), sentences.size() > 1, {}};
+}
+
+JobReport reportOn(const std::filesystem::path& folder) {
+  return {tr("The job is in the folder"),
+          tr("The job is in the folder %1.").arg(QString::fromStdString(folder.string())), false,
+          folder};
 }
 
 }  // namespace tavrin

@@ -1,18 +1,25 @@
 #pragma once
 
+#include <filesystem>
+
 #include <QString>
 
 #include "host/job/JobSubmitter.h"
 
 namespace tavrin {
 
-// What became of a job, for the person who printed it.
+// What became of a job that arrived, for the person who printed it.
 struct JobReport {
-  QString text;    // sentences
-  bool isWarning;  // not all is as it was wanted
+  QString headline;              // where it is, in a few words
+  QString text;                  // the same in sentences, and what else there is to say
+  bool isWarning = false;        // not all is as it was wanted
+  std::filesystem::path folder;  // that the job became; empty for a job in a queue
 };
 
 // The report on a job that is in its queue.
 JobReport reportOn(const std::string& queue, const Submission& submission);
+
+// The report on a job that became this folder.
+JobReport reportOn(const std::filesystem::path& folder);
 
 }  // namespace tavrin

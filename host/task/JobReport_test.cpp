@@ -7,7 +7,16 @@ namespace {
 
 TEST(JobReport, NamesTheJob) {
   const JobReport report = reportOn("photo", {.jobId = 7, .missingOptions = {}, .notReadBack = ""});
+  EXPECT_EQ(report.headline, "The job was sent");
   EXPECT_EQ(report.text, "Job photo-7 was sent.");
+  EXPECT_FALSE(report.isWarning);
+}
+
+TEST(JobReport, NamesTheFolder) {
+  const JobReport report = reportOn("/home/ada/Holiday");
+  EXPECT_EQ(report.headline, "The job is in the folder");
+  EXPECT_EQ(report.text, "The job is in the folder /home/ada/Holiday.");
+  EXPECT_EQ(report.folder, "/home/ada/Holiday");
   EXPECT_FALSE(report.isWarning);
 }
 

@@ -209,9 +209,8 @@ void PrintTask::connectRunner() {
   connect(&runner, &JobRunner::progressed, this, &PrintTask::progressed);
   connect(&runner, &JobRunner::submitted, this,
           [this](const Submission& submission) { finish(reportOn(queueOfSession, submission)); });
-  connect(&runner, &JobRunner::folderWritten, this, [this](const QString& folder) {
-    finish({tr("The job is in the folder %1.").arg(folder), false});
-  });
+  connect(&runner, &JobRunner::folderWritten, this,
+          [this](const std::filesystem::path& folder) { finish(reportOn(folder)); });
   connect(&runner, &JobRunner::cancelled, this, &PrintTask::giveBack);
   connect(&runner, &JobRunner::failed, this, &PrintTask::fail);
 }
@@ -256,8 +255,8 @@ void PrintTask::cancel() {
 void PrintTask::finish(const JobReport& job) {
   end = Outcome::printed;
   reportText = job.text.toStdString();
+  arrivedJob = job;
   enter(Stage::done);
-  tell({reportText, job.isWarning});
 }
 
 void PrintTask::giveBack() {

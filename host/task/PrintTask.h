@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <QObject>
@@ -90,6 +91,8 @@ class PrintTask : public QObject {
   PrinterSession* session() const { return current.get(); }
 
   Outcome outcome() const { return end; }
+  // The job that arrived; null before it did.
+  const JobReport* arrived() const { return arrivedJob ? &*arrivedJob : nullptr; }
   // What became of the job, in sentences: the job's name, or why there is none. Empty before, and
   // for a person who left of their own accord.
   const std::string& report() const { return reportText; }
@@ -152,6 +155,7 @@ class PrintTask : public QObject {
   PrinterSearch search;
   JobRunner runner;
   Outcome end = Outcome::cancelled;
+  std::optional<JobReport> arrivedJob;
   std::string reportText;
 };
 

@@ -1,0 +1,117 @@
+#include "host/dialog/ResultPage.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QStyle>
+
+#include "host/dialog/Announcement.h"
+#include "host/panes/Widgets.h"
+#include "host/task/PrintTask.h"
+#include "platform/qt/base/ShownText.h"
+
+namespace tavrin {
+namespace {
+
+constexpr double kHeadlineScale = 1.4;  // of the usual text
+
+// A text that the person may want to copy, with the mouse or without one.
+QLabel* makeSelectable(const QString& text, QWidget* parent) {
+  QLabel* label = makeTextLabel(parent);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  label->setText(text);
+  return label;
+}
+
+QString wordsOf(const JobReport& report) { return shownLines(report.text.toStdString()); }
+
+}  // namespace
+
+ResultPage::ResultPage(PrintTask& theTask, QWidget* parent)
+    : ResultPage(theTask, &QDesktopServices::openUrl, parent) {}
+
+ResultPage::ResultPage(PrintTask& theTask, Opener opener, QWidget* parent)
+    : FittingScrollArea(parent),
+      task(theTask),
+      open(std::move(opener)),
+      content(makeChild<QWidget>(this)),
+      text(makeSelectable(wordsOf(*task.arrived()), content)) {
+  text->setObjectName("resultText");
+  build();
+  setWidget(content);
+}
+
+void ResultPage::build() {
+  const JobReport& report = *task.arrived();
+  auto* grid = makeChild<QGridLayout>(content);
+  const int gap = fontMetrics().height();
+  grid->setContentsMargins(gap, gap, gap, gap);
+  grid->setSpacing(gap);
+  grid->setColumnStretch(1, 1);
+  grid->addWidget(makeIcon(report.isWarning), 0, 0);
+  grid->addWidget(makeHeadline(report.headline), 0, 1);
+  grid->addWidget(text, 1, 1);
+  grid->addWidget(makeDetails(), 2, 1);
+  if (!report.folder.empty()) grid->addWidget(makeFolderButton(), 3, 1, Qt::AlignLeading);
+  grid->setRowStretch(4, 1);
+}
+
+QWidget* ResultPage::makeIcon(bool isWarning) {
+  auto* icon = makeChild<QLabel>(content);
+  icon->setObjectName("resultIcon");
+  const auto picture = isWarning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
+  const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
+  icon->setPixmap(style()->standardIcon(picture).pixmap(size));
+  return icon;
+}
+
+QWidget* ResultPage::makeHeadline(const QString& words) {
+  QLabel* headline = makeTextLabel(content);
+  headline->setObjectName("resultHeadline");
+  QFont large = font();
+  large.setPointSizeF(large.pointSizeF() * kHeadlineScale);
+  large.setBold(true);
+  headline->setFont(large);
+  headline->setText(words);
+  return headline;
+}
+
+QWidget* ResultPage::makeDetails() {
+  auto* details = makeChild<QWidget>(content);
+  QFormLayout* form = makeForm(details);
+  const auto add = [&](const QString& label, const QString& value) {
+    addRow(*form, label, *makeSelectable(value, details));
+  };
+  add(tr("Document:"), shownLine(titleInWords(task.request())));
+  add(tr("Printer:"), shownLine(task.printerName()));
+  add(tr("Copies:"), locale().toString(task.fields().copies()));
+  return details;
+}
+
+QWidget* ResultPage::makeFolderButton() {
+  auto* button = makeChild<QPushButton>(tr("&Open Folder"), content);
+  button->setObjectName("openFolder");
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, &ResultPage::openFolder);
+  return button;
+}
+
+void ResultPage::showEvent(QShowEvent* event) {
+  FittingScrollArea::showEvent(event);
+  if (!event->spontaneous()) announce(*text);
+}
+
+void ResultPage::openFolder() {
+  const QString path = QFile::decodeName(task.arrived()->folder.c_str());
+  if (!open(QUrl::fromLocalFile(path)))
+    task.warn(tr("No program on this computer shows folders. The job is in the folder %1.")
+                  .arg(path)
+                  .toStdString());
+}
+
+}  // namespace tavrin
