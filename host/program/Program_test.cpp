@@ -1,10 +1,15 @@
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 
 #include <gtest/gtest.h>
 
+#include "platform/files/FileDescriptor.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 // The program itself, where it needs no display: what it says and how it ends.
@@ -80,6 +85,64 @@ TEST(Program, SaysThatThereIsNoDisplay) {
   const auto dead = run("--sample", "DISPLAY=:99999 QT_QPA_PLATFORM=xcb");
   EXPECT_EQ(dead.status, 3);
   EXPECT_NE(dead.text.find("tavrin-print: There is no display"), std::string::npos) << dead.text;
+}
+
+// Where windows would come up: a display that hears who asks for one, and shows none.
+class Display {
+ public:
+  Display() : listener(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto* any = reinterpret_cast<sockaddr*>(&address);
+    EXPECT_EQ(bind(listener.get(), any, size), 0);
+    EXPECT_EQ(listen(listener.get(), 1), 0);
+    EXPECT_EQ(getsockname(listener.get(), any, &size), 0);
+  }
+
+  // As DISPLAY has it.
+  std::string name() const {
+    constexpr int kFirstPort = 6000;
+    return "127.0.0.1:" + std::to_string(ntohs(address.sin_port) - kFirstPort);
+  }
+  // Whether a program asks for a window within that time.
+  bool isAsked(int milliseconds) const {
+    pollfd waiting{listener.get(), POLLIN, 0};
+    return poll(&waiting, 1, milliseconds) == 1;
+  }
+
+ private:
+  FileDescriptor listener;
+  sockaddr_in address{};
+};
+
+class LaunchedProgram : public testing::Test {
+ protected:
+  // As a launcher does it: without a terminal, and with a log that nobody reads.
+  int launch(const std::string& arguments) const {
+    const std::string command = "unset WAYLAND_DISPLAY QT_QPA_PLATFORM; DISPLAY=" + display.name() +
+                                " setsid -w " TAVRIN_PRINT " " + arguments + " </dev/null >" +
+                                log.string() + " 2>&1";
+    return WEXITSTATUS(std::system(command.c_str()));
+  }
+
+  test::TemporaryFolder place;
+  std::filesystem::path log = place.path() / "log";
+  Display display;
+};
+
+TEST_F(LaunchedProgram, SaysInAWindowWhatIsWrong) {
+  const std::string document = (place.path() / "missing.pdf").string();
+  EXPECT_EQ(launch("--sample " + document), 3) << "at once, whoever closes the window";
+  EXPECT_EQ(test::textOf(log), "tavrin-print: The document \"" + document +
+                                   "\" cannot be read: No such file or directory.\n");
+  EXPECT_TRUE(display.isAsked(20'000));
+}
+
+TEST_F(LaunchedProgram, OpensNoWindowWhereItsOutputIsRead) {
+  const auto result = run("--frobnicate", "DISPLAY=" + display.name() + " setsid -w");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_FALSE(display.isAsked(500));
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "host/printer/PPDLoader.h"
 #include "host/program/CommandLine.h"
 #include "host/program/EndSignals.h"
+#include "host/program/Launcher.h"
 #include "host/program/Samples.h"
 #include "host/task/PrintTask.h"
 #include "platform/files/FileDescriptor.h"
@@ -34,6 +35,12 @@ enum ExitStatus { kPrinted = 0, kCancelled = 1, kUsage = 2, kNotPrinted = 3 };
 int complain(ExitStatus status, const std::string& sentence) {
   writeError("tavrin-print", sentence);
   return status;
+}
+
+// The same before anything is on the screen.
+int refuse(ExitStatus status, const std::string& sentence) {
+  if (isStartedFromLauncher()) showInOwnProcess(sentence);
+  return complain(status, sentence);
 }
 
 // Writes on standard output. What was to be said there is lost when that fails, so that is a
@@ -137,14 +144,14 @@ int print(CommandLine line, int& argc, char** argv) {
     setRootFolder(samples().root);
   }
   if (const std::string problem = inputProblem(line); !problem.empty())
-    return complain(kUsage, problem);
+    return refuse(kUsage, problem);
   takeForStandardInput(line.job);
   if (const std::string problem = documentProblem(line.job.document); !problem.empty())
-    return complain(kNotPrinted, problem);
+    return refuse(kNotPrinted, problem);
   SharedPPD ppd;
   if (!line.ppd.empty()) {
     Result<PPDPtr> loaded = loadPPD(line.ppd);
-    if (!loaded) return complain(kNotPrinted, loaded.reason());
+    if (!loaded) return refuse(kNotPrinted, loaded.reason());
     ppd = std::move(*loaded);
   }
   if (!hasDisplay()) return complain(kNotPrinted, kNoDisplay);
@@ -156,7 +163,7 @@ int print(CommandLine line, int& argc, char** argv) {
 int main(int argc, char** argv) {
   occupyStandardStreams();
   const Result<CommandLine> line = parseCommandLine({argv + 1, argv + argc});
-  if (!line) return complain(kUsage, line.reason());
+  if (!line) return refuse(kUsage, line.reason());
   switch (line->wish) {
     case CommandLine::Wish::help:
       return tell(usage());
