@@ -73,8 +73,8 @@ Result<std::string> checkedPageRanges(const QString& text) {
   if (bare.contains(kTwoNumbers))
     return failure(
         say("“%1” has no comma between two pages. Write them like this: 1-3,5.").arg(bare));
-  // An en dash comes from pasted text.
-  bare.remove(' ').replace(QChar(0x2013), '-');
+  // An en dash comes from pasted text, a semicolon from lists as spreadsheets have them.
+  bare.remove(' ').replace(QChar(0x2013), '-').replace(';', ',');
   if (bare.isEmpty()) return failure(say("Write which pages to print, for example 1-3,5."));
   std::vector<Range> ranges;
   for (const QString& part : bare.split(',')) {

@@ -21,10 +21,13 @@ TEST(PageRanges, ArePutInOrderWithoutOverlaps) {
   EXPECT_EQ(checked("2-6,4-8,8"), "2-8");
   EXPECT_EQ(checked("3-,10"), "3-");
   EXPECT_EQ(checked("1–3"), "1-3");
+  EXPECT_EQ(checked("3;5"), "3,5");
+  EXPECT_EQ(checked("5; 1 – 3, 7"), "1-3,5,7");
 }
 
 TEST(PageRanges, ThatMeanNoPagesAreNamed) {
-  for (const char* text : {"1-3,x", "0", "-3", "1-2-3", "1,,2", "1.5", "+1", "99999999999", "-"})
+  for (const char* text :
+       {"1-3,x", "0", "-3", "1-2-3", "1,,2", "1;;2", "1.5", "+1", "99999999999", "-"})
     EXPECT_NE(checked(text).find("is not a page or a range of pages"), std::string::npos) << text;
   for (const char* text : {"1 3", "1-2 5", "1, 2 3"})
     EXPECT_NE(checked(text).find("has no comma between two pages"), std::string::npos) << text;
