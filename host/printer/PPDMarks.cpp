@@ -1,10 +1,12 @@
 #include "host/printer/PPDMarks.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "host/printer/MarkedOptions.h"
 #include "host/printer/PPDSections.h"
 #include "host/support/TextLists.h"
+#include "ppd/PPDKeywords.h"
 #include "ppd/PPDRecords.h"
 
 namespace tavrin {
@@ -63,9 +65,17 @@ std::vector<std::string> PPDMarks::conflictingOptions() const {
   if (ppdConflicts(file) == 0) return texts;
   for (const PPDSection& section : sectionsOf(*file))
     for (const ppd_option_t* option : section.options)
-      if (option->conflicted && std::ranges::find(texts, option->text) == texts.end())
-        texts.emplace_back(option->text);
+      if (const char* name = nameOf(*option);
+          option->conflicted && std::ranges::find(texts, name) == texts.end())
+        texts.emplace_back(name);
   return texts;
+}
+
+// A page region goes by the name of the paper: it is the same choice, which people make once.
+const char* PPDMarks::nameOf(const ppd_option_t& option) const {
+  const ppd_option_t* paper =
+      std::string_view(option.keyword) == "PageRegion" ? this->option(kPageSizeKey) : nullptr;
+  return paper ? paper->text : option.text;
 }
 
 PPDMarks::Snapshot PPDMarks::snapshot() const {

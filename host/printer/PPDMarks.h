@@ -41,7 +41,8 @@ class PPDMarks : public QObject {
   // To be called when somebody else has marked choices in the PPD.
   void marksWereReplaced();
 
-  // The texts of the options whose marked choices contradict each other by the PPD's rules.
+  // The texts of the options whose marked choices contradict each other by the PPD's rules, each
+  // once; the page region, which comes with the paper size, by the latter's.
   std::vector<std::string> conflictingOptions() const;
 
  signals:
@@ -54,6 +55,7 @@ class PPDMarks : public QObject {
   // The marked choices of every option, by its keyword.
   using Snapshot = std::map<std::string, std::string>;
   Snapshot snapshot() const;
+  const char* nameOf(const ppd_option_t& option) const;
   void tellDifferences(const Snapshot& before);
 
   ppd_file_t* file;

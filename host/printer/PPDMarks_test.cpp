@@ -49,5 +49,18 @@ TEST(PPDMarks, NameTheOptionsThatDoNotGoTogether) {
   EXPECT_TRUE(marks.conflictingOptions().empty());
 }
 
+TEST(PPDMarks, NameThePaperOnceWhereItsRegionDoesNotFitEither) {
+  const PPDPtr ppd = makePPD(
+      {{"PageSize/Page Size", "PickOne", "A4", {"A4", "Letter"}},
+       {"PageRegion/Page Region", "PickOne", "A4", {"A4", "Letter"}},
+       {"Tray/Tray", "PickOne", "Top", {"Top", "Photo"}}},
+      {"*UIConstraints: *PageSize A4 *Tray Photo", "*UIConstraints: *PageRegion A4 *Tray Photo"});
+  PPDMarks marks(*ppd);
+  marks.choose("PageSize", "A4");
+  ppdFindChoice(ppdFindOption(ppd.get(), "PageRegion"), "A4")->marked = 1;
+  marks.choose("Tray", "Photo");
+  EXPECT_EQ(marks.conflictingOptions(), (std::vector<std::string>{"Page Size", "Tray"}));
+}
+
 }  // namespace
 }  // namespace tavrin
