@@ -22,28 +22,30 @@ namespace {
 
 constexpr std::size_t kLookAhead = 512;
 
-Failure about(const std::string& document, const std::string& problem) {
-  return {"The document " + quoted(document) + " " + problem + "."};
+// What a sentence about a document begins with.
+std::string subject(const std::string& document, bool isInput) {
+  return isInput ? "Standard input" : "The document " + quoted(document);
 }
 
 }  // namespace
 
 Cancellable<Document> Document::open(const std::filesystem::path& path, const CancelFlag& cancel) {
   const bool isInput = path == kStandardInput;
-  const std::string place = isInput ? documentName(path) : path.string();
+  const auto about = [&](const std::string& problem) {
+    return Failure{subject(path.string(), isInput) + " " + problem + "."};
+  };
   FileDescriptor opened;
   // Without waiting: the wait for somebody who fills a FIFO must end when it is cancelled.
   if (!isInput) opened = FileDescriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (!isInput && !opened)
-    return about(place, std::string("cannot be read: ") + std::strerror(errno));
+  if (!isInput && !opened) return about(std::string("cannot be read: ") + std::strerror(errno));
   Document document(std::move(opened), documentName(path));
   if (const char* kind = document.otherKind())
-    return about(place, "is a " + std::string(kind) + ", not a file");
+    return about("is a " + std::string(kind) + ", not a file");
   document.bytesInAll =
       isInput ? RereadableInput::standardInput().size() : announcedSize(document.file.get());
   const auto looked = document.lookAhead(cancel);
   if (!looked) return looked.why();
-  if (document.start.empty()) return about(place, "is empty");
+  if (document.start.empty()) return about("is empty");
   return document;
 }
 
@@ -92,7 +94,7 @@ Cancellable<Done> Document::readAll(const Taker& take, const CancelFlag& cancel,
 // Standard input cannot be opened anew, so it is for the person to do that.
 Failure Document::hasChanged(std::uint64_t bytes) const {
   const std::string advice = file ? "Print it again" : "Run the command once more";
-  return {"The document " + quoted(itsName) + " changed while it was read: it had " +
+  return {subject(itsName, !file) + " changed while it was read: it had " +
           std::to_string(bytesInAll) + " bytes when it was opened, but " + std::to_string(bytes) +
           " were read. " + advice + " when it is complete."};
 }
@@ -101,7 +103,8 @@ Cancellable<std::size_t> Document::readOn(std::span<char> buffer, const CancelFl
   const auto bytes = file ? readWhenThere(file.get(), buffer, cancel)
                           : RereadableInput::standardInput().read(offset, buffer, cancel);
   if (bytes) offset += *bytes;
-  if (!bytes && !bytes.cancelled()) return about(itsName, bytes.reason());
+  if (!bytes && !bytes.cancelled())
+    return Failure{subject(itsName, !file) + " " + bytes.reason() + "."};
   return bytes;
 }
 

@@ -97,7 +97,7 @@ TEST_F(ChangingDocumentTest, IsNotTakenForWholeFromStandardInputEither) {
   };
   EXPECT_EXIT(
       readStandardInput(), testing::ExitedWithCode(0),
-      "\"\\(stdin\\)\" changed while it was read: it had 99000 bytes when it was opened, but "
+      "^Standard input changed while it was read: it had 99000 bytes when it was opened, but "
       "1000 were read. Run the command once more when it is complete.");
 }
 
@@ -109,10 +109,9 @@ TEST_F(ChangingDocumentTest, IsNotMixedWithItsFormerSelfFromStandardInput) {
     std::cerr << readWhileItBecomes(100000, kStandardInput, file);
     std::_Exit(0);
   };
-  EXPECT_EXIT(
-      readStandardInputTwice(), testing::ExitedWithCode(0),
-      "^The document \"\\(stdin\\)\" cannot be sent again, as it changed while it was read: "
-      "run the command once more when it is complete.$");
+  EXPECT_EXIT(readStandardInputTwice(), testing::ExitedWithCode(0),
+              "^Standard input cannot be sent again, as it changed while it was read: "
+              "run the command once more when it is complete.$");
 }
 
 TEST_F(DocumentTest, IsReadToItsEndWhereItsSizeIsUnknown) {
@@ -122,6 +121,15 @@ TEST_F(DocumentTest, IsReadToItsEndWhereItsSizeIsUnknown) {
   std::string read;
   EXPECT_TRUE(document->readAll(appendTo(read), neverCancelled(), {}));
   EXPECT_NE(read.find("VmRSS"), std::string::npos);
+}
+
+TEST_F(DocumentTest, IsCalledByItsNameOrStandardInput) {
+  const auto readNothing = [] {
+    dup2(open("/dev/null", O_RDONLY), STDIN_FILENO);
+    std::cerr << Document::open(kStandardInput).reason();
+    std::_Exit(0);
+  };
+  EXPECT_EXIT(readNothing(), testing::ExitedWithCode(0), "^Standard input is empty.$");
 }
 
 TEST_F(DocumentTest, SaysWhatCannotBePrinted) {

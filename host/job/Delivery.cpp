@@ -62,7 +62,9 @@ IppPtr Delivery::sendRequest(const Document& document) const {
 }
 
 std::string Delivery::whatFailed() const {
-  return quoted(jobTitle(request)) + " could not be printed on " + quoted(request.printer);
+  const bool isNamed = !request.title.empty() || request.document != kStandardInput;
+  return (isNamed ? quoted(jobTitle(request)) : "Standard input") + " could not be printed on " +
+         quoted(request.printer);
 }
 
 }  // namespace tavrin

@@ -1,8 +1,12 @@
 #include "host/job/JobSubmitter.h"
 
+#include <cstdlib>
+#include <fcntl.h>
 #include <fstream>
+#include <iostream>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -155,6 +159,19 @@ TEST_F(JobSubmitterTest, AnUnknownPrinterIsNamed) {
   EXPECT_EQ(submission.reason(),
             "\"card.pdf\" could not be printed on \"nowhere\": The printer or class does not "
             "exist.");
+}
+
+TEST_F(JobSubmitterTest, ADocumentWithoutANameIsStandardInput) {
+  const std::filesystem::path file = place.write("a.txt", "one line\n");
+  const auto printStandardInput = [&] {
+    dup2(open(file.c_str(), O_RDONLY), STDIN_FILENO);
+    JobRequest job;
+    job.printer = "nowhere";
+    std::cerr << submitJob(job, {}).reason();
+    std::_Exit(0);
+  };
+  EXPECT_EXIT(printStandardInput(), testing::ExitedWithCode(0),
+              "^Standard input could not be printed on \"nowhere\": The printer");
 }
 
 TEST_F(JobSubmitterTest, AStoppedQueueKeepsTheJob) {
