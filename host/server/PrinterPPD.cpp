@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "host/printer/PPDLoader.h"
+#include "host/server/IppRequest.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/text/Quoted.h"
 
@@ -37,13 +38,18 @@ const char* receive(PrintServer& server, int file) {
   }
 }
 
+// A server has no file for a queue without a PPD, nor for one that does not exist.
+bool hasQueue(PrintServer& server, const std::string& queue) {
+  return server.ask(printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue)) != nullptr;
+}
+
 // What the server sends as the queue's PPD, in a memory file: nobody else can open it, and
 // nothing is left behind.
 Cancellable<FileDescriptor> fetch(PrintServer& server, const std::string& queue) {
   const std::string problem = "The description of the printer " + quoted(queue) + " cannot be read";
   if (!server.beginFile("/printers/" + queue + ".ppd")) {
-    if (server.status() == HTTP_STATUS_NOT_FOUND)
-      return Failure{"The printer " + quoted(queue) + " does not exist or has no PPD."};
+    if (server.status() == HTTP_STATUS_NOT_FOUND && hasQueue(server, queue))
+      return Failure{"The printer " + quoted(queue) + " has no settings to show."};
     return server.noAnswer(problem);
   }
   FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));

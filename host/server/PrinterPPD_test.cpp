@@ -15,7 +15,14 @@ TEST(PrinterPPD, IsThePPDOfTheQueue) {
   ASSERT_TRUE(ppd) << ppd.reason();
   EXPECT_NE(ppdFindOption(ppd->get(), "MediaType"), nullptr);
   EXPECT_EQ(readPrinterPPD("nowhere").reason(),
-            "The printer \"nowhere\" does not exist or has no PPD.");
+            "The description of the printer \"nowhere\" cannot be read: The printer or class does "
+            "not exist.");
+}
+
+TEST(PrinterPPD, IsNotMissedWhereAQueueNeedsNone) {
+  const PrivateCupsd cups;
+  cups.run({"lpadmin", "-p", "raw", "-E", "-v", "capture:/nowhere"});
+  EXPECT_EQ(readPrinterPPD("raw").reason(), "The printer \"raw\" has no settings to show.");
 }
 
 TEST(PrinterPPD, IsAskedForByAPlainNameOnly) {
