@@ -20,6 +20,7 @@ JobButtons::JobButtons(PrintTask& theTask, QWidget* parent)
       task(theTask),
       progressText(makeTextLabel(this)),
       progressBar(makeChild<QProgressBar>(this)),
+      line(makeChild<QHBoxLayout>()),
       help(makeChild<QPushButton>("?", this)),
       cancel(makeChild<QPushButton>(tr("Cancel"), this)),
       print(makeChild<QPushButton>(tr("&Print"), this)) {
@@ -43,7 +44,6 @@ void JobButtons::addButtons() {
   print->setObjectName("print");
   for (QPushButton* button : {help, cancel}) button->setAutoDefault(false);
   print->setDefault(true);
-  auto* line = makeChild<QHBoxLayout>();
   line->addWidget(help);
   line->addStretch();
   line->addWidget(cancel);
@@ -55,6 +55,11 @@ void JobButtons::addButtons() {
     if (task.stage() == PrintTask::Stage::done) return emit closed();
     emit printWanted();
   });
+}
+
+void JobButtons::addBesideHelp(QPushButton* button) {
+  button->setAutoDefault(false);
+  line->insertWidget(1, button);
 }
 
 void JobButtons::showStage() {

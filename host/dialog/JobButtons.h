@@ -4,6 +4,7 @@
 
 #include "host/task/PrintTask.h"
 
+class QHBoxLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -17,6 +18,9 @@ class JobButtons : public QWidget {
  public:
   // The task outlives the buttons.
   JobButtons(PrintTask& task, QWidget* parent);
+
+  // Puts a button beside that of help; it is the row's from then on.
+  void addBesideHelp(QPushButton* button);
 
  signals:
   void helpWanted();
@@ -33,6 +37,7 @@ class JobButtons : public QWidget {
   PrintTask& task;
   QLabel* progressText;
   QProgressBar* progressBar;
+  QHBoxLayout* line;
   QPushButton* help;
   QPushButton* cancel;
   QPushButton* print;

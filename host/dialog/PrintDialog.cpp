@@ -1,5 +1,6 @@
 #include "host/dialog/PrintDialog.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include <QCoreApplication>
@@ -11,16 +12,19 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "host/general/GeneralArea.h"
 #include "host/dialog/HelpWindow.h"
 #include "host/dialog/JobButtons.h"
 #include "host/dialog/Note.h"
 #include "host/dialog/PaneSwitcher.h"
+#include "host/dialog/PreviewSwitch.h"
 #include "host/dialog/ResultPage.h"
 #include "host/dialog/SessionPanes.h"
 #include "host/dialog/SettingsColumn.h"
+#include "host/dialog/TaskPreview.h"
+#include "host/general/GeneralArea.h"
 #include "host/panes/LayoutPane.h"
 #include "host/panes/Widgets.h"
+#include "host/sheets/PreviewArea.h"
 #include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
@@ -46,6 +50,7 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
     : QDialog(parent),
       task(theTask),
       row(makeChild<QHBoxLayout>()),
+      preview(makeChild<PreviewArea>(this)),
       pages(makeChild<QStackedWidget>(this)),
       column(makeChild<SettingsColumn>(pages)),
       content(column->widget()),
@@ -54,6 +59,8 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
       conflictNote(makeChild<Note>(this)),
       note(makeChild<Note>(this)),
       buttons(makeChild<JobButtons>(task, this)),
+      previewSwitch(makeChild<PreviewSwitch>(*preview, *pages, this)),
+      taskPreview(std::make_unique<TaskPreview>(task, *preview)),
       layoutPane(makeChild<LayoutPane>(task.fields(), switcher)),
       summaryPane(makeChild<SummaryPane>([this] { return allLines(); }, switcher)) {
   setWindowTitle(titleFor(task.request()));
@@ -74,7 +81,9 @@ void PrintDialog::build() {
   inside->addWidget(switcher);
   inside->addStretch();
   pages->addWidget(column);
+  row->addWidget(preview, 1);
   row->addWidget(pages);
+  buttons->addBesideHelp(previewSwitch);
   auto* rows = makeChild<QVBoxLayout>(this);
   rows->addLayout(row, 1);
   rows->addWidget(conflictNote);
@@ -91,6 +100,7 @@ void PrintDialog::connectParts() {
   connect(buttons, &JobButtons::cancelled, this, &PrintDialog::reject);
   connect(buttons, &JobButtons::closed, this, &PrintDialog::accept);
   connect(buttons, &JobButtons::printWanted, this, &PrintDialog::print);
+  connect(previewSwitch, &PreviewSwitch::wantedChanged, this, &PrintDialog::makeRoomForPreview);
   connect(note, &Note::wayOutTaken, &task, &PrintTask::usePrintServer);
   auto* helpKey = makeChild<QShortcut>(QKeySequence(QKeySequence::HelpContents), this);
   connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
@@ -112,7 +122,26 @@ QSize PrintDialog::openingSize() const {
   return wanted.boundedTo(screen()->availableSize() - kWindowFrame);
 }
 
-void PrintDialog::orderAllTabs() { orderTabs({content, conflictNote, note, buttons}); }
+void PrintDialog::setPreviewWanted(bool wanted) {
+  previewSwitch->setWanted(wanted);
+  resize(openingSize());
+}
+
+// The settings keep their width.
+void PrintDialog::makeRoomForPreview(bool wanted) {
+  const int more = wanted ? preview->sizeHint().width() : -preview->width();
+  const int most = screen()->availableSize().width() - kWindowFrame.width();
+  const int gap = wanted ? row->spacing() : -row->spacing();
+  if (!isMaximized()) resize(std::min(width() + more + gap, most), height());
+  emit previewWantedChanged(wanted);
+}
+
+void PrintDialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  previewSwitch->setRoom(row->contentsRect().width());
+}
+
+void PrintDialog::orderAllTabs() { orderTabs({content, preview, conflictNote, note, buttons}); }
 
 // --- The printer's settings ---
 
@@ -173,7 +202,7 @@ void PrintDialog::showResult() {
   auto* result = makeChild<ResultPage>(task, pages);
   pages->addWidget(result);
   pages->setCurrentWidget(result);
-  orderTabs({result, note, buttons});
+  orderTabs({result, preview, note, buttons});
 }
 
 void PrintDialog::showNotice() {

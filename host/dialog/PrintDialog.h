@@ -18,8 +18,11 @@ class JobButtons;
 class LayoutPane;
 class Note;
 class PaneSwitcher;
+class PreviewArea;
+class PreviewSwitch;
 class SessionPanes;
 class SettingsColumn;
+class TaskPreview;
 
 // The Print dialog: shows a task, and passes on to it what the person does. It can be shown at
 // once, whatever the task is still waiting for.
@@ -36,12 +39,23 @@ class PrintDialog : public QDialog {
   // The program is to end: takes back a job that is on its way, and leaves when that is done or has
   // taken too long. Windows in front of the dialog go unanswered.
   void end();
+  // Whether the preview is beside the settings where there is room; it is at first. For before the
+  // dialog is shown.
+  void setPreviewWanted(bool wanted);
+
+ signals:
+  // The person wants the preview from now on, or does not.
+  void previewWantedChanged(bool wanted);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void build();
   void connectParts();
   void connectTask();
   QSize openingSize() const;
+  void makeRoomForPreview(bool wanted);
   void orderAllTabs();
 
   void showSession();
@@ -56,7 +70,8 @@ class PrintDialog : public QDialog {
   SummaryPane::Sections allLines() const;
 
   PrintTask& task;
-  QHBoxLayout* row;  // the preview and the settings
+  QHBoxLayout* row;  // the preview and the pages
+  PreviewArea* preview;
   QStackedWidget* pages;  // the settings, and then the result
   SettingsColumn* column;
   QWidget* content;
@@ -65,6 +80,8 @@ class PrintDialog : public QDialog {
   Note* conflictNote;
   Note* note;
   JobButtons* buttons;
+  PreviewSwitch* previewSwitch;
+  std::unique_ptr<TaskPreview> taskPreview;
   LayoutPane* layoutPane;
   SummaryPane* summaryPane;
   std::unique_ptr<SessionPanes> sessionPanes;

@@ -36,7 +36,7 @@ ResultPage::ResultPage(PrintTask& theTask, QWidget* parent)
     : ResultPage(theTask, &QDesktopServices::openUrl, parent) {}
 
 ResultPage::ResultPage(PrintTask& theTask, Opener opener, QWidget* parent)
-    : FittingScrollArea(parent),
+    : QScrollArea(parent),
       task(theTask),
       open(std::move(opener)),
       content(makeChild<QWidget>(this)),
@@ -102,7 +102,7 @@ QWidget* ResultPage::makeFolderButton() {
 }
 
 void ResultPage::showEvent(QShowEvent* event) {
-  FittingScrollArea::showEvent(event);
+  QScrollArea::showEvent(event);
   if (!event->spontaneous()) announce(*text);
 }
 

@@ -2,9 +2,8 @@
 
 #include <functional>
 
+#include <QScrollArea>
 #include <QUrl>
-
-#include "host/dialog/FittingScrollArea.h"
 
 class QLabel;
 
@@ -13,7 +12,7 @@ namespace tavrin {
 class PrintTask;
 
 // What takes the place of the settings once the job arrived: where it is, and what it was.
-class ResultPage : public FittingScrollArea {
+class ResultPage : public QScrollArea {
   Q_OBJECT
 
  public:

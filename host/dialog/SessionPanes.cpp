@@ -5,6 +5,7 @@
 #include "host/panes/PanelPane.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
+#include "platform/qt/toolkit/QtToolkit.h"
 #include "ppd/PPDKeywords.h"
 
 namespace tavrin {
@@ -25,6 +26,18 @@ SessionPanes::SessionPanes(PrinterSession& session, QWidget* widget)
     : features(makeChild<FeaturesPane>(session.marks(), shownElsewhere(session), widget)) {
   connect(features, &FeaturesPane::laidOutAnew, this, &SessionPanes::laidOutAnew);
   addPanels(session, widget);
+  followActions(session);
+}
+
+// What a panel shows is the printer's setting as soon as the person has changed it, so that the
+// rest of the dialog shows it, too.
+void SessionPanes::followActions(PrinterSession& session) {
+  const QtToolkit* toolkit = QtToolkit::installed();
+  if (!toolkit) return;
+  connect(toolkit, &QtToolkit::actionRan, this, [this, &session] {
+    if (const std::string reason = session.takePanelChoices(); !reason.empty())
+      emit saveFailed(reason);
+  });
 }
 
 void SessionPanes::addPanels(PrinterSession& session, QWidget* widget) {

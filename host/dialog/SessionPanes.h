@@ -40,6 +40,7 @@ class SessionPanes : public QObject {
 
  private:
   void addPanels(PrinterSession& session, QWidget* widget);
+  void followActions(PrinterSession& session);
 
   FeaturesPane* features;
   std::vector<PanelPane*> panels;

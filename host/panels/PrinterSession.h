@@ -27,6 +27,7 @@ class PrinterSession : public QObject {
 
   PPDMarks& marks() { return ppdMarks; }
   ppd_file_t& ppd() const { return *file; }
+  const SharedPPD& sharedPPD() const { return file; }
 
   // Loads the plug-in that the PPD names and gets its panels; nothing where it names none. The
   // sentence says why a plug-in that it names is not there; empty when all went well.

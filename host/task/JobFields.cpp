@@ -16,20 +16,28 @@ bool canLayOut(int pages) {
 
 }  // namespace
 
-void JobFields::setCopies(int copies) { copiesField = {possibleCopies(copies), true}; }
+void JobFields::setCopies(int copies) {
+  copiesField = {possibleCopies(copies), true};
+  emit changed();
+}
 
 void JobFields::suggestCopies(int copies) {
   if (copiesField.byHand) return;
   copiesField.value = possibleCopies(copies);
   emit suggestionTaken();
+  emit changed();
 }
 
-void JobFields::setPages(Pages pages) { pagesField = {std::move(pages), true}; }
+void JobFields::setPages(Pages pages) {
+  pagesField = {std::move(pages), true};
+  emit changed();
+}
 
 void JobFields::suggestPageRange(const QString& range) {
   if (pagesField.byHand) return;
   pagesField.value = {range.isEmpty(), range};
   emit suggestionTaken();
+  emit changed();
 }
 
 Result<std::string> JobFields::pageRanges() const {
@@ -41,6 +49,7 @@ void JobFields::setPagesPerSheet(int pages) {
   if (!canLayOut(pages)) return;
   perSheetField = {pages, true};
   emit pagesPerSheetChanged(pages);
+  emit changed();
 }
 
 bool JobFields::suggestPagesPerSheet(int pages) {
@@ -48,6 +57,7 @@ bool JobFields::suggestPagesPerSheet(int pages) {
   if (perSheetField.byHand) return true;
   perSheetField.value = pages;
   emit suggestionTaken();
+  emit changed();
   emit pagesPerSheetChanged(pages);
   return true;
 }

@@ -53,6 +53,8 @@ class JobFields : public QObject {
   // A suggestion was taken: what shows the fields shows them anew.
   void suggestionTaken();
   void pagesPerSheetChanged(int pages);
+  // Any field has another value, whoever set it.
+  void changed();
 
  private:
   template <class T>

@@ -36,6 +36,7 @@ PrintTask::PrintTask(JobRequest request, QObject* parent)
   suggestFields();
   connectSearch();
   connectRunner();
+  connect(&jobFields, &JobFields::changed, this, &PrintTask::optionsChanged);
   connect(&jobFields, &JobFields::pagesPerSheetChanged, this, [this](int pages) {
     if (current) current->setPagesPerSheet(pages);
   });
@@ -155,6 +156,7 @@ void PrintTask::beginSession(const SharedPPD& ppd) {
   current = std::make_unique<PrinterSession>(ppd);
   const std::string problems = markPrinter();  // the panels look at the marks as they come up
   tell({inOneText({problems, leftAlone(*ppd), current->loadPanels()})});
+  connect(&current->marks(), &PPDMarks::refreshed, this, &PrintTask::optionsChanged);
   enter(Stage::ready);
   emit sessionBegun();
 }
@@ -229,6 +231,11 @@ void PrintTask::print() {
     runner.submit(finished, options);
   else
     runner.writeFolder(output, finished, options);
+}
+
+OptionList PrintTask::options() const {
+  const Result<std::string> ranges = jobFields.pageRanges();
+  return jobOptions(finishedRequest(ranges ? *ranges : ""), current ? &current->ppd() : nullptr);
 }
 
 JobRequest PrintTask::finishedRequest(const std::string& ranges) const {

@@ -89,6 +89,8 @@ class PrintTask : public QObject {
   const JobFields& fields() const { return jobFields; }
   // The chosen printer's settings; null while there are none.
   PrinterSession* session() const { return current.get(); }
+  // The options that the job would have now; of all pages where the page range is wrong.
+  OptionList options() const;
 
   Outcome outcome() const { return end; }
   // The job that arrived; null before it did.
@@ -108,6 +110,8 @@ class PrintTask : public QObject {
   void sessionEnding();
   // The same printer's settings were set anew.
   void sessionRestarted();
+  // The job would have other options, or none, or it cannot be said what has changed.
+  void optionsChanged();
   void progressed(const tavrin::Progress& progress);
 
  private:

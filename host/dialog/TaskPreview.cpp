@@ -1,0 +1,45 @@
+#include "host/dialog/TaskPreview.h"
+
+#include <QEvent>
+
+#include "host/request/JobOptions.h"
+#include "host/sheets/PreviewArea.h"
+#include "host/task/PrintTask.h"
+
+namespace tavrin {
+
+namespace {
+
+// One copy stands for all.
+PreviewJob previewOf(const PrintTask& task) {
+  PreviewJob job{task.request().document, sourceOf(task.session()->sharedPPD()), task.options()};
+  removeOption(job.options, kCopiesOption);
+  return job;
+}
+
+}  // namespace
+
+TaskPreview::TaskPreview(PrintTask& theTask, PreviewArea& theArea) : task(theTask), area(theArea) {
+  for (const auto signal : {&PrintTask::sessionBegun, &PrintTask::sessionRestarted,
+                            &PrintTask::optionsChanged, &PrintTask::stageChanged})
+    connect(&task, signal, this, &TaskPreview::refresh);
+  area.installEventFilter(this);
+  refresh();
+}
+
+bool TaskPreview::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show || event->type() == QEvent::Hide) refresh();
+  return QObject::eventFilter(watched, event);
+}
+
+void TaskPreview::refresh() {
+  // A job reads the document, too, and standard input can be read by one at a time.
+  const bool isTaken = task.isSending() || task.stage() == PrintTask::Stage::done;
+  if (isTaken || area.isHidden()) return area.pause();
+  if (task.session()) return area.show(previewOf(task), markedPaper(task.session()->ppd()));
+  area.showNothing(task.canPrint()
+                       ? tr("The printer gets the document as it is, so there is nothing to show.")
+                       : QString());
+}
+
+}  // namespace tavrin
