@@ -1,5 +1,7 @@
 #include "host/general/PrinterPopUp.h"
 
+#include <map>
+
 #include "host/general/PrinterItems.h"
 #include "host/general/PrinterTexts.h"
 #include "host/panes/Widgets.h"
@@ -37,9 +39,16 @@ PrinterPopUp::PrinterPopUp(PrintTask& theTask, QWidget* parent) : QComboBox(pare
 
 std::vector<PrinterPopUp::Row> PrinterPopUp::rows() const {
   if (!task.hasQueue()) return {{shownLine(task.printerName()), tr("Jobs go to a folder")}};
+  const std::vector<Printer>& printers = task.printers().entries();
+  std::map<std::string, int> namesakes;
+  for (const Printer& printer : printers) ++namesakes[titleOf(printer)];
   std::vector<Row> all;
-  for (const Printer& printer : task.printers().entries())
-    all.push_back({shownLine(titleOf(printer)), printerDetails(printer)});
+  for (const Printer& printer : printers) {
+    const QString title = shownLine(titleOf(printer));
+    const bool isUnique = namesakes[titleOf(printer)] == 1;
+    all.push_back({isUnique ? title : tr("%1 (%2)").arg(title, shownLine(destinationName(printer))),
+                   printerDetails(printer)});
+  }
   return all;
 }
 
