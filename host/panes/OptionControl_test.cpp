@@ -41,6 +41,18 @@ TEST(OptionControl, FollowsAChoiceMadeElsewhere) {
   EXPECT_TRUE(box->isChecked());
 }
 
+TEST(OptionControl, TellsChoicesThatReadAlikeApart) {
+  const PPDPtr ppd = makePPD({{"PageSize/Paper Size",
+                               "PickOne",
+                               "Letter",
+                               {"Letter/US Letter", "A4/A4", "LetterSmall/US Letter"}}});
+  PPDMarks marks(*ppd);
+  QWidget parent;
+  auto* papers = controlFor<PickOneControl>(marks, "PageSize", parent);
+  EXPECT_EQ(papers->itemText(papers->findData("Letter")), "US Letter");
+  EXPECT_EQ(papers->itemText(papers->findData("LetterSmall")), "US Letter (LetterSmall)");
+}
+
 TEST(OptionControl, ClicksTurnABooleanOnAndOff) {
   const PPDPtr ppd = makePPD({mirrorOption()});
   PPDMarks marks(*ppd);

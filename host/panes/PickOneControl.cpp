@@ -1,5 +1,7 @@
 #include "host/panes/PickOneControl.h"
 
+#include <set>
+
 #include "host/panes/Widgets.h"
 #include "host/printer/PPDSections.h"
 #include "platform/qt/base/ShownText.h"
@@ -21,8 +23,13 @@ PickOneControl::PickOneControl(PPDMarks& theMarks, const ppd_option_t& theOption
 
 void PickOneControl::fill() {
   clear();
-  for (const ppd_choice_t* choice : pickableChoices(option, marks.ppd()))
-    addItem(shownLine(choice->text), QString::fromUtf8(choice->choice));
+  std::set<QString> seen;
+  for (const ppd_choice_t* choice : pickableChoices(option, marks.ppd())) {
+    const QString text = shownLine(choice->text);
+    const QString keyword = QString::fromUtf8(choice->choice);
+    const bool isTwin = !seen.insert(text).second;
+    addItem(isTwin ? tr("%1 (%2)", "choice and its keyword").arg(text, keyword) : text, keyword);
+  }
 }
 
 void PickOneControl::refresh() {

@@ -7,7 +7,8 @@
 namespace tavrin {
 
 // A pop-up of the choices of a PPD option; empty while none is marked. It marks what the person
-// picks, and follows marks that change elsewhere.
+// picks, and follows marks that change elsewhere. A choice that reads like one before it has its
+// keyword beside it.
 class PickOneControl : public QComboBox {
   Q_OBJECT
 
