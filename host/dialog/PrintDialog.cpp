@@ -78,6 +78,7 @@ void PrintDialog::build() {
   auto* inside = makeChild<QVBoxLayout>(content);
   inside->setContentsMargins(0, 0, 0, 0);
   inside->addWidget(general);
+  inside->addSpacing(fontMetrics().height() / 2);
   inside->addWidget(switcher);
   inside->addStretch();
   pages->addWidget(column);

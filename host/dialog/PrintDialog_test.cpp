@@ -140,7 +140,7 @@ TEST_F(PrintDialogTest, SumsUpEveryPane) {
   const auto lines = summaryOf(dialog);
   EXPECT_TRUE(has(lines, "Copies: 3"));
   EXPECT_TRUE(has(lines, "Pages: 2-3"));
-  EXPECT_TRUE(has(lines, "Pages per sheet: 2"));
+  EXPECT_TRUE(has(lines, "Pages per Sheet: 2"));
   const std::string ironOn = *task.session()->marks().choiceText("MediaType");
   EXPECT_TRUE(has(lines, "Paper Type: " + ironOn));
 }
@@ -158,6 +158,20 @@ TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
       if (const auto* control = dialog.findChild<QWidget*>(name); control->isVisible())
         edges.insert(control->mapTo(&dialog, QPoint(0, 0)).x());
     EXPECT_EQ(edges.size(), 1u) << pane;
+  }
+}
+
+TEST_F(PrintDialogTest, AllRowsHaveOneRhythm) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  turnTo(dialog, "Printer Features");
+  QCoreApplication::processEvents();
+  const int height = dialog.findChild<QWidget*>("printer")->height();
+  for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+    if (!label->isVisible() || !label->buddy()) continue;
+    EXPECT_EQ(label->height(), height) << label->text().toStdString();
   }
 }
 

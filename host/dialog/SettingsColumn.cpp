@@ -8,7 +8,7 @@ namespace tavrin {
 namespace {
 
 // In line heights, so that it grows with the font.
-constexpr QSize kUsualSize(32, 28);
+constexpr QSize kUsualSize(34, 28);
 // What can be seen on even the smallest screen.
 constexpr QSize kLeastSize(12, 6);
 

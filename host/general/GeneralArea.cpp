@@ -128,7 +128,7 @@ void GeneralArea::setMarks(PPDMarks* theMarks) {
   const ppd_option_t* option = marks ? marks->option(kPageSizeKey) : nullptr;
   if (!option) return;
   papers = makeChild<PickOneControl>(*marks, *option, this);
-  addRow(*form, tr("Paper si&ze:"), *papers);
+  addRow(*form, tr("Paper Si&ze:"), *papers);
 }
 
 Pane::Lines GeneralArea::summary() const {
@@ -139,7 +139,7 @@ Pane::Lines GeneralArea::summary() const {
                     {tr("Copies"), locale().toString(fields.copies())},
                     {tr("Pages"), all ? tr("All") : shownLine(fields.pages().range.toStdString())}};
   if (const OptString paper = marks ? marks->choiceText(kPageSizeKey) : std::nullopt)
-    lines.emplace_back(tr("Paper size"), shownLine(*paper));
+    lines.emplace_back(tr("Paper Size"), shownLine(*paper));
   return lines;
 }
 

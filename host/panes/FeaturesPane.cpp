@@ -65,7 +65,7 @@ void FeaturesPane::addGroupPopUp() {
   popUp->setObjectName("featureGroup");
   for (const PPDSection& section : sections) popUp->addItem(shownLine(section.title));
   letPopUpShrink(*popUp);
-  addRow(*makeForm(top), tr("Feature s&et:"), *popUp);
+  addRow(*makeForm(top), tr("Feature S&et:"), *popUp);
   column->addWidget(top);
   connect(popUp, &QComboBox::currentIndexChanged, this, &FeaturesPane::showSection);
 }
@@ -81,7 +81,7 @@ void FeaturesPane::showSection(int index) {
   for (const ppd_option_t* option : sections[static_cast<std::size_t>(index)].options) {
     QWidget* control = makeOptionControl(marks, *option, page);
     if (isBoolean(*option))
-      form->addRow(nullptr, control);
+      form->addRow(makeChild<QLabel>(page), control);  // empty, and as high as the others
     else
       addRow(*form, tr("%1:").arg(withoutMnemonics(shownLine(option->text))), *control);
   }

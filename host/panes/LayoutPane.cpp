@@ -23,7 +23,7 @@ LayoutPane::LayoutPane(JobFields& theFields, QWidget* parent)
       pagesPopUp(makeChild<QComboBox>(this)) {
   for (const int pages : kPagesPerSheet) pagesPopUp->addItem(locale().toString(pages), pages);
   pagesPopUp->setObjectName("pagesPerSheet");
-  addRow(*form, tr("Pages per &sheet:"), *pagesPopUp);
+  addRow(*form, tr("Pages per &Sheet:"), *pagesPopUp);
   refresh();
   connect(&fields, &JobFields::suggestionTaken, this, &LayoutPane::refresh);
   connect(pagesPopUp, &QComboBox::activated, this,
@@ -39,13 +39,13 @@ void LayoutPane::setMarks(PPDMarks* theMarks) {
   marks = theMarks;
   const ppd_option_t* option = marks ? twoSidedOption(marks->ppd()) : nullptr;
   twoSided = option ? option->keyword : "";
-  if (option) addRow(*form, tr("T&wo-sided:"), *makeChild<PickOneControl>(*marks, *option, this));
+  if (option) addRow(*form, tr("T&wo-Sided:"), *makeChild<PickOneControl>(*marks, *option, this));
 }
 
 Pane::Lines LayoutPane::summary() const {
-  Lines lines{{tr("Pages per sheet"), locale().toString(fields.pagesPerSheet())}};
+  Lines lines{{tr("Pages per Sheet"), locale().toString(fields.pagesPerSheet())}};
   if (twoSided.empty()) return lines;
-  lines.emplace_back(tr("Two-sided"), shownLine(marks->choiceText(twoSided).value_or("")));
+  lines.emplace_back(tr("Two-Sided"), shownLine(marks->choiceText(twoSided).value_or("")));
   return lines;
 }
 

@@ -23,7 +23,7 @@ TEST(LayoutPane, OffersTwoSidedOnlyWhereThePrinterCan) {
   pane.setMarks(&marks);
   EXPECT_NE(pane.findChild<PickOneControl*>("Duplex"), nullptr);
   marks.choose("Duplex", "DuplexNoTumble");
-  EXPECT_EQ(pane.summary().back(), (std::pair<QString, QString>("Two-sided", "Long Edge")));
+  EXPECT_EQ(pane.summary().back(), (std::pair<QString, QString>("Two-Sided", "Long Edge")));
   pane.setMarks(nullptr);
   EXPECT_EQ(pane.findChild<PickOneControl*>("Duplex"), nullptr);
 }

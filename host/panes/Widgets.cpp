@@ -15,13 +15,29 @@ namespace {
 constexpr int kLeastPopUpLetters = 16;
 constexpr int kMostLabelLetters = 24;
 
-std::vector<QWidget*> labelsOf(const QWidget& widget) {
-  std::vector<QWidget*> labels;
+using Labels = std::vector<QWidget*>;
+
+Labels labelsOf(const QWidget& widget) {
+  Labels labels;
   for (const QFormLayout* form : widget.findChildren<QFormLayout*>())
     for (int row = 0; row < form->rowCount(); ++row)
-      if (QLayoutItem* label = form->itemAt(row, QFormLayout::LabelRole))
+      if (const QLayoutItem* label = form->itemAt(row, QFormLayout::LabelRole))
         labels.push_back(label->widget());
   return labels;
+}
+
+int columnWidth(const Labels& labels, int most) {
+  int width = 0;
+  for (const QWidget* label : labels)
+    if (const int wanted = label->sizeHint().width(); wanted <= most)
+      width = std::max(width, wanted);
+  return width;
+}
+
+// All rows are as high as those with a pop-up.
+int rowHeight(const QWidget& widget) {
+  const auto* popUp = widget.findChild<QComboBox*>();
+  return popUp ? popUp->sizeHint().height() : 0;
 }
 
 void addStops(QWidget& widget, std::vector<QWidget*>& stops);
@@ -82,12 +98,10 @@ QFormLayout* makeForm(QWidget* parent) {
 }
 
 void lineUpForms(const QWidget& widget) {
+  const Labels labels = labelsOf(widget);
   const int most = widget.fontMetrics().averageCharWidth() * kMostLabelLetters;
-  int width = 0;
-  for (const QWidget* label : labelsOf(widget))
-    if (const int wanted = label->sizeHint().width(); wanted <= most)
-      width = std::max(width, wanted);
-  for (QWidget* label : labelsOf(widget)) label->setMinimumWidth(width);
+  const QSize room(columnWidth(labels, most), rowHeight(widget));
+  for (QWidget* label : labels) label->setMinimumSize(room);
 }
 
 void letPopUpShrink(QComboBox& popUp) {
