@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "host/server/PrinterReasons.h"
+#include "host/task/PrinterList.h"
 
 class QLabel;
 

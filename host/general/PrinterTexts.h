@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "host/server/Printer.h"
+#include "host/task/PrinterList.h"
 
 // What is said of a printer beside its name. Parts are separated by a dot, missing ones left out.
 

@@ -7,6 +7,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QScreen>
+#include <QStyle>
 
 namespace tavrin {
 
@@ -81,7 +82,9 @@ QString toolTipFor(const QString& text) {
 QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control) {
   auto* title = makeChild<QLabel>(form.parentWidget());
   title->setTextFormat(Qt::PlainText);
-  title->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+  // At the control, whichever way the label's own text runs.
+  const auto edge = QStyle::visualAlignment(control.layoutDirection(), Qt::AlignRight);
+  title->setAlignment(edge | Qt::AlignAbsolute | Qt::AlignVCenter);
   title->setBuddy(&control);
   title->setText(label);
   form.addRow(title, &control);

@@ -48,7 +48,7 @@ room(host/sheets         platform/text platform/qt/base host/support host/printe
                          host/preview)
 room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
                          host/printer host/panels host/task)
-room(host/general        platform/qt/base ppd host/printer host/server host/task host/panes)
+room(host/general        platform/qt/base ppd host/printer host/task host/panes)
 room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
                          platform/qt/toolkit ppd
                          host/support host/printer host/request host/preview host/panels host/task
