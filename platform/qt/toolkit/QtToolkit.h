@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include "platform/qt/controls/WheelAndReturn.h"
 #include "platform/qt/toolkit/ActionRuns.h"
 #include "platform/qt/windows/ModalRuns.h"
 #include "platform/toolkit/Toolkit.h"
@@ -14,7 +15,8 @@ class QWidget;
 namespace tavrin {
 
 // The toolkit on Qt Widgets. A program makes one after its QApplication, installs it, and
-// uninstalls it before it goes.
+// uninstalls it before it goes. While it lives, all controls of the program treat wheel and keys
+// as a panel's do: see WheelAndReturn.
 class QtToolkit : public QObject, public Toolkit {
   Q_OBJECT
 
@@ -49,6 +51,7 @@ class QtToolkit : public QObject, public Toolkit {
  private:
   ActionRuns actions{[this] { emit actionRan(); }};
   ModalRuns runs;
+  WheelAndReturn wheelAndReturn;
 };
 
 }  // namespace tavrin

@@ -143,6 +143,16 @@ TEST_F(QtToolkitTest, RadioButtonsKeepOneOnForTheUserOnly) {
   EXPECT_EQ(panel.ibManualImageSharpening->intValue(), 0);
 }
 
+TEST_F(QtToolkitTest, ReturnWorksTheDisclosureTriangle) {
+  show();
+  auto& triangle = panel.find<QAbstractButton>("ibDisclosure");
+  QTest::keyClick(&triangle, Qt::Key_Return);
+  EXPECT_EQ(panel.ibDisclosure->intValue(), 0);
+  QTest::keyClick(&triangle, Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(panel.ibDisclosure->intValue(), 1);
+  EXPECT_EQ(panel.ran, (Strings{"disclosureAction:", "disclosureAction:"}));
+}
+
 TEST_F(QtToolkitTest, ThePickedItemCanBePickedAgain) {
   show();
   auto& box = panel.find<QComboBox>("ibPaperType");
