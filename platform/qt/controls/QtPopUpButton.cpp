@@ -1,17 +1,26 @@
 #include "platform/qt/controls/QtPopUpButton.h"
 
 #include "platform/qt/base/ShownText.h"
+#include "platform/qt/controls/PopUpBox.h"
 
 namespace tavrin {
 
-QtPopUpButton::QtPopUpButton(QComboBox& box) : QtControlOf(box) {
+QtPopUpButton::QtPopUpButton(QComboBox& box, PendingChange& pending)
+    : QtControlOf(box), pendingChange(pending) {
   // The panel's layout measures the items itself.
   box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  QObject::connect(&box, &QComboBox::activated, &receiver, [this] { tellUserChange(); });
+  QObject::connect(&box, &QComboBox::activated, &receiver, [this] { changedByUser(); });
+}
+
+void QtPopUpButton::changedByUser() {
+  const auto* box = dynamic_cast<PopUpBox*>(widget.data());
+  if (!box || !box->isStepping()) return tellUserChange();
+  pendingChange.tellLater(*widget, receiver, [this] { tellUserChange(); });
 }
 
 void QtPopUpButton::removeAllItems() {
   if (!widget) return;
+  pendingChange.forget(*widget);
   widget->clear();
   layoutChanged(*widget);
 }
@@ -45,7 +54,9 @@ int QtPopUpButton::indexOfTitle(const OptString& title) const {
 }
 
 void QtPopUpButton::selectItemWithTitle(const OptString& title) {
-  if (widget) widget->setCurrentIndex(indexOfTitle(title));
+  if (!widget) return;
+  pendingChange.forget(*widget);
+  widget->setCurrentIndex(indexOfTitle(title));
 }
 
 }  // namespace tavrin

@@ -2,15 +2,18 @@
 
 #include <QComboBox>
 
+#include "platform/qt/controls/PendingChange.h"
 #include "platform/qt/controls/QtControl.h"
 #include "platform/toolkit/Controls.h"
 
 namespace tavrin {
 
-// A pop-up on a combo box. Its action also runs when the user picks the selected item again.
+// A pop-up on a combo box. Its action also runs when the user picks the selected item again; while
+// he goes through the items of a closed pop-up, it waits for him to stop.
 class QtPopUpButton : public QtControlOf<PopUpButton, QComboBox> {
  public:
-  explicit QtPopUpButton(QComboBox& box);
+  // The pending change outlives the pop-up.
+  QtPopUpButton(QComboBox& box, PendingChange& pending);
 
   void removeAllItems() override;
   void addItem(const std::string& title, const std::string& value) override;
@@ -21,8 +24,11 @@ class QtPopUpButton : public QtControlOf<PopUpButton, QComboBox> {
   void selectItemWithTitle(const OptString& title) override;
 
  private:
+  void changedByUser();
   OptString itemText(int index, int role) const;
   int indexOfTitle(const OptString& title) const;
+
+  PendingChange& pendingChange;
 };
 
 }  // namespace tavrin

@@ -5,6 +5,7 @@
 #include <QUiLoader>
 
 #include "platform/qt/base/MakeChild.h"
+#include "platform/qt/controls/PopUpBox.h"
 #include "platform/qt/toolkit/DisclosureTriangle.h"
 #include "platform/qt/toolkit/InterfaceFile.h"
 
@@ -19,14 +20,21 @@ class StandardWidgetLoader : public QUiLoader {
 
   QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
     if (!isKnownWidgetClass(className)) return nullptr;
-    if (className != QStringLiteral("QToolButton"))
-      return QUiLoader::createWidget(className, parent, name);
-    QWidget* triangle = makeChild<DisclosureTriangle>(parent);
-    triangle->setObjectName(name);
-    return triangle;
+    QWidget* ours = createOurs(className, parent);
+    if (!ours) return QUiLoader::createWidget(className, parent, name);
+    ours->setObjectName(name);
+    return ours;
   }
+
   QAction* createAction(QObject*, const QString&) override { return nullptr; }
   QActionGroup* createActionGroup(QObject*, const QString&) override { return nullptr; }
+
+ private:
+  static QWidget* createOurs(const QString& className, QWidget* parent) {
+    if (className == QStringLiteral("QToolButton")) return makeChild<DisclosureTriangle>(parent);
+    if (className == QStringLiteral("QComboBox")) return makeChild<PopUpBox>(parent);
+    return nullptr;
+  }
 };
 
 // The form builder makes a dialog inside another widget a part of it.

@@ -52,14 +52,18 @@ bool isOfTheFile(const QWidget& widget) {
 }  // namespace
 
 QtLoadedInterface::QtLoadedInterface(std::unique_ptr<QWidget> widgets, InterfaceBindings offered,
-                                     ActionRuns& runs)
-    : root(widgets.release()), bindings(std::move(offered)), actions(runs) {}
+                                     ActionRuns& runs, PendingChange& pending)
+    : root(widgets.release()),
+      bindings(std::move(offered)),
+      actions(runs),
+      pendingChange(pending) {}
 
 std::shared_ptr<LoadedInterface> QtLoadedInterface::make(std::unique_ptr<QWidget> root,
                                                          InterfaceBindings bindings,
-                                                         ActionRuns& actions) {
+                                                         ActionRuns& actions,
+                                                         PendingChange& pendingChange) {
   std::shared_ptr<QtLoadedInterface> whole(
-      new QtLoadedInterface(std::move(root), std::move(bindings), actions));
+      new QtLoadedInterface(std::move(root), std::move(bindings), actions, pendingChange));
   whole->makeObjects();
   whole->connectOutlets();
   whole->reportUnusedActions();
@@ -98,9 +102,9 @@ void QtLoadedInterface::makeObjects() {
   }
 }
 
-template <class Wrapper, class Widget>
-Wrapper* QtLoadedInterface::makeControl(Widget& widget) {
-  auto made = std::make_unique<Wrapper>(widget);
+template <class Wrapper, class... Args>
+Wrapper* QtLoadedInterface::makeControl(Args&&... args) {
+  auto made = std::make_unique<Wrapper>(args...);
   Wrapper* control = made.get();
   views.push_back(std::move(made));
   return control;
@@ -115,7 +119,8 @@ Window* QtLoadedInterface::makeWindow(QWidget& widget) {
 
 QtLoadedInterface::Object QtLoadedInterface::makeObject(QWidget& widget) {
   if (qobject_cast<QDialog*>(&widget)) return makeWindow(widget);
-  if (auto* box = qobject_cast<QComboBox*>(&widget)) return makeControl<QtPopUpButton>(*box);
+  if (auto* box = qobject_cast<QComboBox*>(&widget))
+    return makeControl<QtPopUpButton>(*box, pendingChange);
   if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return makeControl<QtButton>(*button);
   if (auto* slider = qobject_cast<QSlider*>(&widget)) return makeControl<QtSlider>(*slider);
   if (auto* label = qobject_cast<QLabel*>(&widget)) return makeControl<QtLabel>(*label);

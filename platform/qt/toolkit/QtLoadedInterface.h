@@ -17,6 +17,7 @@
 namespace tavrin {
 
 class ActionRuns;
+class PendingChange;
 class QtWindow;
 
 // The widgets of one interface file, the objects on them, and their owner's bindings. Stays alive
@@ -26,9 +27,10 @@ class QtLoadedInterface : public LoadedInterface,
                           public std::enable_shared_from_this<QtLoadedInterface> {
  public:
   // Connects the outlets for which the file has objects. The interface is detached from its owner
-  // when the caller drops the answer; the runs outlive it.
+  // when the caller drops the answer; runs and pending change outlive it.
   static std::shared_ptr<LoadedInterface> make(std::unique_ptr<QWidget> root,
-                                               InterfaceBindings bindings, ActionRuns& actions);
+                                               InterfaceBindings bindings, ActionRuns& actions,
+                                               PendingChange& pendingChange);
   ~QtLoadedInterface() override;
 
   void detach() override;
@@ -37,12 +39,13 @@ class QtLoadedInterface : public LoadedInterface,
  private:
   using Object = std::variant<View*, PopUpButton*, Button*, Slider*, Label*, Window*>;
 
-  QtLoadedInterface(std::unique_ptr<QWidget> root, InterfaceBindings bindings, ActionRuns& runs);
+  QtLoadedInterface(std::unique_ptr<QWidget> root, InterfaceBindings bindings, ActionRuns& runs,
+                    PendingChange& pending);
 
   void makeObjects();
   Object makeObject(QWidget& widget);
-  template <class Wrapper, class Widget>
-  Wrapper* makeControl(Widget& widget);
+  template <class Wrapper, class... Args>
+  Wrapper* makeControl(Args&&... args);
   Window* makeWindow(QWidget& widget);
   void bindAction(const QWidget& widget, const Object& object);
   template <class Sender, class Given>
@@ -54,6 +57,7 @@ class QtLoadedInterface : public LoadedInterface,
   QPointer<QWidget> root;  // ours, unless the program gave it a parent and deleted that
   InterfaceBindings bindings;
   ActionRuns& actions;
+  PendingChange& pendingChange;
   bool detached = false;
   std::vector<std::unique_ptr<View>> views;
   std::vector<std::unique_ptr<QtWindow>> windows;

@@ -20,7 +20,9 @@ std::shared_ptr<LoadedInterface> QtToolkit::loadInterface(const Bundle& bundle,
 std::shared_ptr<LoadedInterface> QtToolkit::loadInterfaceFrom(const std::filesystem::path& file,
                                                               InterfaceBindings bindings) {
   auto root = loadInterfaceFile(file);
-  return root ? QtLoadedInterface::make(std::move(root), std::move(bindings), actions) : nullptr;
+  return root
+             ? QtLoadedInterface::make(std::move(root), std::move(bindings), actions, pendingChange)
+             : nullptr;
 }
 
 bool QtToolkit::runModalForWindow(Window& window) {

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include "platform/qt/controls/PendingChange.h"
 #include "platform/qt/controls/WheelAndReturn.h"
 #include "platform/qt/toolkit/ActionRuns.h"
 #include "platform/qt/windows/ModalRuns.h"
@@ -36,6 +37,10 @@ class QtToolkit : public QObject, public Toolkit {
   // Called with every window that comes up modally, from inside its run; nobody by default.
   void onModalWindow(std::function<void(QWidget&)> observer);
 
+  // Runs at once the action of a pop-up that somebody is just going through with the keyboard, if
+  // there is one; its message windows come up and go before this returns. For a program that is
+  // about to ask a panel for its choices, or to take it away.
+  void settle() { pendingChange.settle(); }
   // The widget of a view, for a program to put into its own layout; null for a null object and once
   // the widget has been deleted. It belongs to the interface that the view was loaded with, but a
   // program may give it a parent and delete that.
@@ -52,6 +57,7 @@ class QtToolkit : public QObject, public Toolkit {
   ActionRuns actions{[this] { emit actionRan(); }};
   ModalRuns runs;
   WheelAndReturn wheelAndReturn;
+  PendingChange pendingChange;  // made after the others: it sees every event before them
 };
 
 }  // namespace tavrin

@@ -242,6 +242,7 @@ TEST_F(QtToolkitTest, AnActionMayDropThePanel) {
   QPointer<QWidget> watched = &panel.widget();
   panel.duringAction = [&](const auto&) { panel.interface.reset(); };
   QTest::keyClick(&box, Qt::Key_Down);
+  toolkit.settle();
   EXPECT_EQ(panel.ran.size(), 1u);
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(watched.isNull());
