@@ -12,9 +12,9 @@ struct Span {
   bool stretches;  // whether it can use more room
 };
 
-// Turns the x positions of a design (points) into pixels. All spans share one ruler, so whatever is
-// aligned in the design stays aligned when a long text or a large font pushes an edge to the right;
-// no distance gets smaller than the design's.
+// Turns the positions of a design along one axis (points) into pixels. All spans share one ruler,
+// so whatever is aligned in the design stays aligned when a long text or a large font pushes an
+// edge on; no distance gets smaller than the design's.
 class EdgeRuler {
  public:
   // A ruler for a design of that width, at that many pixels a point. A span whose right edge is not
@@ -37,6 +37,7 @@ class EdgeRuler {
   };
 
   void solve(const std::vector<Span>& spans);
+  bool liesAcross(const Span& span, std::size_t gap) const;
   std::size_t stretchGap(const std::vector<Span>& spans) const;
 
   double scale;

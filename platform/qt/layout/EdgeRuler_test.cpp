@@ -43,6 +43,19 @@ TEST(EdgeRuler, GivesMoreRoomToWhatStretches) {
   EXPECT_EQ(ruler.width(), 580);
 }
 
+TEST(EdgeRuler, WhatStretchesBesideAWideControlStretchesWithIt) {
+  auto spans = form(100, 400);
+  spans.push_back({240, 400, 50, true});
+  const EdgeRuler ruler(480, 1, spans);
+  EXPECT_EQ(ruler.at(460) - ruler.at(188), 400);
+  EXPECT_EQ(ruler.at(240) - ruler.at(188), 52);
+  EXPECT_EQ(ruler.at(460) - ruler.at(400), 60);
+}
+
+TEST(EdgeRuler, ADesignOfNoWidthHoldsNothing) {
+  EXPECT_EQ(EdgeRuler(0, 1, {{0, 0, 50, true}}).width(), 0);
+}
+
 TEST(EdgeRuler, DoesNotShrink) {
   EdgeRuler ruler(480, 1, form(100, 200));
   ruler.widen(10);

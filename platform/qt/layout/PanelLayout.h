@@ -7,9 +7,11 @@
 namespace tavrin {
 
 // Lays out a whole panel, a view with views in it, from the frames that the core sets: points,
-// origin bottom left. A point is as many pixels as the font asks for; the columns of all views
-// share one ruler, so that a long text widens its column everywhere. On a narrow screen only the
-// gaps between texts and controls shrink. Where visible views reach above their parent, the parent
+// origin bottom left. What lies between the controls of the design is as wide on the screen as in a
+// form of the same style, so that a panel stands in one grid with the forms above and below it; all
+// rows are as high as the tallest control. The rows and columns of all views share one ruler each,
+// so that a long text widens its column everywhere. On a narrow screen only the gaps between texts
+// and controls shrink. Where visible views reach above their parent, the parent
 // shows their top; unused room at the bottom is not shown.
 class PanelLayout : public QLayout {
  public:

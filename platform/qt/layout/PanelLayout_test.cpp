@@ -1,9 +1,14 @@
 #include "platform/qt/layout/PanelLayout.h"
 
+#include <cstdlib>
+#include <set>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -141,27 +146,65 @@ TEST_P(PanelShapes, LabelsEndAtTheColonAndControlsShareAnEdge) {
   }
 }
 
-TEST_P(PanelShapes, StartsAndEndsWithTheSameMargin) {
-  int top = panel.widget().height();
-  int bottom = 0;
-  for (const QWidget* leaf : leaves()) {
-    top = std::min(top, placeOf(*leaf).top());
-    bottom = std::max(bottom, placeOf(*leaf).bottom());
+TEST_P(PanelShapes, HasNoMarginsOfItsOwn) {
+  QRect used;
+  for (const QWidget* leaf : leaves()) used |= placeOf(*leaf);
+  EXPECT_EQ(used.left(), 0);
+  EXPECT_EQ(used.right(), panel.widget().width() - 1);
+  EXPECT_LE(used.top(), 1);
+  // A check box is a little lower than a row.
+  EXPECT_LE(panel.widget().height() - 1 - used.bottom(), 4);
+}
+
+TEST_P(PanelShapes, EveryRowIsAsFarFromTheNextAsInAForm) {
+  QWidget forms;
+  forms.setFont(host.font());
+  QFormLayout form(&forms);
+  QComboBox upper, lower;
+  form.addRow("Upper:", &upper);
+  form.addRow("Lower:", &lower);
+  forms.resize(forms.sizeHint());
+  form.activate();
+  const int wanted = lower.y() - upper.y();
+  std::set<int> rows;
+  for (const QWidget* leaf : leaves()) rows.insert(placeOf(*leaf).center().y());
+  for (auto row = std::next(rows.begin()); row != rows.end(); ++row) {
+    const int distance = *row - *std::prev(row);
+    EXPECT_TRUE(distance <= 2 || std::abs(distance - wanted) <= 2) << distance;
   }
-  const int below = panel.widget().height() - 1 - bottom;
-  EXPECT_GT(top, 4);
-  EXPECT_LT(top, 3 * panel.widget().fontMetrics().height());
-  EXPECT_GT(below, 0);
-  EXPECT_LT(below, 2 * top + 8);
+}
+
+TEST_P(PanelShapes, StandsInOneGridWithAForm) {
+  if (GetParam().narrow) host.resize(host.sizeHint());
+  QLabel label("A label of the program's own form:");
+  QLineEdit field;
+  QFormLayout form;
+  form.setLabelAlignment(Qt::AlignRight);
+  form.addRow(&label, &field);
+  layout.insertLayout(0, &form);
+  const int column =
+      std::max(label.sizeHint().width(), QtToolkit::labelColumnWidth(panel.widget()));
+  label.setMinimumWidth(column);
+  QtToolkit::setLabelColumnWidth(panel.widget(), column);
+  host.resize(host.sizeHint() + QSize(50, 0));
+  QCoreApplication::processEvents();
+  const auto onHost = [this](const QWidget& widget) {
+    return QRect(widget.mapTo(&host, QPoint(0, 0)), widget.size());
+  };
+  const auto& popUp = panel.find<QWidget>("ibPaperType");
+  EXPECT_NEAR(onHost(popUp).left(), onHost(field).left(), 1);
+  EXPECT_NEAR(onHost(popUp).right(), onHost(field).right(), 1);
+  EXPECT_NEAR(onHost(panel.find<QWidget>("ibPaperTypeLabel")).right(), onHost(label).right(), 1);
+  layout.removeItem(&form);
 }
 
 TEST_P(PanelShapes, FramesStayAsTheControllerSetThem) {
   const Rect view = panel.ibPDEView->frame();
-  EXPECT_EQ(view.width, 480);
+  EXPECT_EQ(view.width, 300);
   EXPECT_EQ(view.height,
             (GetParam().expanded ? panel.advancedViewRect : panel.headerViewRect).height);
   EXPECT_EQ(panel.ibHeaderView->frame(), panel.headerViewRect);
-  EXPECT_EQ(panel.ibDisclosure->frame().y, GetParam().secondTray ? 10 : 45);
+  EXPECT_EQ(panel.ibDisclosure->frame().y, GetParam().secondTray ? 9 : 44);
 }
 
 TEST_P(PanelShapes, FollowsAChangeAtOnce) {

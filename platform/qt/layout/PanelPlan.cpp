@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include <QComboBox>
-#include <QFontMetricsF>
 #include <QLabel>
 #include <QSlider>
 #include <QStyle>
@@ -16,8 +15,9 @@ namespace tavrin {
 
 namespace {
 
-// The height of the text that the points of an interface file are drawn for.
-constexpr double kDesignTextHeight = 15;
+// The distance between a label and its control, and between two rows, in an interface file
+// (points).
+constexpr double kDesignSpacing = 9;
 
 // How narrow the design's distances get, at most, where the screen is narrow.
 constexpr double kNarrowestGaps = 0.25;
@@ -43,7 +43,18 @@ int widthForItems(const QComboBox& box) {
 
 int neededWidth(const QWidget& leaf) {
   const auto* box = qobject_cast<const QComboBox*>(&leaf);
-  return box ? widthForItems(*box) : leaf.sizeHint().width();
+  return std::max(box ? widthForItems(*box) : leaf.sizeHint().width(), leaf.minimumWidth());
+}
+
+// The pixels that a form of the same style leaves where the design leaves a point.
+double scaleOf(const QWidget& root, Qt::Orientation orientation) {
+  const QStyle& style = *root.style();
+  const auto metric = orientation == Qt::Horizontal ? QStyle::PM_LayoutHorizontalSpacing
+                                                    : QStyle::PM_LayoutVerticalSpacing;
+  int spacing = style.pixelMetric(metric, nullptr, &root);
+  if (spacing < 0)
+    spacing = style.combinedLayoutSpacing(QSizePolicy::Label, QSizePolicy::ComboBox, orientation);
+  return std::max(spacing, 1) / kDesignSpacing;
 }
 
 bool stretches(const QWidget& leaf) {
@@ -59,9 +70,9 @@ QRect inItsPlace(const QWidget& leaf, QRect place) {
 
 }  // namespace
 
-PanelPlan::PanelPlan(QWidget& panelRoot) : root(panelRoot) {
+PanelPlan::PanelPlan(QWidget& panelRoot) : root(panelRoot), rows(0, 1, {}) {
   collect(root, 0, 0, true);
-  scale = largestScale();
+  rows = rowRuler();
 }
 
 void PanelPlan::collect(QWidget& parent, double left, double top, bool shown) {
@@ -86,31 +97,39 @@ bool PanelPlan::needsRoom(const Place& place) const {
   return place.isLeaf && !isFlaggedHidden(*place.widget);
 }
 
-double PanelPlan::largestScale() const {
-  double largest = QFontMetricsF(root.font()).height() / kDesignTextHeight;
+// The same for every row, so that the rows keep one rhythm whatever they hold.
+int PanelPlan::rowHeight() const {
+  int tallest = 0;
   for (const Place& place : places)
-    if (needsRoom(place) && place.height > 0)
-      largest = std::max(largest, place.widget->sizeHint().height() / place.height);
-  return largest;
+    if (needsRoom(place)) tallest = std::max(tallest, place.widget->sizeHint().height());
+  return tallest;
 }
 
-EdgeRuler PanelPlan::rulerWithGaps(double factor) const {
+EdgeRuler PanelPlan::rowRuler() const {
+  const double height = rowHeight();
+  std::vector<Span> spans;
+  for (const Place& place : places)
+    if (place.isLeaf) spans.push_back({place.top, place.top + place.height, height, false});
+  return EdgeRuler(frameOf(root).height, scaleOf(root, Qt::Vertical), spans);
+}
+
+EdgeRuler PanelPlan::columnsWithGaps(double factor) const {
   std::vector<Span> spans;
   for (const Place& place : places)
     if (needsRoom(place))
       spans.push_back({place.left, place.left + place.width, double(neededWidth(*place.widget)),
                        stretches(*place.widget)});
-  return EdgeRuler(frameOf(root).width, scale * factor, spans);
+  return EdgeRuler(frameOf(root).width, scaleOf(root, Qt::Horizontal) * factor, spans);
 }
 
 // A ruler's width is a convex function of its scale, so a scale in proportion fits.
-EdgeRuler PanelPlan::rulerWithin(double width) const {
-  EdgeRuler full = rulerWithGaps(1);
+EdgeRuler PanelPlan::columnsWithin(double width) const {
+  EdgeRuler full = columnsWithGaps(1);
   full.widen(width);
   if (full.width() <= width) return full;
-  const double least = rulerWithGaps(kNarrowestGaps).width();
+  const double least = columnsWithGaps(kNarrowestGaps).width();
   const double part = std::clamp((width - least) / (full.width() - least), 0.0, 1.0);
-  return rulerWithGaps(std::lerp(kNarrowestGaps, 1.0, part));
+  return columnsWithGaps(std::lerp(kNarrowestGaps, 1.0, part));
 }
 
 // Down to the lowest visible control, and as much below it as there is above the highest.
@@ -127,25 +146,26 @@ double PanelPlan::usedHeight() const {
 }
 
 QSize PanelPlan::sizeWithGaps(double factor) const {
-  return QSize(int(std::ceil(rulerWithGaps(factor).width())), int(std::ceil(usedHeight() * scale)));
+  return QSize(int(std::ceil(columnsWithGaps(factor).width())),
+               int(std::ceil(rows.at(usedHeight()))));
 }
 
 QSize PanelPlan::leastSize() const { return sizeWithGaps(kNarrowestGaps); }
 
 // In the coordinates of the root.
-QRect PanelPlan::rectOf(const Place& place, const EdgeRuler& ruler, const QSize& area) const {
+QRect PanelPlan::rectOf(const Place& place, const EdgeRuler& columns, const QSize& area) const {
   const QRect rect =
-      rounded(ruler.at(place.left), place.top * scale, ruler.at(place.left + place.width),
-              (place.top + place.height) * scale);
+      rounded(columns.at(place.left), rows.at(place.top), columns.at(place.left + place.width),
+              rows.at(place.top + place.height));
   return QStyle::visualRect(root.layoutDirection(), QRect(QPoint(0, 0), area),
                             place.isLeaf ? inItsPlace(*place.widget, rect) : rect);
 }
 
 void PanelPlan::apply(const QRect& area) const {
-  const EdgeRuler ruler = rulerWithin(area.width());
+  const EdgeRuler columns = columnsWithin(area.width());
   for (const Place& place : places) {
     const QPoint origin = place.widget->parentWidget()->mapTo(&root, QPoint(0, 0));
-    place.widget->setGeometry(rectOf(place, ruler, area.size()).translated(-origin));
+    place.widget->setGeometry(rectOf(place, columns, area.size()).translated(-origin));
   }
 }
 

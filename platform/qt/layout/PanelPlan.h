@@ -31,17 +31,18 @@ class PanelPlan {
   };
 
   void collect(QWidget& parent, double left, double top, bool shown);
-  double largestScale() const;
+  int rowHeight() const;
   bool needsRoom(const Place& place) const;
   double usedHeight() const;
-  EdgeRuler rulerWithGaps(double factor) const;
-  EdgeRuler rulerWithin(double width) const;
+  EdgeRuler columnsWithGaps(double factor) const;
+  EdgeRuler columnsWithin(double width) const;
+  EdgeRuler rowRuler() const;
   QSize sizeWithGaps(double factor) const;
-  QRect rectOf(const Place& place, const EdgeRuler& ruler, const QSize& area) const;
+  QRect rectOf(const Place& place, const EdgeRuler& columns, const QSize& area) const;
 
   QWidget& root;
   std::vector<Place> places;  // parents before their children
-  double scale;               // pixels a point
+  EdgeRuler rows;
 };
 
 }  // namespace tavrin

@@ -7,6 +7,7 @@
 
 #include "platform/qt/controls/PendingChange.h"
 #include "platform/qt/controls/WheelAndReturn.h"
+#include "platform/qt/layout/LabelColumn.h"
 #include "platform/qt/toolkit/ActionRuns.h"
 #include "platform/qt/windows/ModalRuns.h"
 #include "platform/toolkit/Toolkit.h"
@@ -45,6 +46,12 @@ class QtToolkit : public QObject, public Toolkit {
   // the widget has been deleted. It belongs to the interface that the view was loaded with, but a
   // program may give it a parent and delete that.
   static QWidget* widgetOf(View& view);
+  // The width that the labels beside a panel's controls ask for, and the least width to give them
+  // (pixels): with the same for the labels of a program's own forms, all controls share one edge.
+  static int labelColumnWidth(const QWidget& panel) { return tavrin::labelColumnWidth(panel); }
+  static void setLabelColumnWidth(QWidget& panel, int pixels) {
+    tavrin::setLabelColumnWidth(panel, pixels);
+  }
 
  signals:
   // An action has run because the user changed a control, in a panel or in one of its message
