@@ -22,6 +22,7 @@
 #include "host/dialog/SettingsColumn.h"
 #include "host/dialog/TaskPreview.h"
 #include "host/general/GeneralArea.h"
+#include "host/dialog/ShownSentence.h"
 #include "host/panes/LayoutPane.h"
 #include "host/panes/Widgets.h"
 #include "host/sheets/PreviewArea.h"
@@ -208,7 +209,7 @@ void PrintDialog::showResult() {
 
 void PrintDialog::showNotice() {
   const PrintTask::Notice& notice = task.notice();
-  note->say(shownLines(notice.text),
+  note->say(shownSentence(notice.text),
             notice.isWarning ? Note::Kind::warning : Note::Kind::information,
             notice.canLookAgain ? tr("Look A&gain") : QString());
 }

@@ -19,6 +19,7 @@
 
 #include "host/dialog/Note.h"
 #include "host/general/PrinterPopUp.h"
+#include "host/dialog/ShownSentence.h"
 #include "host/panes/FeaturesPane.h"
 #include "host/panes/Mnemonics.h"
 #include "host/printer/PPDLoader.h"
@@ -295,7 +296,7 @@ TEST_F(PrintDialogTest, LosesNothingWhenTheJobCannotBeWritten) {
   EXPECT_EQ(task.outcome(), PrintTask::Outcome::failed);
   EXPECT_EQ(task.session()->marks().choice("MediaType"), "IronOn");
   EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
-  EXPECT_EQ(dialog.findChild<Note*>("note")->text().toStdString(), task.report());
+  EXPECT_EQ(dialog.findChild<Note*>("note")->text(), shownSentence(task.report()));
 }
 
 // What a screen reader calls a control, by itself or by its label.

@@ -11,6 +11,7 @@
 #include <QStyle>
 
 #include "host/dialog/Announcement.h"
+#include "host/dialog/ShownSentence.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/base/ShownText.h"
@@ -28,7 +29,7 @@ QLabel* makeSelectable(const QString& text, QWidget* parent) {
   return label;
 }
 
-QString wordsOf(const JobReport& report) { return shownLines(report.text.toStdString()); }
+QString wordsOf(const JobReport& report) { return shownSentence(report.text.toStdString()); }
 
 }  // namespace
 

@@ -1,6 +1,6 @@
 #include "host/program/ProblemWindow.h"
 
-#include "platform/qt/base/ShownText.h"
+#include "host/dialog/ShownSentence.h"
 
 namespace tavrin {
 
@@ -9,7 +9,7 @@ ProblemWindow::ProblemWindow(const std::string& sentence) {
   setIcon(QMessageBox::Warning);
   setTextFormat(Qt::PlainText);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  setText(shownLines(sentence));
+  setText(shownSentence(sentence));
   addButton(tr("&Close"), QMessageBox::RejectRole);
 }
 

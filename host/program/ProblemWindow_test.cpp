@@ -8,8 +8,8 @@ namespace tavrin {
 namespace {
 
 TEST(ProblemWindow, SaysTheSentenceAsItIs) {
-  const ProblemWindow window("The document <b>card</b>.pdf is empty.");
-  EXPECT_EQ(window.text(), "The document <b>card</b>.pdf is empty.");
+  const ProblemWindow window("The document \"<b>card</b>.pdf\" is empty.");
+  EXPECT_EQ(window.text(), "The document “<b>card</b>.pdf” is empty.");
   EXPECT_EQ(window.textFormat(), Qt::PlainText);
 }
 
