@@ -146,6 +146,19 @@ TEST_F(PrintDialogTest, SumsUpEveryPane) {
   EXPECT_TRUE(has(lines, "Paper Type: " + ironOn));
 }
 
+TEST_F(PrintDialogTest, SumsUpAPanelInTheOrderOfItsControls) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  auto lines = summaryOf(dialog);
+  lines.erase(lines.begin(), std::ranges::find(lines, "Print Settings: ") + 1);
+  for (std::string& line : lines) line.resize(line.find(':'));
+  lines.resize(7);
+  EXPECT_EQ(lines, (std::vector<std::string>{"Print Quality", "Print in Black and White",
+                                             "Paper Type", "Paper Source", "Mirror Image",
+                                             "Image Sharpening", "Two-Sided Dry Time"}));
+}
+
 TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
   PrintTask task(job());
   PrintDialog dialog(task);

@@ -1,5 +1,7 @@
 #include "host/panes/PanelPane.h"
 
+#include <algorithm>
+
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -9,6 +11,31 @@
 #include "platform/qt/toolkit/QtToolkit.h"
 
 namespace tavrin {
+namespace {
+
+// What a label and a control's text have in common: neither the colon nor the mark of a mnemonic.
+QString plain(QString text) {
+  text.remove('&');
+  while (text.endsWith(':') || text.endsWith(' ')) text.chop(1);
+  return text;
+}
+
+// The texts in a panel, in the order of its controls.
+QStringList textsIn(const QWidget& panel) {
+  QStringList texts;
+  for (const QWidget* control : panel.findChildren<QWidget*>())
+    texts << plain(control->property("text").toString());
+  return texts;
+}
+
+// A panel gives its lines without an order. What has none comes last.
+void putInOrder(Pane::Lines& lines, const QStringList& texts) {
+  std::ranges::stable_sort(lines, {}, [&](const auto& line) {
+    return static_cast<std::size_t>(texts.indexOf(plain(line.first)));
+  });
+}
+
+}  // namespace
 
 PanelPane::PanelPane(PDEPanel& thePanel, PrinterSession& theSession, QWidget* parent)
     : Pane(shownLine(thePanel.panelName()), parent), panel(thePanel), session(theSession) {
@@ -34,6 +61,7 @@ Pane::Lines PanelPane::summary() const {
   Lines lines;
   for (const auto& [label, value] : panel.summaryInfo())
     lines.emplace_back(shownLine(label), shownLine(value.value_or("")));
+  if (widget) putInOrder(lines, textsIn(*widget));
   return lines;
 }
 

@@ -18,6 +18,7 @@ class PanelPane : public Pane {
   PanelPane(PDEPanel& panel, PrinterSession& session, QWidget* parent);
   ~PanelPane() override;
 
+  // In the order of the panel's controls, once they have been shown.
   Lines summary() const override;
   void willShow() override;
   // Asks the panel, and takes the panels' choices, so that the rest of the dialog shows them.
