@@ -1,7 +1,5 @@
 #include "host/panes/SummaryPane.h"
 
-#include <algorithm>
-
 #include <QHeaderView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -12,8 +10,7 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kLeastLines = 8;
-constexpr int kMostLines = 14;
+constexpr int kLeastLines = 8;  // that can be seen however little room there is
 
 QTreeWidgetItem* addHeading(QTreeWidget& list, const QString& name) {
   auto* heading = makeChild<QTreeWidgetItem>(&list, QStringList{name});
@@ -48,19 +45,19 @@ SummaryPane::SummaryPane(std::function<Sections()> theSections, QWidget* parent)
   list->setRootIsDecorated(false);
   list->setItemsExpandable(false);
   list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  // All lines where there is room for them, and a bar only where there is not.
+  list->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+  list->setMinimumHeight(kLeastLines * list->fontMetrics().height() * 3 / 2);
 }
 
 void SummaryPane::willShow() {
   list->clear();
-  int lines = 1;  // the header
   for (const auto& [name, values] : sections()) {
     if (values.empty()) continue;
     QTreeWidgetItem* heading = addHeading(*list, name);
     for (const auto& [label, value] : values) addLine(*heading, label, value);
-    lines += 1 + static_cast<int>(values.size());
   }
-  const int height = list->fontMetrics().height() * 3 / 2;
-  list->setMinimumHeight(std::clamp(lines, kLeastLines, kMostLines) * height);
+  list->updateGeometry();
 }
 
 }  // namespace tavrin

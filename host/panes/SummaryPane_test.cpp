@@ -1,5 +1,7 @@
 #include "host/panes/SummaryPane.h"
 
+#include <QCoreApplication>
+#include <QScrollBar>
 #include <QTextDocument>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -25,6 +27,22 @@ TEST(SummaryPane, ToolTipsShowTheirTextAsItIs) {
     const QTreeWidgetItem* line = list->topLevelItem(0)->child(0);
     for (int column : {0, 1}) EXPECT_EQ(shownToolTip(line->toolTip(column)), text);
   }
+}
+
+TEST(SummaryPane, ScrollsOnlyWhereThereIsTooLittleRoom) {
+  Pane::Lines lines;
+  for (int i = 0; i < 30; ++i) lines.emplace_back(QString("Setting %1").arg(i), "On");
+  SummaryPane pane([&] { return SummaryPane::Sections{{"Pane", lines}}; }, nullptr);
+  pane.willShow();
+  const auto* bar = pane.findChild<QTreeWidget*>("summary")->verticalScrollBar();
+  const auto scrollsAt = [&](int height) {
+    pane.resize(pane.sizeHint().width(), height);
+    pane.show();
+    QCoreApplication::processEvents();
+    return bar->maximum() > 0;
+  };
+  EXPECT_FALSE(scrollsAt(pane.sizeHint().height()));
+  EXPECT_TRUE(scrollsAt(pane.minimumSizeHint().height()));
 }
 
 }  // namespace
