@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QFile>
+#include <QFileDialog>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
@@ -43,6 +45,19 @@ QString titleFor(const JobRequest& request) {
   const bool isNamed = !request.title.empty() || request.document != kStandardInput;
   return isNamed ? PrintDialog::tr("Print “%1”").arg(shownLine(jobTitle(request)))
                  : PrintDialog::tr("Print");
+}
+
+// On a button; empty where there is none.
+QString nameOf(PrintTask::WayOut wayOut) {
+  switch (wayOut) {
+    case PrintTask::WayOut::lookAgain:
+      return PrintDialog::tr("&Look Again");
+    case PrintTask::WayOut::chooseFolder:
+      return PrintDialog::tr("Choose &Folder…");
+    case PrintTask::WayOut::none:
+      break;
+  }
+  return {};
 }
 
 }  // namespace
@@ -104,6 +119,7 @@ void PrintDialog::connectParts() {
   connect(buttons, &JobButtons::printWanted, this, &PrintDialog::print);
   connect(previewSwitch, &PreviewSwitch::wantedChanged, this, &PrintDialog::makeRoomForPreview);
   connect(note, &Note::wayOutTaken, &task, &PrintTask::usePrintServer);
+  connect(note, &Note::wayOutTaken, this, &PrintDialog::takeWayOut);
   auto* helpKey = makeChild<QShortcut>(QKeySequence(QKeySequence::HelpContents), this);
   connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
 }
@@ -212,6 +228,25 @@ void PrintDialog::showNotice() {
   note->say(shownSentence(notice.text),
             notice.isWarning ? Note::Kind::warning : Note::Kind::information,
             notice.canLookAgain ? tr("Look A&gain") : QString());
+            nameOf(notice.wayOut));
+}
+
+void PrintDialog::takeWayOut() {
+  const PrintTask::WayOut wayOut = task.notice().wayOut;
+  if (wayOut == PrintTask::WayOut::lookAgain) task.usePrintServer();
+  if (wayOut == PrintTask::WayOut::chooseFolder) chooseFolder();
+}
+
+// In a window that does not hold up the dialog, which may have to end meanwhile.
+void PrintDialog::chooseFolder() {
+  auto* chooser = makeChild<QFileDialog>(this, tr("Choose a Folder for the Job"));
+  chooser->setAttribute(Qt::WA_DeleteOnClose);
+  chooser->setFileMode(QFileDialog::Directory);
+  chooser->setOption(QFileDialog::ShowDirsOnly);
+  connect(chooser, &QFileDialog::fileSelected, &task, [this](const QString& folder) {
+    task.setOutput(QFile::encodeName(folder).toStdString());
+  });
+  chooser->open();
 }
 
 void PrintDialog::showHelp() {

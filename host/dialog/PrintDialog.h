@@ -63,6 +63,8 @@ class PrintDialog : public QDialog {
   void showStage();
   void showResult();
   void showNotice();
+  void takeWayOut();
+  void chooseFolder();
   void showConflicts();
   void showHelp();
   void print();

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -310,6 +311,27 @@ TEST_F(PrintDialogTest, LosesNothingWhenTheJobCannotBeWritten) {
   EXPECT_EQ(task.session()->marks().choice("MediaType"), "IronOn");
   EXPECT_TRUE(dialog.findChild<QPushButton*>("print")->isEnabled());
   EXPECT_EQ(dialog.findChild<Note*>("note")->text(), shownSentence(task.report()));
+}
+
+TEST_F(PrintDialogTest, LetsAnotherFolderBeChosenWhereOneIsRefused) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.write("a file", "in the way"));
+  dialog.show();
+  press(dialog, "print");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !task.report().empty(); }, kPatience));
+  auto* note = dialog.findChild<Note*>("note");
+  EXPECT_EQ(note->findChild<QPushButton*>()->text(), "Choose &Folder…");
+  QTest::mouseClick(note->findChild<QPushButton*>(), Qt::LeftButton);
+  auto* chooser = dialog.findChild<QFileDialog*>();
+  ASSERT_NE(chooser, nullptr);
+  fs::create_directory(place.path() / "jobs");
+  chooser->setDirectory(QString::fromStdString(place.path().string()));
+  chooser->selectFile(QString::fromStdString((place.path() / "jobs").string()));
+  static_cast<QDialog*>(chooser)->accept();
+  press(dialog, "print");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return task.arrived() != nullptr; }, kPatience));
+  EXPECT_EQ(task.arrived()->folder.parent_path(), place.path() / "jobs");
 }
 
 // What a screen reader calls a control, by itself or by its label.

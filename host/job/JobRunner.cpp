@@ -32,11 +32,15 @@ void JobRunner::submit(const JobRequest& request, const OptionList& options) {
 
 void JobRunner::writeFolder(const std::filesystem::path& output, const JobRequest& request,
                             const OptionList& options) {
-  run<std::filesystem::path>(
+  using Answer = Result<std::filesystem::path>;
+  run<Answer>(
       [=](const CancelFlag& cancel, const ProgressCallback& progress) {
         return writeTicketFolder(output, request, options, cancel, progress);
       },
-      [this](const std::filesystem::path& folder) { emit folderWritten(folder); });
+      [this](const Answer& folder) {
+        if (folder) return emit folderWritten(*folder);
+        emit folderRefused(QString::fromStdString(folder.reason()));
+      });
 }
 
 }  // namespace tavrin

@@ -10,7 +10,7 @@
 
 namespace tavrin {
 
-// Prints without holding up the window: one job, answered by exactly one of the last four signals,
+// Prints without holding up the window: one job, answered by exactly one of the last five signals,
 // unless the runner is gone by then. A runner that goes away cancels its job.
 class JobRunner : public QObject {
   Q_OBJECT
@@ -30,6 +30,8 @@ class JobRunner : public QObject {
   void progressed(const tavrin::Progress& progress);
   void submitted(const tavrin::Submission& submission);
   void folderWritten(const std::filesystem::path& folder);
+  // The output folder cannot take the job; another one may.
+  void folderRefused(const QString& reason);
   void cancelled();
   void failed(const QString& reason);
 

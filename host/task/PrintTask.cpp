@@ -93,6 +93,12 @@ void PrintTask::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::pa
   beginSession(ppd);
 }
 
+void PrintTask::setOutput(const std::filesystem::path& folder) {
+  if (hasQueue() || isSending()) return;
+  output = folder;
+  say(tr("The job will be put into the folder %1.").arg(shown(output.string())).toStdString());
+}
+
 void PrintTask::chooseFirstPrinter() {
   if (printers().entries().empty())
     return noPrinters(tr("No printer is set up on this computer. Set one up, then look again."));
@@ -105,7 +111,7 @@ void PrintTask::chooseFirstPrinter() {
 
 void PrintTask::noPrinters(const QString& reason) {
   enter(Stage::noPrinters);
-  tell({reason.toStdString(), true, true});
+  tell({reason.toStdString(), true, WayOut::lookAgain});
 }
 
 void PrintTask::choosePrinter(std::size_t place) {
@@ -214,7 +220,9 @@ void PrintTask::connectRunner() {
   connect(&runner, &JobRunner::folderWritten, this,
           [this](const std::filesystem::path& folder) { finish(reportOn(folder)); });
   connect(&runner, &JobRunner::cancelled, this, &PrintTask::giveBack);
-  connect(&runner, &JobRunner::failed, this, &PrintTask::fail);
+  connect(&runner, &JobRunner::folderRefused, this,
+          [this](const QString& reason) { fail(reason, WayOut::chooseFolder); });
+  connect(&runner, &JobRunner::failed, this, [this](const QString& reason) { fail(reason); });
 }
 
 void PrintTask::print() {
@@ -271,11 +279,11 @@ void PrintTask::giveBack() {
   tell({tr("Printing was cancelled. The settings are as they were.").toStdString()});
 }
 
-void PrintTask::fail(const QString& reason) {
+void PrintTask::fail(const QString& reason, WayOut wayOut) {
   end = Outcome::failed;
   reportText = reason.toStdString();
   enter(Stage::failed);
-  warn(reportText);
+  tell({reportText, true, wayOut});
 }
 
 }  // namespace tavrin

@@ -40,11 +40,17 @@ class PrintTask : public QObject {
     printed,
     failed,
   };
+  // What the person can do about what a notice says.
+  enum class WayOut {
+    none,
+    lookAgain,     // for printers: usePrintServer
+    chooseFolder,  // for the jobs of a printer without a queue: setOutput
+  };
   // A sentence for the person; empty when there is nothing to say.
   struct Notice {
     std::string text;
     bool isWarning = false;
-    bool canLookAgain = false;  // looking for printers again may put it right
+    WayOut wayOut = WayOut::none;
   };
 
   // The request holds the first choices of a person who can change them.
@@ -57,6 +63,8 @@ class PrintTask : public QObject {
   void usePrintServer();
   // Prints on this one printer, which has no queue: jobs become folders in the output folder.
   void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);
+  // Another output folder for the printer without a queue; print() tries it.
+  void setOutput(const std::filesystem::path& folder);
   // The person's choice, by its place in the list of printers. The settings of the printer that is
   // left are kept, and come back with it. Does nothing while a job is sent and once it is done.
   void choosePrinter(std::size_t place);
@@ -144,7 +152,7 @@ class PrintTask : public QObject {
   JobRequest finishedRequest(const std::string& ranges) const;
   void finish(const JobReport& job);
   void giveBack();
-  void fail(const QString& reason);
+  void fail(const QString& reason, WayOut wayOut = WayOut::none);
 
   JobRequest asked;
   std::filesystem::path output;  // empty while jobs go to queues

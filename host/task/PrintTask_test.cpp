@@ -104,6 +104,30 @@ TEST_F(PrintTaskTest, CanTryAgainAfterAFailure) {
   EXPECT_EQ(task.outcome(), PrintTask::Outcome::printed);
 }
 
+TEST_F(PrintTaskTest, TriesAnotherFolderWhereOneIsRefused) {
+  PrintTask task(request());
+  task.usePrinterWithoutQueue(printer(), place.write("a file", "in the way"));
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::failed));
+  EXPECT_EQ(task.notice().wayOut, PrintTask::WayOut::chooseFolder);
+  task.setOutput(place.path() / "jobs");
+  EXPECT_EQ(task.notice().text,
+            "The job will be put into the folder " + (place.path() / "jobs").string() + ".");
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done));
+  EXPECT_EQ(task.arrived()->folder.parent_path(), place.path() / "jobs");
+}
+
+TEST_F(PrintTaskTest, OffersNoOtherFolderWhereTheDocumentIsGone) {
+  JobRequest gone = request();
+  gone.document = place.path() / "gone.pdf";
+  PrintTask task(gone);
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::failed));
+  EXPECT_EQ(task.notice().wayOut, PrintTask::WayOut::none);
+}
+
 TEST_F(PrintTaskTest, TakesAJobBack) {
   PrintTask task(endlessRequest());
   follow(task);
@@ -322,7 +346,7 @@ TEST_F(PrintTaskTest, CanLookAgainWhereNoPrinterWasFound) {
   task.usePrintServer();
   EXPECT_EQ(task.stage(), Stage::looking);
   ASSERT_TRUE(reaches(task, Stage::noPrinters));
-  EXPECT_TRUE(task.notice().canLookAgain);
+  EXPECT_EQ(task.notice().wayOut, PrintTask::WayOut::lookAgain);
   task.leave();
   EXPECT_EQ(task.report(), task.notice().text) << "why nothing was printed";
   task.usePrintServer();

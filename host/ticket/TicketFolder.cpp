@@ -41,17 +41,23 @@ std::string nameInFolder(const fs::path& document) {
   return name == kTicketName ? "document-" + name : name;
 }
 
-Cancellable<Done> copyDocument(Document& document, const fs::path& path, const fs::path& output,
-                               const CancelFlag& cancel, const ProgressCallback& progress) {
+// A copy that cannot be written is an answer, as a folder that refuses the job is.
+Cancellable<Result<Done>> copyDocument(Document& document, const fs::path& path,
+                                       const fs::path& output, const CancelFlag& cancel,
+                                       const ProgressCallback& progress) {
+  using Answer = Result<Done>;
   DurableFile copy(path);
-  if (!copy) return cannotWrite(output);
+  if (!copy) return Answer(cannotWrite(output));
+  Answer written = Done{};
   const auto write = [&](std::span<const char> bytes) -> Cancellable<Done> {
-    if (!copy.write(bytes)) return cannotWrite(output);
-    return Done{};
+    if (copy.write(bytes)) return Done{};
+    written = cannotWrite(output);
+    return Cancelled{};
   };
-  if (auto copied = document.readAll(write, cancel, progress); !copied) return copied;
-  if (!copy.finish()) return cannotWrite(output);
-  return Done{};
+  const auto read = document.readAll(write, cancel, progress);
+  if (!read && written) return read.why();
+  if (written && !copy.finish()) return Answer(cannotWrite(output));
+  return written;
 }
 
 bool writeTicket(const fs::path& folder, const std::string& text) {
@@ -75,26 +81,26 @@ Result<fs::path> publish(HiddenFolder& folder, const fs::path& output, const std
 
 }  // namespace
 
-Cancellable<fs::path> writeTicketFolder(const fs::path& output, const JobRequest& request,
-                                        const OptionList& options, const CancelFlag& cancel,
-                                        const ProgressCallback& progress) {
+Cancellable<Result<fs::path>> writeTicketFolder(const fs::path& output, const JobRequest& request,
+                                                const OptionList& options, const CancelFlag& cancel,
+                                                const ProgressCallback& progress) {
+  using Answer = Result<fs::path>;
   auto document = Document::open(request.document, cancel);
   if (!document) return document.why();
   std::error_code problem;
   if (fs::create_directories(output, problem); problem) {
     errno = problem.value();
-    return cannotWrite(output);
+    return Answer(cannotWrite(output));
   }
   HiddenFolder folder(output);
-  if (!folder) return cannotWrite(output);
+  if (!folder) return Answer(cannotWrite(output));
   const std::string name = nameInFolder(request.document);
   const auto copied = copyDocument(*document, folder.path() / name, output, cancel, progress);
   if (!copied) return copied.why();
+  if (!*copied) return Answer(Failure{copied->reason()});
   if (!writeTicket(folder.path(), ticketText(request, name, document->format(), options)))
-    return cannotWrite(output);
-  auto published = publish(folder, output, folderName(jobTitle(request)));
-  if (!published) return Failure{published.reason()};
-  return std::move(*published);
+    return Answer(cannotWrite(output));
+  return publish(folder, output, folderName(jobTitle(request)));
 }
 
 }  // namespace tavrin

@@ -1,5 +1,9 @@
 #include "host/ticket/TicketFolder.h"
 
+#include <csignal>
+#include <cstdlib>
+#include <sys/resource.h>
+
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -17,6 +21,15 @@ class TicketFolderTest : public testing::Test {
         std::distance(fs::directory_iterator(output), fs::directory_iterator()));
   }
 
+  // The folder of the job, which must be written.
+  fs::path written(const fs::path& where, const OptionList& with) const {
+    const auto folder = writeTicketFolder(where, request, with);
+    EXPECT_TRUE(folder) << folder.reason();
+    EXPECT_TRUE(*folder) << folder->reason();
+    return **folder;
+  }
+  fs::path written() const { return written(output, options); }
+
   test::TemporaryFolder place;
   fs::path output = [this] {
     fs::create_directory(place.path() / "out");
@@ -27,11 +40,10 @@ class TicketFolderTest : public testing::Test {
 };
 
 TEST_F(TicketFolderTest, HoldsTheDocumentAndItsTicket) {
-  const auto folder = writeTicketFolder(output, request, options);
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(*folder, output / "Holiday");
-  EXPECT_EQ(test::textOf(*folder / "card.pdf"), "%PDF-1.4 card");
-  EXPECT_EQ(test::textOf(*folder / "ticket.json"), R"({
+  const fs::path folder = written();
+  EXPECT_EQ(folder, output / "Holiday");
+  EXPECT_EQ(test::textOf(folder / "card.pdf"), "%PDF-1.4 card");
+  EXPECT_EQ(test::textOf(folder / "ticket.json"), R"({
   "title": "Holiday",
   "document": "card.pdf",
   "format": "application/pdf",
@@ -50,40 +62,35 @@ TEST_F(TicketFolderTest, HoldsTheDocumentAndItsTicket) {
 TEST_F(TicketFolderTest, OverwritesNothing) {
   fs::create_directory(output / "Holiday");  // empty, and yet somebody's
   place.write("out/Holiday-2", "a file");
-  EXPECT_EQ(*writeTicketFolder(output, request, options), output / "Holiday-3");
-  EXPECT_EQ(*writeTicketFolder(output, request, options), output / "Holiday-4");
+  EXPECT_EQ(written(), output / "Holiday-3");
+  EXPECT_EQ(written(), output / "Holiday-4");
   EXPECT_TRUE(fs::is_empty(output / "Holiday"));
   EXPECT_EQ(test::textOf(output / "Holiday-2"), "a file");
 }
 
 TEST_F(TicketFolderTest, StaysInTheOutputFolder) {
   request.title = "../../etc/passwd";
-  const auto folder = writeTicketFolder(output, request, options);
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(folder->parent_path(), output);
+  const fs::path folder = written();
+  EXPECT_EQ(folder.parent_path(), output);
   request.title = "/";
-  EXPECT_EQ(writeTicketFolder(output, request, options)->parent_path(), output);
+  EXPECT_EQ(written().parent_path(), output);
 }
 
 TEST_F(TicketFolderTest, CutsALongTitleBetweenCharacters) {
   request.title = "x";
   for (int i = 0; i < 100; ++i) request.title += "ü";
-  const auto folder = writeTicketFolder(output, request, options);
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(folder->filename().string(), request.title.substr(0, 99));
+  const fs::path folder = written();
+  EXPECT_EQ(folder.filename().string(), request.title.substr(0, 99));
 }
 
 TEST_F(TicketFolderTest, MakesTheOutputFolder) {
-  const auto folder = writeTicketFolder(output / "new" / "jobs", request, options);
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(*folder, output / "new" / "jobs" / "Holiday");
+  EXPECT_EQ(written(output / "new" / "jobs", options), output / "new" / "jobs" / "Holiday");
 }
 
 TEST_F(TicketFolderTest, TakesADocumentThatIsNamedLikeTheTicket) {
   request.document = place.write("ticket.json", "%PDF-1.4 odd");
-  const auto folder = writeTicketFolder(output, request, options);
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(test::textOf(*folder / "document-ticket.json"), "%PDF-1.4 odd");
+  const fs::path folder = written();
+  EXPECT_EQ(test::textOf(folder / "document-ticket.json"), "%PDF-1.4 odd");
 }
 
 // What the ticket says; it is JSON whatever the names are made of.
@@ -97,26 +104,23 @@ TEST_F(TicketFolderTest, NamesTheDocumentAsItIsInTheFolder) {
        {std::pair("caf\xE9.pdf", "caf\uFFFD.pdf"), std::pair("two\nlines.pdf", "two lines.pdf"),
         std::pair("\x1B[31mred.pdf", " [31mred.pdf")}) {
     request.document = place.write(name, "%PDF-1.4 card");
-    const auto folder = writeTicketFolder(output, request, {});
-    ASSERT_TRUE(folder) << folder.reason();
-    EXPECT_EQ(*folder, output / nameThere);
-    EXPECT_EQ(test::textOf(*folder / nameThere), "%PDF-1.4 card");
-    EXPECT_EQ(ticketIn(*folder)["title"], nameThere);
-    EXPECT_EQ(ticketIn(*folder)["document"], nameThere);
-    EXPECT_EQ(ticketIn(*folder)["command"], "lp -n 2 -- '" + std::string(nameThere) + "'");
+    const fs::path folder = written(output, {});
+    EXPECT_EQ(folder, output / nameThere);
+    EXPECT_EQ(test::textOf(folder / nameThere), "%PDF-1.4 card");
+    EXPECT_EQ(ticketIn(folder)["title"], nameThere);
+    EXPECT_EQ(ticketIn(folder)["document"], nameThere);
+    EXPECT_EQ(ticketIn(folder)["command"], "lp -n 2 -- '" + std::string(nameThere) + "'");
   }
 }
 
 TEST_F(TicketFolderTest, GivesACommandThatThePrintSystemTakes) {
   request.title = std::string(300, 'x') + "\n\xE9";
-  auto folder = writeTicketFolder(output, request, {});
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(ticketIn(*folder)["command"],
+  fs::path folder = written(output, {});
+  EXPECT_EQ(ticketIn(folder)["command"],
             "lp -n 2 -t '" + std::string(255, 'x') + "' -- 'card.pdf'");
   request.document = place.write("-", "%PDF-1.4 card");
-  folder = writeTicketFolder(output, request, {});
-  ASSERT_TRUE(folder) << folder.reason();
-  EXPECT_EQ(ticketIn(*folder)["document"], "document") << "lp takes - for standard input";
+  folder = written(output, {});
+  EXPECT_EQ(ticketIn(folder)["document"], "document") << "lp takes - for standard input";
 }
 
 TEST_F(TicketFolderTest, LeavesNothingBehindWhenCancelled) {
@@ -153,18 +157,32 @@ TEST_F(TicketFolderTest, LeavesNothingBehindWhenTheDocumentShrinks) {
 TEST_F(TicketFolderTest, NamesAnOutputFolderThatCannotBe) {
   const auto file = place.write("out/file", "in the way");
   const auto folder = writeTicketFolder(file, request, options);
-  ASSERT_FALSE(folder);
-  EXPECT_EQ(folder.reason(), "The job cannot be written to the folder \"" + file.string() +
-                                 "\": Not a directory. Choose another folder.");
+  ASSERT_TRUE(folder) << "the document is well: " << folder.reason();
+  ASSERT_FALSE(*folder);
+  EXPECT_EQ(folder->reason(), "The job cannot be written to the folder \"" + file.string() +
+                                  "\": Not a directory. Choose another folder.");
+}
+
+TEST_F(TicketFolderTest, NamesAnOutputFolderThatBecomesFull) {
+  request.document = place.write("card.pdf", std::string(100000, 'x'));
+  const auto writeWithLittleRoom = [this] {
+    constexpr rlimit kLittle{50000, 50000};
+    std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &kLittle);
+    const auto folder = writeTicketFolder(output, request, options);
+    std::_Exit(folder && folder->reason().find("File too large") != std::string::npos ? 0 : 1);
+  };
+  EXPECT_EXIT(writeWithLittleRoom(), testing::ExitedWithCode(0), "");
+  EXPECT_EQ(entries(), 0u);
 }
 
 TEST_F(TicketFolderTest, TellsHowFarItIs) {
   std::uint64_t done = 0;
-  ASSERT_TRUE(
-      writeTicketFolder(output, request, options, neverCancelled(), [&](const Progress& progress) {
-        done = progress.done;
-        EXPECT_EQ(progress.total, 13u);
-      }));
+  const auto tell = [&](const Progress& progress) {
+    done = progress.done;
+    EXPECT_EQ(progress.total, 13u);
+  };
+  ASSERT_TRUE(writeTicketFolder(output, request, options, neverCancelled(), tell));
   EXPECT_EQ(done, 13u);
 }
 
