@@ -19,15 +19,22 @@ struct Entry {
 };
 
 constexpr Entry kEntries[] = {
+    {QT_TRANSLATE_NOOP("HelpWindow", "Preview"),
+     QT_TRANSLATE_NOOP("HelpWindow",
+                       "The sheets as they will come out. A narrow window leaves it out.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Printer"),
      QT_TRANSLATE_NOOP("HelpWindow",
-                       "Which printer prints, and beside its name what it is doing. Where a "
+                       "Which printer prints, what it is doing and where it stands. Where a "
                        "printer has saved sets of options, each set is an entry of its own.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Copies, Pages, Paper size"),
      QT_TRANSLATE_NOOP("HelpWindow",
                        "How often, which pages and on which paper. Write pages and ranges with "
                        "commas between them: 1-3,5 prints pages 1, 2, 3 and 5; 7- prints from "
                        "page 7 to the end.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "The tabs"),
+     QT_TRANSLATE_NOOP("HelpWindow",
+                       "All other settings, sorted by what they are about. Control and Tab turn to "
+                       "the next tab.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Layout"),
      QT_TRANSLATE_NOOP("HelpWindow",
                        "How many pages of the document share one sheet, and whether both sides of "
@@ -62,7 +69,9 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent) {
   text->setMinimumSize(fontMetrics().averageCharWidth() * kWidthInLetters / 2,
                        fontMetrics().height() * kHeightInLines / 3);
   column->addWidget(text);
-  auto* buttons = makeChild<QDialogButtonBox>(QDialogButtonBox::Close, this);
+  auto* buttons = makeChild<QDialogButtonBox>(this);
+  // The box's own Close would be the only button with an icon.
+  buttons->addButton(tr("&Close"), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addWidget(buttons);
   resize(fontMetrics().averageCharWidth() * kWidthInLetters,
