@@ -10,6 +10,7 @@
 
 #include <QApplication>
 
+#include "host/program/Identity.h"
 #include "host/program/ProblemWindow.h"
 #include "platform/files/FileDescriptor.h"
 
@@ -56,6 +57,7 @@ void leaveWithoutScreen(QtMsgType type, const QMessageLogContext&, const QString
   std::array<char*, 2> arguments{name.data(), nullptr};
   {
     const QApplication application(count, arguments.data());
+    identifyProgram();
     ProblemWindow(sentence).exec();
   }
   std::_Exit(EXIT_SUCCESS);

@@ -13,6 +13,7 @@
 #include "host/printer/PPDLoader.h"
 #include "host/program/CommandLine.h"
 #include "host/program/EndSignals.h"
+#include "host/program/Identity.h"
 #include "host/program/Launcher.h"
 #include "host/program/Samples.h"
 #include "host/task/PrintTask.h"
@@ -126,7 +127,7 @@ int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) 
   qInstallMessageHandler(complainAndLeave);
   QApplication application(argc, argv);
   qInstallMessageHandler(showMessage);
-  QApplication::setApplicationName("tavrin-print");
+  identifyProgram();
   QtToolkit toolkit;
   Toolkit::install(&toolkit);
   DesktopHelpViewer helpViewer;
