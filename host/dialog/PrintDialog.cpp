@@ -7,8 +7,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QScreen>
-#include <QFile>
-#include <QFileDialog>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
@@ -22,9 +20,9 @@
 #include "host/dialog/ResultPage.h"
 #include "host/dialog/SessionPanes.h"
 #include "host/dialog/SettingsColumn.h"
+#include "host/dialog/TaskNote.h"
 #include "host/dialog/TaskPreview.h"
 #include "host/general/GeneralArea.h"
-#include "host/dialog/ShownSentence.h"
 #include "host/panes/LayoutPane.h"
 #include "host/panes/Widgets.h"
 #include "host/sheets/PreviewArea.h"
@@ -47,19 +45,6 @@ QString titleFor(const JobRequest& request) {
                  : PrintDialog::tr("Print");
 }
 
-// On a button; empty where there is none.
-QString nameOf(PrintTask::WayOut wayOut) {
-  switch (wayOut) {
-    case PrintTask::WayOut::lookAgain:
-      return PrintDialog::tr("&Look Again");
-    case PrintTask::WayOut::chooseFolder:
-      return PrintDialog::tr("Choose &Folder…");
-    case PrintTask::WayOut::none:
-      break;
-  }
-  return {};
-}
-
 }  // namespace
 
 PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
@@ -73,7 +58,7 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
       general(makeChild<GeneralArea>(task, content)),
       switcher(makeChild<PaneSwitcher>(content)),
       conflictNote(makeChild<Note>(this)),
-      note(makeChild<Note>(this)),
+      note(makeChild<TaskNote>(task, this)),
       buttons(makeChild<JobButtons>(task, this)),
       previewSwitch(makeChild<PreviewSwitch>(*preview, *pages, this)),
       taskPreview(std::make_unique<TaskPreview>(task, *preview)),
@@ -84,7 +69,6 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
   connectParts();
   connectTask();
   if (task.session()) showSession();
-  showNotice();
   showStage();
 }
 
@@ -118,14 +102,11 @@ void PrintDialog::connectParts() {
   connect(buttons, &JobButtons::closed, this, &PrintDialog::accept);
   connect(buttons, &JobButtons::printWanted, this, &PrintDialog::print);
   connect(previewSwitch, &PreviewSwitch::wantedChanged, this, &PrintDialog::makeRoomForPreview);
-  connect(note, &Note::wayOutTaken, &task, &PrintTask::usePrintServer);
-  connect(note, &Note::wayOutTaken, this, &PrintDialog::takeWayOut);
   auto* helpKey = makeChild<QShortcut>(QKeySequence(QKeySequence::HelpContents), this);
   connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
 }
 
 void PrintDialog::connectTask() {
-  connect(&task, &PrintTask::noticeChanged, this, &PrintDialog::showNotice);
   connect(&task, &PrintTask::sessionBegun, this, &PrintDialog::showSession);
   connect(&task, &PrintTask::sessionEnding, this, &PrintDialog::hideSession);
   connect(&task, &PrintTask::sessionRestarted, switcher, &PaneSwitcher::showAgain);
@@ -221,32 +202,6 @@ void PrintDialog::showResult() {
   pages->addWidget(result);
   pages->setCurrentWidget(result);
   orderTabs({result, preview, note, buttons});
-}
-
-void PrintDialog::showNotice() {
-  const PrintTask::Notice& notice = task.notice();
-  note->say(shownSentence(notice.text),
-            notice.isWarning ? Note::Kind::warning : Note::Kind::information,
-            notice.canLookAgain ? tr("Look A&gain") : QString());
-            nameOf(notice.wayOut));
-}
-
-void PrintDialog::takeWayOut() {
-  const PrintTask::WayOut wayOut = task.notice().wayOut;
-  if (wayOut == PrintTask::WayOut::lookAgain) task.usePrintServer();
-  if (wayOut == PrintTask::WayOut::chooseFolder) chooseFolder();
-}
-
-// In a window that does not hold up the dialog, which may have to end meanwhile.
-void PrintDialog::chooseFolder() {
-  auto* chooser = makeChild<QFileDialog>(this, tr("Choose a Folder for the Job"));
-  chooser->setAttribute(Qt::WA_DeleteOnClose);
-  chooser->setFileMode(QFileDialog::Directory);
-  chooser->setOption(QFileDialog::ShowDirsOnly);
-  connect(chooser, &QFileDialog::fileSelected, &task, [this](const QString& folder) {
-    task.setOutput(QFile::encodeName(folder).toStdString());
-  });
-  chooser->open();
 }
 
 void PrintDialog::showHelp() {

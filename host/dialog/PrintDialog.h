@@ -22,6 +22,7 @@ class PreviewArea;
 class PreviewSwitch;
 class SessionPanes;
 class SettingsColumn;
+class TaskNote;
 class TaskPreview;
 
 // The Print dialog: shows a task, and passes on to it what the person does. It can be shown at
@@ -62,9 +63,6 @@ class PrintDialog : public QDialog {
   void hideSession();
   void showStage();
   void showResult();
-  void showNotice();
-  void takeWayOut();
-  void chooseFolder();
   void showConflicts();
   void showHelp();
   void print();
@@ -80,7 +78,7 @@ class PrintDialog : public QDialog {
   GeneralArea* general;
   PaneSwitcher* switcher;
   Note* conflictNote;
-  Note* note;
+  TaskNote* note;
   JobButtons* buttons;
   PreviewSwitch* previewSwitch;
   std::unique_ptr<TaskPreview> taskPreview;
