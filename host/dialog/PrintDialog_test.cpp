@@ -176,6 +176,23 @@ TEST_F(PrintDialogTest, AllFormsHaveTheirColonsInOneLine) {
   }
 }
 
+TEST_F(PrintDialogTest, ThePanelStandsInTheGridOfTheDialog) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  QCoreApplication::processEvents();
+  const auto placeOf = [&](const char* name) {
+    const auto* control = dialog.findChild<QWidget*>(name);
+    return QRect(control->mapTo(&dialog, QPoint()), control->size());
+  };
+  const QRect printer = placeOf("printer");
+  for (const char* name : {"ibPaperType", "ibPrintQuality"}) {
+    EXPECT_NEAR(placeOf(name).left(), printer.left(), 1) << name;
+    EXPECT_NEAR(placeOf(name).right(), printer.right(), 1) << name;
+  }
+}
+
 TEST_F(PrintDialogTest, AllRowsHaveOneRhythm) {
   PrintTask task(job());
   PrintDialog dialog(task);

@@ -22,6 +22,11 @@ class Pane : public QWidget {
   const QString& name() const { return title; }
   virtual Lines summary() const = 0;
 
+  // A pane whose labels are in no form lines them up with those of the forms: what they ask for,
+  // and the least width to give them, in pixels.
+  virtual int labelWidth() const { return 0; }
+  virtual void setLabelWidth(int) {}
+
   // The pane is about to be shown.
   virtual void willShow() {}
   // Whether the person may leave the pane now.

@@ -65,6 +65,12 @@ Pane::Lines PanelPane::summary() const {
   return lines;
 }
 
+int PanelPane::labelWidth() const { return widget ? QtToolkit::labelColumnWidth(*widget) : 0; }
+
+void PanelPane::setLabelWidth(int pixels) {
+  if (widget) QtToolkit::setLabelColumnWidth(*widget, pixels);
+}
+
 void PanelPane::willShow() {
   if (layout()->isEmpty()) addView();
   panel.willShow();

@@ -20,6 +20,8 @@ class PanelPane : public Pane {
 
   // In the order of the panel's controls, once they have been shown.
   Lines summary() const override;
+  int labelWidth() const override;
+  void setLabelWidth(int pixels) override;
   void willShow() override;
   // Asks the panel, and takes the panels' choices, so that the rest of the dialog shows them.
   bool shouldHide() override;

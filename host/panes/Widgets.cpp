@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QStyle>
 
+#include "host/panes/Pane.h"
+
 namespace tavrin {
 
 namespace {
@@ -27,12 +29,10 @@ Labels labelsOf(const QWidget& widget) {
   return labels;
 }
 
-int columnWidth(const Labels& labels, int most) {
-  int width = 0;
-  for (const QWidget* label : labels)
-    if (const int wanted = label->sizeHint().width(); wanted <= most)
-      width = std::max(width, wanted);
-  return width;
+// As wide as the widest of those that are not longer than most.
+int columnWidth(std::vector<int> wanted, int most) {
+  std::erase_if(wanted, [most](int width) { return width > most; });
+  return wanted.empty() ? 0 : std::ranges::max(wanted);
 }
 
 // All rows are as high as those with a pop-up.
@@ -102,9 +102,14 @@ QFormLayout* makeForm(QWidget* parent) {
 
 void lineUpForms(const QWidget& widget) {
   const Labels labels = labelsOf(widget);
+  const auto panes = widget.findChildren<Pane*>();
+  std::vector<int> wanted;
+  for (const QWidget* label : labels) wanted.push_back(label->sizeHint().width());
+  for (const Pane* pane : panes) wanted.push_back(pane->labelWidth());
   const int most = widget.fontMetrics().averageCharWidth() * kMostLabelLetters;
-  const QSize room(columnWidth(labels, most), rowHeight(widget));
-  for (QWidget* label : labels) label->setMinimumSize(room);
+  const int width = columnWidth(wanted, most);
+  for (QWidget* label : labels) label->setMinimumSize(width, rowHeight(widget));
+  for (Pane* pane : panes) pane->setLabelWidth(width);
 }
 
 void letPopUpShrink(QComboBox& popUp) {

@@ -29,9 +29,9 @@ QLabel* addRow(QFormLayout& form, const QString& label, QWidget& control);
 // window is too narrow for both.
 QFormLayout* makeForm(QWidget* parent);
 
-// Puts all forms in the widget into one grid: their colons stand in one line, so that the controls
-// above and below each other share an edge, and their rows have one rhythm. A label longer than
-// most, which a PPD may have, stays by itself.
+// Puts all forms and panels in the widget into one grid: their colons stand in one line, so that
+// the controls above and below each other share an edge, and their rows have one rhythm. A label
+// longer than most, which a PPD may have, stays by itself.
 void lineUpForms(const QWidget& widget);
 
 // Lets a pop-up be narrower than its longest item, and its list be as wide as that item.
