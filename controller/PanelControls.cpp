@@ -1,6 +1,7 @@
 #include "controller/PanelControls.h"
 
 #include "controller/ControlTexts.h"
+#include "controller/PanelSummary.h"
 #include "ppd/PDETools.h"
 #include "ppd/PPDKeywords.h"
 #include "ppd/PlugInBundle.h"
@@ -42,6 +43,7 @@ void PanelControls::offerOutlets(InterfaceBindings& bindings) {
   bindings.outlet("ibPaperSourceLabel", ibPaperSourceLabel);
   bindings.outlet("ibDisclosure", ibDisclosure);
   bindings.outlet("ibDisclosureLabel", ibDisclosureLabel);
+  bindings.outlet("advancedSummaryLabel", advancedSummaryLabel);
   bindings.outlet("ibMIrror", ibMIrror);
   sharpening.offerOutlets(bindings);
   bindings.outlet("ibDryTimePopUp", ibDryTimePopUp);
@@ -56,6 +58,7 @@ void PanelControls::layOut() {
   ibPaperSource->setHidden(true);
   moveToHeight(*ibDisclosure, freedRow);
   moveToHeight(*ibDisclosureLabel, freedRow);
+  moveToHeight(*advancedSummaryLabel, freedRow);
 }
 
 // --- First filling ---
@@ -111,6 +114,7 @@ void PanelControls::follow() {
   followMirror();
   sharpening.follow(model.imageSharpeningTicket());
   followDryTime();
+  sumUpAdvancedOptions();
 }
 
 void PanelControls::followMirror() {
@@ -121,6 +125,12 @@ void PanelControls::followMirror() {
 }
 
 void PanelControls::showMirror() { setOn(*ibMIrror, model.mirrorTicket() == kNSTrue); }
+
+void PanelControls::sumUpAdvancedOptions() {
+  const bool areClosed = ibDisclosure->intValue() == 0;
+  const std::string unusual = areClosed ? advancedSummary(model) : "";
+  advancedSummaryLabel->setStringValue(unusual.empty() ? "" : "— " + unusual);
+}
 
 void PanelControls::followDryTime() {
   if (model.dryTimePopUpOption() != nullptr) {

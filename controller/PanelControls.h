@@ -31,6 +31,8 @@ class PanelControls {
   void follow();
 
   void showMirror();
+  // Says beside their label which of the advanced options are not as usual, while nobody sees them.
+  void sumUpAdvancedOptions();
   SharpeningControls& imageSharpening() { return sharpening; }
   Button& disclosure() { return *ibDisclosure; }
 
@@ -55,6 +57,7 @@ class PanelControls {
   Outlet<Label> ibPaperSourceLabel;
   Outlet<Button> ibDisclosure;
   Outlet<Label> ibDisclosureLabel;
+  Outlet<Label> advancedSummaryLabel;
   Outlet<Button> ibMIrror;
   SharpeningControls sharpening;
   Outlet<PopUpButton> ibDryTimePopUp;

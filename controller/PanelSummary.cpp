@@ -1,6 +1,7 @@
 #include "controller/PanelSummary.h"
 
 #include "ppd/PDETools.h"
+#include "ppd/PPDKeywords.h"
 #include "ppd/PlugInBundle.h"
 #include "ppd/TextEncoding.h"
 
@@ -10,6 +11,8 @@ namespace {
 constexpr Setting kOrder[] = {
     Setting::printQuality, Setting::blackAndWhite,   Setting::paperType, Setting::paperSource,
     Setting::mirror,       Setting::imageSharpening, Setting::dryTime};
+
+constexpr Setting kAdvanced[] = {Setting::mirror, Setting::imageSharpening, Setting::dryTime};
 
 // Black and white is called as on the panel; the PPD's word is the colour model's.
 OptString label(Setting setting, const ppd_option_t& option) {
@@ -25,6 +28,20 @@ OptString value(Setting setting, const PDEModel& model) {
              : model.choice(setting).value;
 }
 
+// Dry time that is off has a keyword of its own for each kind of option.
+bool isUsual(Setting setting, const PDEModel& model) {
+  const OptString& ticket = model.choice(setting).ticket;
+  return !ticket || ticket == rowOf(setting).defaultChoice ||
+         (setting == Setting::dryTime && ticket == kNSDupDryTimeCheckboxDefault);
+}
+
+// What is on is called by its name alone.
+std::string line(Setting setting, const ppd_option_t& option, const PDEModel& model) {
+  const std::string name = label(setting, option).value_or("");
+  if (model.choice(setting).ticket == kNSTrue) return name;
+  return name + ": " + value(setting, model).value_or("");
+}
+
 }  // namespace
 
 std::map<std::string, OptString> panelSummary(const PDEModel& model) {
@@ -33,6 +50,16 @@ std::map<std::string, OptString> panelSummary(const PDEModel& model) {
     const ppd_option_t* option = model.option(setting);
     if (option == nullptr) continue;
     if (const OptString name = label(setting, *option)) lines[*name] = value(setting, model);
+  }
+  return lines;
+}
+
+std::string advancedSummary(const PDEModel& model) {
+  std::string lines;
+  for (const Setting setting : kAdvanced) {
+    const ppd_option_t* option = model.option(setting);
+    if (option == nullptr || isUsual(setting, model)) continue;
+    lines += (lines.empty() ? "" : ", ") + line(setting, *option, model);
   }
   return lines;
 }

@@ -48,5 +48,45 @@ TEST_F(Summary, LetsALaterLineReplaceOneOfTheSameLabel) {
   EXPECT_EQ(controller->infoForSummaryPanel(), (Lines{{"Same", "second"}}));
 }
 
+// The line beside the closed advanced options.
+class AdvancedSummary : public ControllerTest {
+ protected:
+  std::string line() { return panel().label("advancedSummaryLabel").text; }
+  void choosePaper(int index) { panel().choose("ibPaperType", index, "paperTypeAction:"); }
+};
+
+TEST_F(AdvancedSummary, IsEmptyWhenAllIsAsUsual) {
+  show(fullPrinter());
+  EXPECT_EQ(line(), "");
+  show({dryTimeCheckBoxOption()});
+  EXPECT_EQ(line(), "");
+}
+
+TEST_F(AdvancedSummary, TellsOfTheMirrorThatIronOnPaperSwitchesOn) {
+  show(fullPrinter());
+  choosePaper(2);
+  EXPECT_EQ(line(), "— Mirror Image");
+  choosePaper(0);
+  EXPECT_EQ(line(), "");
+}
+
+TEST_F(AdvancedSummary, IsThereOnlyWhileTheOptionsAreClosed) {
+  show(fullPrinter());
+  panel().click("ibDisclosure", "disclosureAction:");
+  panel().click("ibMIrror", "mirrorAction:");
+  panel().pick("ibManualImageSharpening", "manualImageSharpeningAction:");
+  panel().slide("ibManualImageSharpeningSlider", 7, "imageSharpeningSliderAction:");
+  EXPECT_EQ(line(), "");
+  panel().click("ibDisclosure", "disclosureAction:");
+  EXPECT_EQ(line(), "— Mirror Image, Image Sharpening: 7");
+}
+
+TEST_F(AdvancedSummary, FollowsTheMarkedChoices) {
+  show({dryTimeCheckBoxOption()});
+  mark("DupDryTime", "True");
+  controller->updatePDEModelwithMarkedChoices();
+  EXPECT_EQ(line(), "— Extra Dry Time");
+}
+
 }  // namespace
 }  // namespace tavrin

@@ -87,6 +87,7 @@ TEST_F(MainView, WithoutSecondTrayFreesThePaperSourceRow) {
   EXPECT_TRUE(panel().label("ibPaperSourceLabel").hidden);
   EXPECT_EQ(panel().button("ibDisclosure").place, (Rect{10, 45, 20, 20}));
   EXPECT_EQ(panel().label("ibDisclosureLabel").place, (Rect{40, 45, 100, 20}));
+  EXPECT_EQ(panel().label("advancedSummaryLabel").place, (Rect{150, 45, 100, 20}));
   EXPECT_EQ(frameOf("ibHeaderView"), (Rect{0, 65, 400, 200}));
   EXPECT_EQ(frameOf("ibPDEView"), (Rect{0, 0, 400, 200}));
 }

@@ -132,6 +132,7 @@ void TavPDEController::choose(Setting setting, long index) {
 
 void TavPDEController::disclosureAction(Button& sender) {
   displayAdvancedOptions(sender.intValue() == 1);
+  controls.sumUpAdvancedOptions();
   NotificationCenter::defaultCenter().post(PDEControllerDisclosureButtonChangedNotification,
                                            &controls.disclosure());
 }
@@ -144,6 +145,7 @@ void TavPDEController::printQualityAction(PopUpButton& sender) {
 void TavPDEController::paperTypeAction(PopUpButton& sender) {
   choose(Setting::paperType, sender.indexOfSelectedItem());
   if (mirrorRule.paperTypeChosen()) controls.showMirror();
+  controls.sumUpAdvancedOptions();
   conflictController->processConflict();
 }
 

@@ -37,6 +37,40 @@ class ClickForwarder : public QObject {
   QLabel& label;
 };
 
+bool mayBeCut(const QLabel& label) {
+  return label.sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+}
+
+// The tool tip has to be markup at all times: Qt takes a text for markup when it looks like it.
+QString cutToFit(QLabel& label, const QString& text) {
+  const QString cut = label.fontMetrics().elidedText(text, Qt::ElideRight, label.width());
+  label.setToolTip(cut == text ? QString() : "<span>" + text.toHtmlEscaped() + "</span>");
+  label.setAccessibleName(text);
+  return cut;
+}
+
+// Only a label with a buddy takes "&" for a mnemonic.
+void showText(QLabel& label) {
+  const std::string text = label.property(kRawText).toByteArray().toStdString();
+  QString shown = label.wordWrap() ? shownLines(text) : shownLine(text);
+  if (mayBeCut(label)) shown = cutToFit(label, shown);
+  label.setText(label.buddy() ? withoutMnemonics(shown) : shown);
+}
+
+// Cuts a label's text anew when its room or its font changes.
+class Cutter : public QObject {
+ public:
+  explicit Cutter(QLabel* owner) : QObject(owner), label(*owner) {}
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) showText(label);
+    return false;
+  }
+
+ private:
+  QLabel& label;
+};
+
 QString asName(QString text) {
   text = text.trimmed();
   if (text.endsWith(u':')) text.chop(1);
@@ -48,14 +82,13 @@ QString asName(QString text) {
 QtLabel::QtLabel(QLabel& label) : QtLabelOf(label) {
   label.setTextFormat(Qt::PlainText);
   label.installEventFilter(makeChild<ClickForwarder>(&label));
+  if (mayBeCut(label)) label.installEventFilter(makeChild<Cutter>(&label));
 }
 
 void QtLabel::setStringValue(const std::string& text) {
   if (!widget) return;
   widget->setProperty(kRawText, QByteArray::fromStdString(text));
-  const QString shown = widget->wordWrap() ? shownLines(text) : shownLine(text);
-  // Only a label with a buddy takes "&" for a mnemonic.
-  widget->setText(widget->buddy() ? withoutMnemonics(shown) : shown);
+  showText(*widget);
   nameBuddy();
   layoutChanged(*widget);
 }

@@ -7,7 +7,8 @@
 namespace tavrin {
 
 // A label. The control that it names (its buddy in the interface file) takes its accessible name
-// from it; a click on a label that names a button clicks the button.
+// from it; a click on a label that names a button clicks the button. Where the interface file has
+// the label's width ignored, a text that is too long is cut, and the tool tip has all of it.
 class QtLabel : public QtLabelOf<QLabel> {
  public:
   explicit QtLabel(QLabel& label);

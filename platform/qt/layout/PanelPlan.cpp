@@ -42,6 +42,7 @@ int widthForItems(const QComboBox& box) {
 }
 
 int neededWidth(const QWidget& leaf) {
+  if (leaf.sizePolicy().horizontalPolicy() == QSizePolicy::Ignored) return leaf.minimumWidth();
   const auto* box = qobject_cast<const QComboBox*>(&leaf);
   return std::max(box ? widthForItems(*box) : leaf.sizeHint().width(), leaf.minimumWidth());
 }

@@ -191,6 +191,21 @@ TEST_F(QtToolkitTest, TextsAreShownAsTheyAre) {
   EXPECT_EQ(panel.find<QComboBox>("ibPrintQuality").accessibleName(), "A & B <b> C");
 }
 
+TEST_F(QtToolkitTest, ATextThatMayBeCutNeedsNoRoom) {
+  show();
+  const int width = panel.widget().sizeHint().width();
+  const QString text = QString("Mirror Image, ").repeated(8) + "<b>";
+  panel.advancedSummaryLabel->setStringValue(text.toStdString());
+  const auto& label = panel.find<QLabel>("advancedSummaryLabel");
+  EXPECT_EQ(panel.widget().sizeHint().width(), width);
+  EXPECT_TRUE(label.text().endsWith(u'…'));
+  EXPECT_TRUE(label.toolTip().contains(text.toHtmlEscaped()));
+  EXPECT_EQ(label.accessibleName(), text);
+  panel.widget().resize(10000, panel.widget().height());
+  EXPECT_EQ(label.text(), text);
+  EXPECT_EQ(label.toolTip(), "");
+}
+
 TEST_F(QtToolkitTest, GreyIsThePalettesDisabledText) {
   show();
   const auto& label = panel.find<QLabel>("ibNoneLabel");
