@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include "platform/qt/base/ReadablePalette.h"
 #include "platform/qt/controls/PendingChange.h"
 #include "platform/qt/controls/WheelAndReturn.h"
 #include "platform/qt/layout/LabelColumn.h"
@@ -18,7 +19,7 @@ namespace tavrin {
 
 // The toolkit on Qt Widgets. A program makes one after its QApplication, installs it, and
 // uninstalls it before it goes. While it lives, all controls of the program treat wheel and keys
-// as a panel's do: see WheelAndReturn.
+// as a panel's do, and no text is too faint: see WheelAndReturn and ReadablePalette.
 class QtToolkit : public QObject, public Toolkit {
   Q_OBJECT
 
@@ -63,6 +64,7 @@ class QtToolkit : public QObject, public Toolkit {
  private:
   ActionRuns actions{[this] { emit actionRan(); }};
   ModalRuns runs;
+  ReadablePalette readablePalette;
   WheelAndReturn wheelAndReturn;
   PendingChange pendingChange;  // made after the others: it sees every event before them
 };
