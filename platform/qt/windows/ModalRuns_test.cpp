@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -225,6 +226,25 @@ TEST_F(ModalRunsTest, AWindowComesUpInTheMiddleOfTheWindowThatItCovers) {
     shown.close();
   });
   show(window("ibMsgOneWindow"));
+}
+
+TEST_F(ModalRunsTest, AWarningSignStandsBesideTheTexts) {
+  for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    whenUp([&](QWidget& shown) {
+      shown.setLayoutDirection(direction);
+      shown.layout()->activate();
+      const auto* sign = qobject_cast<QLabel*>(part(shown, "warningSign_MsgOne"));
+      const QSize size = sign->pixmap(Qt::ReturnByValue).deviceIndependentSize().toSize();
+      EXPECT_GT(size.height(), 2 * shown.fontMetrics().height());
+      EXPECT_EQ(sign->height(), size.height());
+      const QRect text = part(shown, "scroll_MsgOne")->geometry();
+      EXPECT_TRUE(direction == Qt::LeftToRight ? sign->geometry().right() < text.left()
+                                               : sign->geometry().left() > text.right());
+      EXPECT_NEAR(sign->y(), text.top(), 1);
+      shown.close();
+    });
+    EXPECT_TRUE(show(window("ibMsgOneWindow")));
+  }
 }
 
 TEST_F(ModalRunsTest, NoTextIsClipped) {

@@ -5,12 +5,14 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyle>
 #include <QWindow>
 
 #include "platform/qt/base/ShownText.h"
@@ -76,6 +78,7 @@ void QtWindow::center() {
 
 void QtWindow::fit(const QSize& screen) {
   widget->ensurePolished();
+  showSigns();
   fitScrolledContents(screen * 3 / 4);
   widget->layout()->activate();
   widget->resize(widget->layout()->totalMinimumSize().boundedTo(screen));
@@ -98,6 +101,15 @@ void QtWindow::describe() {
   for (const QLabel* label : widget->findChildren<QLabel*>())
     if (!label->buddy() && !label->text().isEmpty()) lines << label->text();
   widget->setAccessibleDescription(lines.join(u' '));
+}
+
+// As high as three lines of text.
+void QtWindow::showSigns() {
+  const QIcon sign = widget->style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, widget);
+  const int height = 3 * widget->fontMetrics().height();
+  for (QLabel* label : widget->findChildren<QLabel*>())
+    if (label->objectName().startsWith(QStringLiteral("warningSign")))
+      label->setPixmap(sign.pixmap(QSize(height, height), widget->devicePixelRatio()));
 }
 
 void QtWindow::focusFirstChoice() {

@@ -11,7 +11,8 @@
 namespace tavrin {
 
 // A message window on a dialog. However it is closed (by the program, the window manager or the
-// Escape key), it closes once, as Window says.
+// Escape key), it closes once, as Window says. Labels of the interface file whose names begin with
+// "warningSign" show the desktop's sign for a warning.
 class QtWindow : public Window {
  public:
   explicit QtWindow(QDialog& dialog);
@@ -43,6 +44,7 @@ class QtWindow : public Window {
   QPoint placeOver(const QWidget* covered, const QRect& screen) const;
   void focusFirstChoice();
   void describe();
+  void showSigns();
 
   QPointer<QDialog> widget;
   std::unique_ptr<Events> events;
