@@ -40,6 +40,10 @@ Cancellable<Done> copy(Document& document, const fs::path& file, const CancelFla
 // The folder, which may be null, is for a copy.
 Cancellable<Found> find(const fs::path& path, const HiddenFolder* folder,
                         const CancelFlag& cancel) {
+  // What the preview takes out of a pipe that has a name would be missing in the job.
+  std::error_code none;
+  if (path != kStandardInput && fs::is_fifo(path, none))
+    return Failure{"There is no preview of a document that can be read only once."};
   auto document = Document::open(path, cancel);
   if (!document) return document.why();
   if (path != kStandardInput) return Found{fs::absolute(path), document->format()};

@@ -9,6 +9,7 @@
 
 #include "host/printer/PPDLoader.h"
 #include "tests/fakes/FakePDF.h"
+#include "tests/fixtures/EmptyInput.h"
 #include "tests/fixtures/EventLoopTest.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
@@ -177,10 +178,16 @@ TEST_F(PreviewTest, LeavesNoFiles) {
 }
 
 TEST_F(PreviewTest, WaitsForADocumentThatIsNotThereYet) {
-  document = place.path() / "pipe";
-  ASSERT_EQ(mkfifo(document.c_str(), 0600), 0);
+  const test::EmptyInput input;
+  document = kStandardInput;
   preview.show(job());
   EXPECT_TRUE(reaches(Stage::waiting));
+}
+
+TEST_F(PreviewTest, LeavesAPipeToTheJob) {
+  document = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(document.c_str(), 0600), 0);
+  EXPECT_EQ(outcome(job()), "There is no preview of a document that can be read only once.");
 }
 
 // Standard input comes once; what the preview has read, the job reads again.

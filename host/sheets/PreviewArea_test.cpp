@@ -1,9 +1,5 @@
 #include "host/sheets/PreviewArea.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <QLabel>
 #include <QScrollArea>
 #include <QSpinBox>
@@ -14,6 +10,7 @@
 #include "host/printer/PPDLoader.h"
 #include "host/sheets/SheetView.h"
 #include "tests/fakes/FakePDF.h"
+#include "tests/fixtures/EmptyInput.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
@@ -124,8 +121,8 @@ TEST_F(PreviewAreaTest, SaysWhatCannotBeDrawn) {
 }
 
 TEST_F(PreviewAreaTest, WaitsForADocumentWithoutHoldingAnythingUp) {
-  document = place.path() / "pipe";
-  ASSERT_EQ(mkfifo(document.c_str(), 0600), 0);
+  const test::EmptyInput input;
+  document = kStandardInput;
   show();
   EXPECT_TRUE(speaks("Waiting for the document…")) << spoken();
 }
