@@ -27,6 +27,7 @@
 #include "host/panes/Widgets.h"
 #include "host/sheets/PreviewArea.h"
 #include "platform/qt/base/ShownText.h"
+#include "platform/qt/toolkit/QtToolkit.h"
 
 namespace tavrin {
 namespace {
@@ -213,6 +214,7 @@ void PrintDialog::showHelp() {
 }
 
 void PrintDialog::print() {
+  if (QtToolkit* toolkit = QtToolkit::installed()) toolkit->settle();
   if (!task.fields().pageRanges()) return general->focusPageRange();
   task.print();
 }

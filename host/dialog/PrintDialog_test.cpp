@@ -19,8 +19,8 @@
 #include <nlohmann/json.hpp>
 
 #include "host/dialog/Note.h"
-#include "host/general/PrinterPopUp.h"
 #include "host/dialog/ShownSentence.h"
+#include "host/general/PrinterPopUp.h"
 #include "host/panes/FeaturesPane.h"
 #include "host/panes/Mnemonics.h"
 #include "host/printer/PPDLoader.h"
@@ -372,8 +372,9 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
     EXPECT_TRUE(hasName(*dialog.focusWidget())) << stops.back().toStdString();
   }
   stops.removeAll("");
-  EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "PageSize", "panes",
-                                "pagesPerSheet", "Duplex", "help", "cancel", "print"}));
+  EXPECT_EQ(stops,
+            (QStringList{"printer", "copies", "pageRange", "PageSize", "panes", "pagesPerSheet",
+                         "Duplex", "sheetView", "help", "previewSwitch", "cancel", "print"}));
 }
 
 TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {

@@ -66,9 +66,11 @@ int pagesPerSheet(const OptionList& options) {
 
 }  // namespace
 
+// The printer's own option says more than the print system's, which a queue may have by default.
 bool printsInGrey(const OptionList& options) {
-  return has(options, kColorModelKey, {"Black", "Gray", "Grey", "Grayscale", "KGray", "Mono"}) ||
-         has(options, "print-color-mode", {"monochrome", "auto-monochrome", "process-monochrome"});
+  if (optionValue(options, kColorModelKey))
+    return has(options, kColorModelKey, {"Black", "Gray", "Grey", "Grayscale", "KGray", "Mono"});
+  return has(options, "print-color-mode", {"monochrome", "auto-monochrome", "process-monochrome"});
 }
 
 bool isMirrored(const OptionList& options) {

@@ -36,7 +36,7 @@ TEST(SheetLookTest, SaysNothingWhereItCannotKnow) {
 TEST(SheetLookTest, KnowsTheNamesForGreyMirroredAndTwoSided) {
   EXPECT_TRUE(printsInGrey({{"ColorModel", "Black"}}));
   EXPECT_TRUE(printsInGrey({{"print-color-mode", "monochrome"}}));
-  EXPECT_FALSE(printsInGrey({{"ColorModel", "Color"}}));
+  EXPECT_FALSE(printsInGrey({{"ColorModel", "Color"}, {"print-color-mode", "monochrome"}}));
   EXPECT_TRUE(isMirrored({{"mirror", "true"}}));
   EXPECT_FALSE(isMirrored({{"Mirror", "False"}}));
   EXPECT_TRUE(isTwoSided({{"Duplex", "DuplexTumble"}}));

@@ -16,6 +16,7 @@ constexpr const char* kPrinter = "d";
 constexpr const char* kPPD = "ppd";
 constexpr const char* kSample = "sample";
 constexpr const char* kOutput = "output";
+constexpr const char* kNoPreview = "no-preview";
 constexpr const char* kCopies = "n";
 constexpr const char* kTitle = "t";
 constexpr const char* kOption = "o";
@@ -55,6 +56,7 @@ CommandLine filledIn(const QCommandLineParser& parser) {
   line.namesDocument = !parser.positionalArguments().isEmpty();
   line.ppd = bytesOf(parser.value(kPPD));
   line.sample = parser.isSet(kSample);
+  line.noPreview = parser.isSet(kNoPreview);
   if (parser.isSet(kOutput)) line.output = bytesOf(parser.value(kOutput));
   return line;
 }
@@ -88,7 +90,7 @@ std::string disagreement(const QCommandLineParser& parser) {
 void addAll(QCommandLineParser& parser) {
   for (const char* name : {kPrinter, kPPD, kOutput, kCopies, kTitle, kOption})
     parser.addOption(QCommandLineOption(QString(name), QString(), "value"));
-  for (const char* name : {kSample, kHelp, kVersion})
+  for (const char* name : {kSample, kNoPreview, kHelp, kVersion})
     parser.addOption(QCommandLineOption(QString(name)));
 }
 
@@ -109,13 +111,15 @@ Result<CommandLine> parseCommandLine(const std::vector<std::string>& arguments) 
 
 std::string usage() {
   return "Usage: tavrin-print [-d PRINTER[/INSTANCE]] [--ppd FILE] [--sample] [--output DIR]\n"
-         "                    [-n COPIES] [-t TITLE] [-o NAME=VALUE]... [FILE | -]\n"
+         "                    [--no-preview] [-n COPIES] [-t TITLE] [-o NAME=VALUE]...\n"
+         "                    [FILE | -]\n"
          "Shows the Print dialog for a document and prints it.\n\n"
          "  -d PRINTER[/INSTANCE]  the printer to begin with; else the default printer\n"
          "  --ppd FILE             a printer that has this description and no queue\n"
          "  --sample               the sample printer and, with no FILE, the sample document\n"
          "  --output DIR           where the jobs of a printer without a queue are put,\n"
          "                         each in a folder of its own; else the current folder\n"
+         "  --no-preview           does not show how the sheets will come out\n"
          "  -n COPIES              how many copies, from 1 to 9999\n"
          "  -t TITLE               the job's name; else the document's\n"
          "  -o NAME=VALUE          an option of the job, as for lp; may be repeated\n"

@@ -20,6 +20,7 @@ struct CommandLine {
   std::filesystem::path ppd;           // --ppd; empty: the printer's own
   bool sample = false;                 // --sample
   std::filesystem::path output = ".";  // --output
+  bool noPreview = false;              // --no-preview
 };
 
 // Reads the arguments without the program's name, whatever bytes they are made of; or says in a

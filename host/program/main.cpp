@@ -3,9 +3,11 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <iostream>
+#include <memory>
 #include <unistd.h>
 
 #include <QApplication>
+#include <QSettings>
 
 #include "host/dialog/DesktopHelpViewer.h"
 #include "host/dialog/PrintDialog.h"
@@ -30,6 +32,9 @@ using namespace tavrin;
 
 constexpr char kNoDisplay[] =
     "There is no display to show the dialog on. Set DISPLAY, or print with lp.";
+
+// What the person prefers, kept from one start to the next.
+constexpr char kPreviewSetting[] = "preview/shown";
 
 enum ExitStatus { kPrinted = 0, kCancelled = 1, kUsage = 2, kNotPrinted = 3 };
 
@@ -109,10 +114,19 @@ int report(const PrintTask& task) {
   return tell(text + "\n", text + " ");
 }
 
+// The preview as the person left it last.
+void rememberPreview(PrintDialog& dialog, const CommandLine& line) {
+  const auto remembered = std::make_shared<QSettings>("tavrin", "tavrin-print");
+  dialog.setPreviewWanted(!line.noPreview && remembered->value(kPreviewSetting, true).toBool());
+  QObject::connect(&dialog, &PrintDialog::previewWantedChanged,
+                   [remembered](bool wanted) { remembered->setValue(kPreviewSetting, wanted); });
+}
+
 // The panels go before the toolkit and the help viewer that they use.
 int runDialog(const CommandLine& line, const SharedPPD& ppd, DesktopHelpViewer& helpViewer) {
   PrintTask task(line.job);
   PrintDialog dialog(task);
+  rememberPreview(dialog, line);
   const EndSignals endSignals([&dialog] { dialog.end(); });
   helpViewer.setComplaint([&](const std::string& sentence) { task.say(sentence); });
   if (ppd)

@@ -22,7 +22,7 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kWidthInLines = 20;
+constexpr int kWidthInLines = 24;
 constexpr int kPicturesKept = 12;
 constexpr int kLargestPicture = 6000;  // pixels of the longer side
 
@@ -88,7 +88,7 @@ void PreviewArea::build() {
 
 QSize PreviewArea::sizeHint() const {
   const int line = fontMetrics().height();
-  return QSize(line * kWidthInLines, line * kWidthInLines * 3 / 2);
+  return QSize(line * kWidthInLines, line * kWidthInLines * 5 / 4);
 }
 
 void PreviewArea::show(const PreviewJob& shown, const Paper& paper) {
@@ -252,9 +252,10 @@ bool PreviewArea::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel) return turnByWheel(*static_cast<QWheelEvent*>(event));
   if (event->type() != QEvent::KeyPress) return false;
   auto* key = static_cast<QKeyEvent*>(event);
-  key->accept();
   keyPressEvent(key);
-  return key->isAccepted();
+  const bool isTaken = key->isAccepted();
+  key->accept();  // as it came: the view has keys of its own
+  return isTaken;
 }
 
 }  // namespace tavrin

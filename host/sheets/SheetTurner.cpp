@@ -11,11 +11,11 @@ namespace tavrin {
 
 SheetTurner::SheetTurner(QWidget* parent)
     : QWidget(parent),
-      back(button(tr("Previous sheet"), {})),
-      on(button(tr("Next sheet"), {})),
+      back(button("previous", tr("Previous sheet"), {})),
+      on(button("next", tr("Next sheet"), {})),
       number(makeChild<QSpinBox>(this)),
-      smaller(button(tr("Smaller"), "−")),
-      larger(button(tr("Larger"), "+")) {
+      smaller(button("smaller", tr("Smaller"), "−")),
+      larger(button("larger", tr("Larger"), "+")) {
   number->setObjectName("sheet");
   number->setButtonSymbols(QAbstractSpinBox::NoButtons);
   number->setAlignment(Qt::AlignCenter);
@@ -31,8 +31,9 @@ SheetTurner::SheetTurner(QWidget* parent)
   connect(larger, &QToolButton::clicked, this, [this] { emit zoomed(1); });
 }
 
-QToolButton* SheetTurner::button(const QString& name, const QString& shownText) {
+QToolButton* SheetTurner::button(const char* id, const QString& name, const QString& shownText) {
   auto* made = makeChild<QToolButton>(this);
+  made->setObjectName(id);
   made->setText(shownText);
   made->setAutoRaise(true);
   made->setFocusPolicy(Qt::TabFocus);

@@ -26,7 +26,7 @@ class SheetTurner : public QWidget {
   void zoomed(int step);
 
  private:
-  QToolButton* button(const QString& name, const QString& shownText);
+  QToolButton* button(const char* id, const QString& name, const QString& shownText);
   void addArrows();
 
   QToolButton* back;
