@@ -21,7 +21,9 @@ class Contents : public QWidget {
  protected:
   bool event(QEvent* event) override {
     const bool handled = QWidget::event(event);
-    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) lineUpForms(*this);
+    const auto type = event->type();
+    if (type == QEvent::LayoutRequest || type == QEvent::Show || type == QEvent::Resize)
+      lineUpForms(*this);
     return handled;
   }
 };

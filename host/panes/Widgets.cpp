@@ -16,7 +16,10 @@ namespace tavrin {
 namespace {
 
 constexpr int kLeastPopUpLetters = 16;
+// What a label may ask for to stand in one line with the others: so many letters, or such a part of
+// the width where there is room.
 constexpr int kMostLabelLetters = 24;
+constexpr double kMostLabelShare = 0.4;
 
 using Labels = std::vector<QWidget*>;
 
@@ -106,7 +109,8 @@ void lineUpForms(const QWidget& widget) {
   std::vector<int> wanted;
   for (const QWidget* label : labels) wanted.push_back(label->sizeHint().width());
   for (const Pane* pane : panes) wanted.push_back(pane->labelWidth());
-  const int most = widget.fontMetrics().averageCharWidth() * kMostLabelLetters;
+  const int most = std::max(widget.fontMetrics().averageCharWidth() * kMostLabelLetters,
+                            int(widget.width() * kMostLabelShare));
   const int width = columnWidth(wanted, most);
   for (QWidget* label : labels) label->setMinimumSize(width, rowHeight(widget));
   for (Pane* pane : panes) pane->setLabelWidth(width);
