@@ -5,8 +5,8 @@
 #include <cstring>
 
 #include "host/document/Document.h"
-#include "host/ticket/DurableFile.h"
 #include "host/support/HiddenFolder.h"
+#include "host/ticket/DurableFile.h"
 #include "host/ticket/Ticket.h"
 #include "platform/text/Quoted.h"
 #include "platform/text/Utf8.h"
