@@ -23,23 +23,13 @@ namespace tavrin {
 namespace {
 
 constexpr int kWidthInLines = 24;
-constexpr int kPicturesKept = 12;
-constexpr int kLargestPicture = 6000;  // pixels of the longer side
-
-// A window that is being resized asks often; a picture that is about to be replaced stays as it is
-// for so long.
-constexpr std::chrono::milliseconds kDrawRest(60);
+// A picture that is about to be replaced stays as it is for so long.
 constexpr std::chrono::milliseconds kFadeRest(300);
 
 // The first fits the sheet into the view, the others show it so many times as large as it is.
 constexpr std::array kZooms{0.0, 0.5, 1.0, 2.0};
 
 constexpr double kPointsPerInch = 72;
-
-// The sheet as people read it: the filters turn what is wider than high.
-QImage upright(const QImage& picture, const Sheet& sheet) {
-  return sheet.rotation ? picture.transformed(QTransform().rotate(-sheet.rotation)) : picture;
-}
 
 }  // namespace
 
@@ -48,23 +38,25 @@ PreviewArea::PreviewArea(QWidget* parent)
       desk(makeChild<QScrollArea>(this)),
       view(makeChild<SheetView>(desk)),
       turner(makeChild<SheetTurner>(this)),
-      contents(makeChild<QLabel>(this)),
-      pictures(kPicturesKept) {
+      contents(makeChild<QLabel>(this)) {
   build();
-  for (QTimer* timer : {&drawTimer, &fadeTimer}) timer->setSingleShot(true);
-  drawTimer.setInterval(kDrawRest);
+  fadeTimer.setSingleShot(true);
   fadeTimer.setInterval(kFadeRest);
-  connect(&drawTimer, &QTimer::timeout, this, &PreviewArea::draw);
-  connect(&fadeTimer, &QTimer::timeout, this, [this] { view->setFaded(true); });
-  connect(view, &SheetView::resized, &drawTimer, qOverload<>(&QTimer::start));
-  connect(&preview, &Preview::stageChanged, this, &PreviewArea::follow);
-  connect(&preview, &Preview::drawn, this, &PreviewArea::takePicture);
-  connect(&preview, &Preview::drawingFailed, this,
-          [this] { say(tr("This sheet cannot be drawn. It can be printed all the same.")); });
-  connect(turner, &SheetTurner::turned, this, &PreviewArea::turnTo);
-  connect(turner, &SheetTurner::zoomed, this, [this](int step) { setZoom(zoom + step); });
+  connectParts();
   setZoom(0);
   describe();
+}
+
+void PreviewArea::connectParts() {
+  connect(&fadeTimer, &QTimer::timeout, this, [this] { view->setFaded(true); });
+  connect(view, &SheetView::resized, this, &PreviewArea::wantPicture);
+  connect(&preview, &Preview::stageChanged, this, &PreviewArea::follow);
+  connect(&pictures, &SheetPictures::drawn, this, &PreviewArea::showSheet);
+  connect(&preview, &Preview::drawingFailed, this, [this] {
+    view->setMessage({}, tr("This sheet cannot be drawn. It can be printed all the same."));
+  });
+  connect(turner, &SheetTurner::turned, this, &PreviewArea::turnTo);
+  connect(turner, &SheetTurner::zoomed, this, [this](int step) { setZoom(zoom + step); });
 }
 
 void PreviewArea::build() {
@@ -110,7 +102,7 @@ void PreviewArea::pause() {
   preview.pause();
   job.reset();
   fadeTimer.stop();
-  drawTimer.stop();
+  pictures.stop();
 }
 
 // --- What the preview tells ---
@@ -137,33 +129,22 @@ void PreviewArea::takeSheets() {
 }
 
 void PreviewArea::showSheet() {
-  if (const QImage* kept = pictures.object(index)) {
+  view->setMessage({}, {});
+  if (const QImage* picture = pictures.of(index)) {
     const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(index)];
     fadeTimer.stop();
-    view->setPicture(*kept, QSizeF(sheet.width, sheet.height));
+    view->setPicture(*picture, QSizeF(sheet.width, sheet.height));
   } else {
     fadeTimer.start();
-    drawTimer.start(std::chrono::milliseconds(0));
+    wantPicture();
   }
   describe();
 }
 
-void PreviewArea::draw() {
-  if (preview.stage() != Preview::Stage::ready || count() == 0) return;
-  const int pixels = std::clamp(view->longSide(), 1, kLargestPicture);
-  if (pixels != drawnPixels) pictures.clear();
-  drawnPixels = pixels;
-  if (pictures.contains(index)) return;
-  preview.draw(index, pixels,
-               printsInGrey(options()) ? SheetPainter::Ink::grey : SheetPainter::Ink::colour);
-}
-
-void PreviewArea::takePicture(int drawn, int pixels, const QByteArray& bytes) {
-  const QImage picture = QImage::fromData(bytes, "PPM");
-  if (drawn != index || pixels != drawnPixels || picture.isNull()) return;
-  const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(drawn)];
-  pictures.insert(drawn, std::make_unique<QImage>(upright(picture, sheet)).release());
-  showSheet();
+void PreviewArea::wantPicture() {
+  if (count() > 0)
+    pictures.want(index, view->longSide(),
+                  printsInGrey(options()) ? SheetPainter::Ink::grey : SheetPainter::Ink::colour);
 }
 
 // --- What is said ---
@@ -209,7 +190,7 @@ void PreviewArea::setZoom(int step) {
   zoom = std::clamp(step, 0, int(kZooms.size()) - 1);
   view->setScale(kZooms.at(static_cast<std::size_t>(zoom)) * logicalDpiX() / kPointsPerInch);
   turner->showZoom(zoom + 1 < int(kZooms.size()), zoom > 0);
-  drawTimer.start();
+  wantPicture();
 }
 
 void PreviewArea::keyPressEvent(QKeyEvent* event) {

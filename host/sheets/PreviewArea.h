@@ -2,12 +2,12 @@
 
 #include <optional>
 
-#include <QCache>
 #include <QTimer>
 #include <QWidget>
 
 #include "host/preview/Preview.h"
 #include "host/sheets/Paper.h"
+#include "host/sheets/SheetPictures.h"
 
 class QLabel;
 class QScrollArea;
@@ -43,11 +43,11 @@ class PreviewArea : public QWidget {
 
  private:
   void build();
+  void connectParts();
   void follow();
   void takeSheets();
-  void takePicture(int drawn, int pixels, const QByteArray& picture);
   void showSheet();
-  void draw();
+  void wantPicture();
   OptionList options() const { return job ? job->options : OptionList(); }
   int count() const { return static_cast<int>(preview.sheets().list.size()); }
   void describe();
@@ -57,17 +57,15 @@ class PreviewArea : public QWidget {
   bool turnByWheel(const QWheelEvent& event);
 
   Preview preview;
+  SheetPictures pictures{preview};
   std::optional<PreviewJob> job;  // that is shown, or about to be
   QString message;                // shown instead; empty for none
   QScrollArea* desk;
   SheetView* view;
   SheetTurner* turner;
   QLabel* contents;
-  QCache<int, QImage> pictures;  // of these sheets at this size
-  QTimer drawTimer;
   QTimer fadeTimer;
   int index = 0;
-  int drawnPixels = 0;
   int zoom = 0;
 };
 

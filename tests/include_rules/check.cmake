@@ -44,15 +44,14 @@ room(host/panels         platform/text platform/files platform/contract ppd host
                          host/printer)
 room(host/task           platform/text host/support host/printer host/server host/request host/job
                          host/panels)
-room(host/sheets         platform/text platform/qt/base host/support host/printer host/document
-                         host/preview)
+room(host/sheets         platform/text platform/qt/base ppd host/support host/printer host/document
+                         host/request host/panels host/preview host/task)
 room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
                          host/printer host/panels host/task)
 room(host/general        platform/qt/base ppd host/printer host/task host/panes)
 room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
                          platform/qt/toolkit ppd
-                         host/support host/printer host/request host/preview host/panels host/task
-                         host/sheets host/panes host/general)
+                         host/printer host/panels host/task host/sheets host/panes host/general)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
                          host/printer host/document host/request host/task host/dialog)
 room(replay/commands     platform/text)

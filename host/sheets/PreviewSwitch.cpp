@@ -1,4 +1,4 @@
-#include "host/dialog/PreviewSwitch.h"
+#include "host/sheets/PreviewSwitch.h"
 
 #include <QScreen>
 

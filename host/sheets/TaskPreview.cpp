@@ -1,4 +1,4 @@
-#include "host/dialog/TaskPreview.h"
+#include "host/sheets/TaskPreview.h"
 
 #include <QEvent>
 

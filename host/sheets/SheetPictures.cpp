@@ -1,0 +1,50 @@
+#include "host/sheets/SheetPictures.h"
+
+#include <algorithm>
+
+#include <QTransform>
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kKept = 12;
+constexpr int kLargest = 6000;  // pixels of the longer side
+constexpr std::chrono::milliseconds kRest(40);
+
+// The filters turn what is wider than high.
+QImage upright(const QImage& picture, const Sheet& sheet) {
+  return sheet.rotation ? picture.transformed(QTransform().rotate(-sheet.rotation)) : picture;
+}
+
+}  // namespace
+
+SheetPictures::SheetPictures(Preview& thePreview) : preview(thePreview), pictures(kKept) {
+  timer.setSingleShot(true);
+  timer.setInterval(kRest);
+  connect(&timer, &QTimer::timeout, this, &SheetPictures::draw);
+  connect(&preview, &Preview::drawn, this, &SheetPictures::take);
+}
+
+void SheetPictures::want(int index, int pixels, SheetPainter::Ink ink) {
+  pixels = std::clamp(pixels, 1, kLargest);
+  if (pixels != wantedPixels) pictures.clear();
+  wantedIndex = index;
+  wantedPixels = pixels;
+  wantedInk = ink;
+  if (!pictures.contains(index)) timer.start();
+}
+
+void SheetPictures::draw() {
+  if (preview.stage() == Preview::Stage::ready) preview.draw(wantedIndex, wantedPixels, wantedInk);
+}
+
+void SheetPictures::take(int index, int pixels, const QByteArray& bytes) {
+  const QImage picture = QImage::fromData(bytes, "PPM");
+  if (index != wantedIndex || pixels != wantedPixels || picture.isNull()) return;
+  const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(index)];
+  pictures.insert(index, std::make_unique<QImage>(upright(picture, sheet)).release());
+  emit drawn();
+}
+
+}  // namespace tavrin
