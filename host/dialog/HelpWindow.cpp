@@ -26,7 +26,7 @@ constexpr Entry kEntries[] = {
      QT_TRANSLATE_NOOP("HelpWindow",
                        "Which printer prints, what it is doing and where it stands. Where a "
                        "printer has saved sets of options, each set is an entry of its own.")},
-    {QT_TRANSLATE_NOOP("HelpWindow", "Copies, Pages, Paper size"),
+    {QT_TRANSLATE_NOOP("HelpWindow", "Copies, Pages, Paper Size"),
      QT_TRANSLATE_NOOP("HelpWindow",
                        "How often, which pages and on which paper. Write pages and ranges with "
                        "commas between them: 1-3,5 prints pages 1, 2, 3 and 5; 7- prints from "

@@ -62,7 +62,10 @@ void PaneSwitcher::turnTo(int index) {
   if (index < 0) return;
   Pane* pane = panes[static_cast<std::size_t>(index)];
   if (pane == shown) return;
-  if (mayLeave()) return showPane(pane);
+  if (mayLeave()) {
+    showPane(pane);
+    return tabs->setFocus();  // also after a letter; the next Tab goes into the pane
+  }
   const QSignalBlocker quiet(tabs);
   tabs->setCurrentIndex(static_cast<int>(std::ranges::find(panes, shown) - panes.begin()));
 }

@@ -16,16 +16,16 @@
 #include "host/dialog/JobButtons.h"
 #include "host/dialog/Note.h"
 #include "host/dialog/PaneSwitcher.h"
-#include "host/sheets/PreviewSwitch.h"
 #include "host/dialog/ResultPage.h"
 #include "host/dialog/SessionPanes.h"
 #include "host/dialog/SettingsColumn.h"
 #include "host/dialog/TaskNote.h"
-#include "host/sheets/TaskPreview.h"
 #include "host/general/GeneralArea.h"
 #include "host/panes/LayoutPane.h"
 #include "host/panes/Widgets.h"
 #include "host/sheets/PreviewArea.h"
+#include "host/sheets/PreviewSwitch.h"
+#include "host/sheets/TaskPreview.h"
 #include "platform/qt/base/ShownText.h"
 #include "platform/qt/toolkit/QtToolkit.h"
 
@@ -216,6 +216,8 @@ void PrintDialog::showHelp() {
 void PrintDialog::print() {
   if (QtToolkit* toolkit = QtToolkit::installed()) toolkit->settle();
   if (!task.fields().pageRanges()) return general->focusPageRange();
+  if (const QString why = preview->whyNothingComesOut(); !why.isEmpty())
+    return task.warn(why.toStdString());
   task.print();
 }
 

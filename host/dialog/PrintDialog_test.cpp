@@ -24,6 +24,7 @@
 #include "host/panes/FeaturesPane.h"
 #include "host/panes/Mnemonics.h"
 #include "host/printer/PPDLoader.h"
+#include "host/sheets/PreviewArea.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/qt/toolkit/QtToolkit.h"
 #include "tests/servers/FaultyServer.h"
@@ -356,6 +357,19 @@ bool hasName(QWidget& control) {
   QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&control);
   return !interface->text(QAccessible::Name).isEmpty() ||
          !interface->relations(QAccessible::Label).isEmpty();
+}
+
+TEST_F(PrintDialogTest, DoesNotPrintWhereNoPageIsLeft) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  task.fields().setPages({false, "50"});
+  auto* preview = dialog.findChild<PreviewArea*>();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !preview->whyNothingComesOut().isEmpty(); }, kPatience));
+  press(dialog, "print");
+  EXPECT_EQ(task.stage(), PrintTask::Stage::ready);
+  EXPECT_TRUE(dialog.findChild<Note*>("note")->text().contains("no page of the document is left"));
 }
 
 TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {

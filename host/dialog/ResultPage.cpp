@@ -43,6 +43,9 @@ ResultPage::ResultPage(PrintTask& theTask, Opener opener, QWidget* parent)
       content(makeChild<QWidget>(this)),
       text(makeSelectable(wordsOf(*task.arrived()), content)) {
   text->setObjectName("resultText");
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
   build();
   setWidget(content);
 }

@@ -10,6 +10,7 @@
 
 #include "host/general/PrinterPopUp.h"
 #include "host/general/PrinterStateLine.h"
+#include "host/general/WrappedLabel.h"
 #include "host/panes/PickOneControl.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/MarkedOptions.h"
@@ -38,7 +39,7 @@ GeneralArea::GeneralArea(PrintTask& theTask, QWidget* parent)
       allPages(makeChild<QRadioButton>(tr("&All"), this)),
       somePages(makeChild<QRadioButton>(tr("&Range:"), this)),
       rangeEdit(makeChild<QLineEdit>(this)),
-      rangeProblem(makeTextLabel(this)) {
+      rangeProblem(makeChild<WrappedLabel>(this)) {
   addPrinterRows();
   addCopiesRow();
   addPagesRow();

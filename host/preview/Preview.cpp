@@ -54,6 +54,10 @@ void Preview::makeSheets() {
   enter(Stage::working);
   maker = std::make_unique<SheetMaker>(*wanted, document.path(), document.format());
   connect(maker.get(), &SheetMaker::made, this, &Preview::take);
+  connect(maker.get(), &SheetMaker::nothingLeft, this, [this] {
+    stopWith(Stage::nothing, tr("With these settings nothing comes out of the printer: no page of "
+                                "the document is left to print."));
+  });
   connect(maker.get(), &SheetMaker::failed, this, &Preview::fail);
   maker->start();
 }
@@ -65,9 +69,9 @@ void Preview::take(const Sheets& sheets) {
   enter(Stage::ready);
 }
 
-void Preview::fail(const QString& reason) {
+void Preview::stopWith(Stage stage, const QString& reason) {
   why = reason;
-  enter(Stage::failed);
+  enter(stage);
 }
 
 void Preview::draw(int index, int pixels, SheetPainter::Ink ink) {

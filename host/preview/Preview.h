@@ -24,6 +24,7 @@ class Preview : public QObject {
     waiting,  // for the document
     working,  // on the sheets
     ready,    // to draw
+    nothing,  // no page of the document is left to print; the problem says so
     failed,   // there are no sheets; the problem says why
   };
 
@@ -37,7 +38,7 @@ class Preview : public QObject {
   Stage stage() const { return now; }
   // While new sheets are made, still the sheets before.
   const Sheets& sheets() const { return shown; }
-  // A sentence; empty unless the stage is failed.
+  // A sentence; empty unless the stage is nothing or failed.
   const QString& problem() const { return why; }
 
   // Draws a sheet (SheetPainter::draw), if it is there.
@@ -53,7 +54,8 @@ class Preview : public QObject {
   void begin();
   void makeSheets();
   void take(const Sheets& sheets);
-  void fail(const QString& reason);
+  void stopWith(Stage stage, const QString& reason);
+  void fail(const QString& reason) { stopWith(Stage::failed, reason); }
 
   std::optional<PreviewJob> wanted;
   QTimer rest;  // until the person has stopped

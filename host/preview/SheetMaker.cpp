@@ -114,10 +114,7 @@ void SheetMaker::run(const char* program, const QStringList& arguments, const ch
 }
 
 void SheetMaker::lookAtSheets() {
-  if (!isPDF(sheets.pdf))
-    return emit failed(
-        tr("With these settings nothing comes out of the printer: no page of the "
-           "document is left to print."));
+  if (!isPDF(sheets.pdf)) return emit nothingLeft();
   run("pdfinfo", {"-f", "1", "-l", "-1", shown(sheets.pdf)}, kInfoFile, kInfoLimits,
       [this](LimitedCommand::End end) {
         sheets.list = sheetsFromInfo(contentsOf(place(kInfoFile)));

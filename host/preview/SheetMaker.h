@@ -37,6 +37,8 @@ class SheetMaker : public QObject {
 
  signals:
   void made(const tavrin::Sheets& sheets);
+  // No page of the document is left to print.
+  void nothingLeft();
   void failed(const QString& reason);
 
  private:

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -28,6 +29,7 @@ constexpr std::chrono::milliseconds kFadeRest(300);
 
 // The first fits the sheet into the view, the others show it so many times as large as it is.
 constexpr std::array kZooms{0.0, 0.5, 1.0, 2.0};
+constexpr int kFullSize = 2;  // which of them
 
 constexpr double kPointsPerInch = 72;
 
@@ -70,7 +72,12 @@ void PreviewArea::build() {
   view->installEventFilter(this);
   contents->setTextFormat(Qt::PlainText);
   contents->setAlignment(Qt::AlignCenter);
-  contents->setText(" ");  // keeps its room
+  QSizePolicy keepsItsRoom = turner->sizePolicy();
+  keepsItsRoom.setRetainSizeWhenHidden(true);
+  turner->setSizePolicy(keepsItsRoom);
+  for (QScrollBar* bar : {desk->horizontalScrollBar(), desk->verticalScrollBar()})
+    connect(bar, &QScrollBar::rangeChanged, bar,
+            [bar](int least, int most) { bar->setValue((least + most) / 2); });
   auto* column = makeChild<QVBoxLayout>(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(desk, 1);
@@ -84,8 +91,9 @@ QSize PreviewArea::sizeHint() const {
 }
 
 void PreviewArea::show(const PreviewJob& shown, const Paper& paper) {
-  if (job == shown) return;
+  if (job == shown && !isPaused) return;
   job = shown;
+  isPaused = false;
   view->setPaper(paper);
   say({});
   preview.show(shown);
@@ -94,15 +102,20 @@ void PreviewArea::show(const PreviewJob& shown, const Paper& paper) {
 
 void PreviewArea::showNothing(const QString& reason) {
   pause();
+  job.reset();
   view->setPicture({});
   say(reason);
 }
 
 void PreviewArea::pause() {
   preview.pause();
-  job.reset();
+  isPaused = true;
   fadeTimer.stop();
   pictures.stop();
+}
+
+QString PreviewArea::whyNothingComesOut() const {
+  return !isPaused && preview.stage() == Preview::Stage::nothing ? preview.problem() : QString();
 }
 
 // --- What the preview tells ---
@@ -111,6 +124,7 @@ void PreviewArea::follow() {
   switch (preview.stage()) {
     case Preview::Stage::ready:
       return takeSheets();
+    case Preview::Stage::nothing:
     case Preview::Stage::failed:
       fadeTimer.stop();
       return say(preview.problem());
@@ -174,7 +188,7 @@ void PreviewArea::describeSheet() {
   turner->showSheet(index, count(), textBeforeNumber(options()),
                     textAfterNumber(count(), options()));
   if (const QString text = contentsText(preview.sheets(), index, options()); !text.isEmpty())
-    contents->setText(text);
+    contents->setText(text.left(1).toUpper() + text.mid(1));
   view->setAccessibleName(sheetText(preview.sheets(), index, options()));
 }
 
@@ -227,16 +241,42 @@ bool PreviewArea::turnByWheel(const QWheelEvent& event) {
   return true;
 }
 
+// A zoomed sheet is moved by hand.
+void PreviewArea::drag(const QMouseEvent& event) {
+  const QPoint place = event.globalPosition().toPoint();
+  if (event.type() == QEvent::MouseMove) {
+    const QPoint way = place - dragged;
+    desk->horizontalScrollBar()->setValue(desk->horizontalScrollBar()->value() - way.x());
+    desk->verticalScrollBar()->setValue(desk->verticalScrollBar()->value() - way.y());
+  }
+  dragged = place;
+}
+
+bool PreviewArea::takeKey(QKeyEvent& event) {
+  keyPressEvent(&event);
+  const bool isTaken = event.isAccepted();
+  event.accept();  // as it came: the view has keys of its own
+  return isTaken;
+}
+
 // The scroll area around the view has uses of its own for keys and the wheel.
 bool PreviewArea::eventFilter(QObject* watched, QEvent* event) {
   if (watched != view) return QWidget::eventFilter(watched, event);
-  if (event->type() == QEvent::Wheel) return turnByWheel(*static_cast<QWheelEvent*>(event));
-  if (event->type() != QEvent::KeyPress) return false;
-  auto* key = static_cast<QKeyEvent*>(event);
-  keyPressEvent(key);
-  const bool isTaken = key->isAccepted();
-  key->accept();  // as it came: the view has keys of its own
-  return isTaken;
+  switch (event->type()) {
+    case QEvent::Wheel:
+      return turnByWheel(*static_cast<QWheelEvent*>(event));
+    case QEvent::KeyPress:
+      return takeKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+      drag(*static_cast<QMouseEvent*>(event));
+      return false;
+    case QEvent::MouseButtonDblClick:
+      setZoom(zoom == 0 ? kFullSize : 0);
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace tavrin

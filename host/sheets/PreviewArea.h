@@ -31,6 +31,9 @@ class PreviewArea : public QWidget {
   // Drops all work until a job is shown.
   void pause();
 
+  // A sentence where it is known that the job would bring nothing to the paper; else empty.
+  QString whyNothingComesOut() const;
+
   // Turns to a sheet, counted from 0, as far as there are sheets.
   void turnTo(int index);
   int current() const { return index; }
@@ -55,6 +58,8 @@ class PreviewArea : public QWidget {
   void say(const QString& message);
   void setZoom(int step);
   bool turnByWheel(const QWheelEvent& event);
+  bool takeKey(QKeyEvent& event);
+  void drag(const QMouseEvent& event);
 
   Preview preview;
   SheetPictures pictures{preview};
@@ -67,6 +72,8 @@ class PreviewArea : public QWidget {
   QTimer fadeTimer;
   int index = 0;
   int zoom = 0;
+  bool isPaused = false;
+  QPoint dragged;  // where the mouse was last, on the screen
 };
 
 }  // namespace tavrin

@@ -1,7 +1,10 @@
 #include "host/sheets/PreviewArea.h"
 
-#include <QLabel>
+#include <QDialog>
+#include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
 #include <QWheelEvent>
@@ -84,6 +87,46 @@ TEST_F(PreviewAreaTest, TurnsByKeysByWheelAndByNumber) {
   EXPECT_EQ(area.current(), 1);
   number->setValue(4);
   EXPECT_EQ(area.current(), 3);
+}
+
+TEST_F(PreviewAreaTest, ReturnInTheNumberTurnsAndDoesNothingElse) {
+  QDialog dialog;
+  area.setParent(&dialog);
+  QPushButton print(&dialog);
+  print.setDefault(true);
+  QSignalSpy printed(&print, &QPushButton::clicked);
+  dialog.show();
+  area.QWidget::show();
+  show();
+  ASSERT_TRUE(speaks("Sheet 1 of 5: page 1")) << spoken();
+  number->selectAll();
+  QTest::keyClicks(number, "4");
+  EXPECT_EQ(area.current(), 0);
+  QTest::keyClick(number, Qt::Key_Return);
+  EXPECT_EQ(area.current(), 3);
+  EXPECT_EQ(printed.count(), 0);
+  area.setParent(nullptr);
+}
+
+TEST_F(PreviewAreaTest, SaysTheSameOfTheSheetWhileTheJobIsSent) {
+  const OptionList options{{"number-up", "2"}, {"Mirror", "True"}};
+  show(options);
+  ASSERT_TRUE(speaks("Sheet 1 of 3: pages 1 and 2, mirrored")) << spoken();
+  area.pause();
+  press(Qt::Key_PageDown);
+  EXPECT_EQ(spoken(), "Sheet 2 of 3: pages 3 and 4, mirrored");
+}
+
+TEST_F(PreviewAreaTest, ADoubleClickShowsFullSizeAndTheMouseMovesTheSheet) {
+  show();
+  ASSERT_TRUE(speaks("Sheet 1 of 5: page 1"));
+  QTest::mouseDClick(view, Qt::LeftButton);
+  auto* bar = area.findChild<QScrollArea*>()->verticalScrollBar();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return bar->maximum() > 300; }));
+  EXPECT_EQ(bar->value(), bar->maximum() / 2);
+  QTest::mousePress(view, Qt::LeftButton, {}, QPoint(200, 200));
+  QTest::mouseMove(view, QPoint(200, 150));
+  EXPECT_EQ(bar->value(), bar->maximum() / 2 + 50);
 }
 
 TEST_F(PreviewAreaTest, DrawsTheSheetThatIsTurnedTo) {

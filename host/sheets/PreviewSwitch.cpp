@@ -12,10 +12,9 @@ constexpr int kLeastPreview = 12;
 }  // namespace
 
 PreviewSwitch::PreviewSwitch(QWidget& thePreview, QWidget& theSettings, QWidget* parent)
-    : QPushButton(tr("Pre&view"), parent), preview(thePreview), settings(theSettings) {
+    : QPushButton(parent), preview(thePreview), settings(theSettings) {
   setObjectName("previewSwitch");
-  setCheckable(true);
-  connect(this, &QPushButton::clicked, this, &PreviewSwitch::take);
+  connect(this, &QPushButton::clicked, this, [this] { take(!isShown()); });
   apply();
 }
 
@@ -37,21 +36,20 @@ bool PreviewSwitch::hasRoomOnScreen() const {
   return screen()->availableSize().width() > leastRoom() + window()->width() - settings.width();
 }
 
-void PreviewSwitch::take(bool isDown) {
-  if (isNarrow && !(isDown && hasRoomOnScreen())) {
-    isInPlaceOfSettings = isDown;
+void PreviewSwitch::take(bool wanted) {
+  if (isNarrow && !(wanted && hasRoomOnScreen())) {
+    isInPlaceOfSettings = wanted;
     return apply();
   }
-  isWanted = isDown;
-  emit wantedChanged(isDown);
+  isWanted = wanted;
+  emit wantedChanged(wanted);
   apply();
 }
 
 void PreviewSwitch::apply() {
-  const bool isShown = isNarrow ? isInPlaceOfSettings : isWanted;
-  setChecked(isShown);
-  preview.setVisible(isShown);
-  settings.setVisible(!isNarrow || !isShown);
+  setText(isShown() ? tr("Hide Pre&view") : tr("Show Pre&view"));
+  preview.setVisible(isShown());
+  settings.setVisible(!isNarrow || !isShown());
 }
 
 }  // namespace tavrin

@@ -5,7 +5,8 @@
 namespace tavrin {
 
 // The button that shows and hides the preview. Where the window is wide, the preview is beside the
-// settings; where it is narrow, it takes their place while the button is down.
+// settings; where it is narrow, it takes their place until the button is
+// pressed again.
 class PreviewSwitch : public QPushButton {
   Q_OBJECT
 
@@ -25,7 +26,8 @@ class PreviewSwitch : public QPushButton {
  private:
   int leastRoom() const;
   bool hasRoomOnScreen() const;
-  void take(bool isDown);
+  bool isShown() const { return isNarrow ? isInPlaceOfSettings : isWanted; }
+  void take(bool wanted);
   void apply();
 
   QWidget& preview;

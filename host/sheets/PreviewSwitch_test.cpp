@@ -38,7 +38,7 @@ class PreviewSwitchTest : public testing::Test {
 TEST_F(PreviewSwitchTest, AWideWindowHasThePreviewBesideTheSettings) {
   inWideWindow();
   EXPECT_TRUE(showsPreview() && showsSettings());
-  EXPECT_TRUE(button.isChecked());
+  EXPECT_EQ(button.text().toStdString(), "Hide Pre&view");
 }
 
 TEST_F(PreviewSwitchTest, ThePersonCanHideIt) {
@@ -56,7 +56,7 @@ TEST_F(PreviewSwitchTest, ANarrowWindowFoldsItAway) {
   inNarrowWindow();
   EXPECT_FALSE(showsPreview());
   EXPECT_TRUE(showsSettings());
-  EXPECT_FALSE(button.isChecked());
+  EXPECT_EQ(button.text().toStdString(), "Show Pre&view");
   inWideWindow();
   EXPECT_TRUE(showsPreview());
 }

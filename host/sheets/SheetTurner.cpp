@@ -1,6 +1,8 @@
 #include "host/sheets/SheetTurner.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolButton>
@@ -20,9 +22,10 @@ SheetTurner::SheetTurner(QWidget* parent)
   number->setButtonSymbols(QAbstractSpinBox::NoButtons);
   number->setAlignment(Qt::AlignCenter);
   number->setKeyboardTracking(false);
+  number->installEventFilter(this);
   auto* row = makeChild<QHBoxLayout>(this);
   row->setContentsMargins(0, 0, 0, 0);
-  for (QWidget* widget : std::initializer_list<QWidget*>{back, number, on}) row->addWidget(widget);
+  for (QWidget* widget : std::initializer_list<QWidget*>{back, on, number}) row->addWidget(widget);
   row->addStretch();
   for (QWidget* widget : {smaller, larger}) row->addWidget(widget);
   addArrows();
@@ -35,7 +38,8 @@ QToolButton* SheetTurner::button(const char* id, const QString& name, const QStr
   auto* made = makeChild<QToolButton>(this);
   made->setObjectName(id);
   made->setText(shownText);
-  made->setAutoRaise(true);
+  const int side = fontMetrics().height() * 8 / 5;
+  made->setMinimumSize(side, side);
   made->setFocusPolicy(Qt::TabFocus);
   made->setAccessibleName(name);
   made->setToolTip(name);
@@ -57,9 +61,22 @@ void SheetTurner::showSheet(int index, int count, const QString& before, const Q
   number->setRange(count > 0 ? 1 : 0, count);
   number->setValue(index + 1);
   number->setAccessibleName(number->text());
-  number->setEnabled(count > 1);
+  if (!number->hasFocus()) number->findChild<QLineEdit*>()->deselect();
+  for (QWidget* widget : std::initializer_list<QWidget*>{back, on, number})
+    widget->setVisible(count > 1);
   back->setEnabled(index > 0);
   on->setEnabled(index + 1 < count);
+}
+
+// Return turns to the sheet; it is not for the dialog, which would print.
+bool SheetTurner::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != number || event->type() != QEvent::KeyPress)
+    return QWidget::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+  number->interpretText();
+  number->selectAll();
+  return true;
 }
 
 void SheetTurner::showZoom(bool canGrow, bool canShrink) {

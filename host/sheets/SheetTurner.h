@@ -25,6 +25,9 @@ class SheetTurner : public QWidget {
   // One step: 1 to a larger picture, -1 to a smaller one.
   void zoomed(int step);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   QToolButton* button(const char* id, const QString& name, const QString& shownText);
   void addArrows();

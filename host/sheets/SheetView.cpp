@@ -10,8 +10,9 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kDesk = 16;   // pixels around the paper
-constexpr int kShadow = 5;  // pixels
+constexpr int kDesk = 16;       // pixels around the paper
+constexpr int kShadow = 5;      // pixels
+constexpr int kFocusFrame = 2;  // pixels
 constexpr double kFaded = 0.45;
 
 // Between the window and what is written on it, so that the paper stands out in light and dark.
@@ -70,6 +71,16 @@ int SheetView::longSide() const {
   return std::lround(std::max(rect.width(), rect.height()) * devicePixelRatioF());
 }
 
+void SheetView::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  update();
+}
+
+void SheetView::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  update();
+}
+
 void SheetView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   emit resized();
@@ -79,6 +90,10 @@ void SheetView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), deskColour(palette()));
   message.isEmpty() ? paintPaper(painter) : paintMessage(painter);
+  if (!hasFocus()) return;
+  painter.setOpacity(1);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), kFocusFrame));
+  painter.drawRect(visibleRegion().boundingRect().adjusted(1, 1, -1, -1));
 }
 
 void SheetView::paintPaper(QPainter& painter) const {

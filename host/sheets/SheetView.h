@@ -37,6 +37,8 @@ class SheetView : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   QSizeF sheetSize() const { return picture.isNull() ? paper.size : pictureSize; }  // points
