@@ -28,7 +28,9 @@ QColor colorOf(Concern concern, const QPalette& palette) {
 }
 
 QString shownFolder(const std::filesystem::path& folder) {
-  const auto& last = folder.has_filename() ? folder : folder.parent_path();
+  std::error_code none;
+  const std::filesystem::path whole = std::filesystem::absolute(folder, none).lexically_normal();
+  const auto& last = whole.has_filename() ? whole : whole.parent_path();
   return shownLine(last.filename().string());
 }
 

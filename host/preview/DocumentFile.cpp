@@ -37,6 +37,14 @@ Cancellable<Done> copy(Document& document, const fs::path& file, const CancelFla
   return done;
 }
 
+// Commands get a name that is theirs to read, whatever bytes the document's own is made of.
+Cancellable<Found> linked(const fs::path& path, const Found& link) {
+  std::error_code problem;
+  fs::create_symlink(fs::absolute(path), link.file, problem);
+  if (problem) return Failure{kNoRoom};
+  return link;
+}
+
 // The folder, which may be null, is for a copy.
 Cancellable<Found> find(const fs::path& path, const HiddenFolder* folder,
                         const CancelFlag& cancel) {
@@ -46,9 +54,9 @@ Cancellable<Found> find(const fs::path& path, const HiddenFolder* folder,
     return Failure{"There is no preview of a document that can be read only once."};
   auto document = Document::open(path, cancel);
   if (!document) return document.why();
-  if (path != kStandardInput) return Found{fs::absolute(path), document->format()};
   if (!folder) return Failure{kNoRoom};
   const Found found{folder->path() / "document", document->format()};
+  if (path != kStandardInput) return linked(path, found);
   if (const auto copied = copy(*document, found.file, cancel); !copied) return copied.why();
   return found;
 }
@@ -56,6 +64,7 @@ Cancellable<Found> find(const fs::path& path, const HiddenFolder* folder,
 }  // namespace
 
 void DocumentFile::fetch(const fs::path& document) {
+  if (!refusal.isEmpty()) return emit failed(refusal);
   stop();
   file.clear();
   folder = temporaryHiddenFolder();
@@ -63,12 +72,19 @@ void DocumentFile::fetch(const fs::path& document) {
     const auto found = find(document, place.get(), cancel);
     if (found.cancelled()) return;
     send([=, this] {
-      if (!found) return emit failed(QString::fromStdString(found.reason()));
+      if (!found) return refuse(QString::fromStdString(found.reason()));
       file = found->file;
       itsFormat = found->format;
       emit ready();
     });
   });
+}
+
+// For good: what was read of a document that is too large would be read again at every change.
+void DocumentFile::refuse(const QString& reason) {
+  refusal = reason;
+  folder.reset();
+  emit failed(refusal);
 }
 
 }  // namespace tavrin

@@ -19,7 +19,7 @@ class DocumentFile : public QObject {
  public:
   explicit DocumentFile(QObject* parent = nullptr) : QObject(parent) {}
 
-  // Makes the document ready; answered by one of the signals.
+  // Makes the document ready; answered by one of the signals. What has failed fails again.
   void fetch(const std::filesystem::path& document);
   // Gives up, so that somebody else can read on; what has come is not lost.
   void stop() { background.cancel(); }
@@ -34,9 +34,12 @@ class DocumentFile : public QObject {
   void failed(const QString& reason);
 
  private:
+  void refuse(const QString& reason);
+
   std::shared_ptr<const HiddenFolder> folder;  // of the copy; outlives the thread that fills it
   std::filesystem::path file;
   std::string itsFormat;
+  QString refusal;
   Background background;
 };
 

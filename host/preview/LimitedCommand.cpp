@@ -1,9 +1,12 @@
 #include "host/preview/LimitedCommand.h"
 
 #include <csignal>
+#include <cstdlib>
+#include <set>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
+#include <utility>
 
 #include <QStandardPaths>
 
@@ -27,6 +30,32 @@ void confine(const LimitedCommand::Limits& limits) {
   limit(RLIMIT_FSIZE, limits.file);
 }
 
+// The groups of processes that are at work. A program may end without destroying anything, as when
+// its display is gone.
+class Groups {
+ public:
+  static Groups& all() {
+    static auto* groups = new Groups;  // NOLINT(cppcoreguidelines-owning-memory)
+    return *groups;
+  }
+  void add(pid_t group) { groups.insert(group); }
+  void end(pid_t group) {
+    if (groups.erase(group) == 0) return;
+    ::kill(-group, SIGKILL);
+    ::kill(group, SIGKILL);  // which may not have its group yet
+  }
+  void forget(pid_t group) { groups.erase(group); }
+
+ private:
+  Groups() {
+    std::atexit([] {
+      while (!all().groups.empty()) all().end(*all().groups.begin());
+    });
+  }
+
+  std::set<pid_t> groups;
+};
+
 QString shown(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
 }  // namespace
@@ -48,7 +77,11 @@ LimitedCommand::LimitedCommand(const Call& call, QObject* parent) : QObject(pare
   process.setChildProcessModifier([limits = call.limits] { confine(limits); });
   clock.setSingleShot(true);
   clock.setInterval(call.limits.time);
-  connect(&process, &QProcess::started, &clock, qOverload<>(&QTimer::start));
+  connect(&process, &QProcess::started, this, [this] {
+    group = static_cast<pid_t>(process.processId());
+    Groups::all().add(group);
+    clock.start();
+  });
   connect(&clock, &QTimer::timeout, this, [this] {
     isSlow = true;
     killAll();
@@ -59,6 +92,7 @@ LimitedCommand::LimitedCommand(const Call& call, QObject* parent) : QObject(pare
 // By way of the event loop, so that whoever hears the end may delete this object.
 void LimitedCommand::connectProcess() {
   const auto tellEnd = [this](int status, QProcess::ExitStatus how) {
+    killAll();  // what it has left behind
     const bool isWell = how == QProcess::NormalExit && status == 0;
     emit ended(isSlow ? End::slow : isWell ? End::well : End::failed);
   };
@@ -76,7 +110,7 @@ LimitedCommand::~LimitedCommand() {
 }
 
 void LimitedCommand::killAll() {
-  if (const qint64 id = process.processId(); id > 0) ::kill(static_cast<pid_t>(-id), SIGKILL);
+  if (group > 0) Groups::all().end(std::exchange(group, 0));
 }
 
 }  // namespace tavrin

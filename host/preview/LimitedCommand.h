@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <sys/types.h>
 
 #include <QObject>
 #include <QProcess>
@@ -56,6 +57,7 @@ class LimitedCommand : public QObject {
 
   QProcess process;
   QTimer clock;
+  pid_t group = 0;  // of its processes, while they are at work
   bool isSlow = false;
 };
 

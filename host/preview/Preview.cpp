@@ -43,6 +43,12 @@ void Preview::pause() {
   wanted.reset();
 }
 
+void Preview::clear() {
+  pause();
+  shown = {};
+  enter(Stage::empty);
+}
+
 void Preview::begin() {
   if (!document.path().empty()) return makeSheets();
   enter(Stage::waiting);

@@ -32,6 +32,8 @@ class Preview : public QObject {
 
   // Makes the sheets of this job, soon: of several jobs in quick succession only those of the last.
   void show(const PreviewJob& job);
+  // Forgets the job and its sheets.
+  void clear();
   // Drops all work, and lets go of the document, until the next show().
   void pause();
 

@@ -140,6 +140,30 @@ TEST_F(PreviewTest, SaysWhyThereIsNoPicture) {
             "The document could not be laid out for a preview: it is damaged, or too large.");
 }
 
+TEST_F(PreviewTest, ShowsWhatAPrinterGetsBehindWordsInItsOwnLanguage) {
+  PreviewJob spoken = job();
+  const std::size_t line = spoken.ppd.find("*ModelName");
+  ASSERT_NE(line, std::string::npos);
+  spoken.ppd.insert(line,
+                    "*JCLBegin: \"<1B>%-12345X@PJL<0A>\"\n"
+                    "*JCLToPDFInterpreter: \"@PJL ENTER LANGUAGE = PDF<0A>\"\n"
+                    "*JCLEnd: \"<1B>%-12345X\"\n");
+  EXPECT_EQ(outcome(spoken), "8");
+}
+
+TEST_F(PreviewTest, ShowsADocumentWhateverBytesItsNameHas) {
+  document = place.write("gr\374n.pdf", numberedPDF(2));
+  EXPECT_EQ(outcome(job()), "2");
+}
+
+TEST_F(PreviewTest, SaysThatTheDocumentHasGone) {
+  EXPECT_EQ(outcome(job()), "8");
+  fs::remove(document);
+  preview.show(job({{"number-up", "4"}}));
+  EXPECT_TRUE(reaches(Stage::failed));
+  EXPECT_EQ(preview.problem().toStdString(), "The document is no longer there.");
+}
+
 TEST_F(PreviewTest, RunsNoPrograms) {
   document = place.write("program.ps", "%!PS\nshowpage\n");
   EXPECT_EQ(outcome(job()), "There is no preview of this kind of document.");

@@ -74,7 +74,8 @@ bool printsInGrey(const OptionList& options) {
 }
 
 bool isMirrored(const OptionList& options) {
-  return has(options, kMirrorKey, {"true", "on", "yes"});
+  return has(options, kMirrorKey, {"true", "on", "yes"}) ||
+         has(options, "MirrorPrint", {"true", "on", "yes"});
 }
 
 bool isTwoSided(const OptionList& options) {

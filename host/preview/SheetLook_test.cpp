@@ -38,6 +38,7 @@ TEST(SheetLookTest, KnowsTheNamesForGreyMirroredAndTwoSided) {
   EXPECT_TRUE(printsInGrey({{"print-color-mode", "monochrome"}}));
   EXPECT_FALSE(printsInGrey({{"ColorModel", "Color"}, {"print-color-mode", "monochrome"}}));
   EXPECT_TRUE(isMirrored({{"mirror", "true"}}));
+  EXPECT_TRUE(isMirrored({{"MirrorPrint", "True"}}));
   EXPECT_FALSE(isMirrored({{"Mirror", "False"}}));
   EXPECT_TRUE(isTwoSided({{"Duplex", "DuplexTumble"}}));
   EXPECT_TRUE(isTwoSided({{"sides", "two-sided-long-edge"}}));

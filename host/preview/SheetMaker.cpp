@@ -18,6 +18,10 @@ constexpr char kSheetsFile[] = "sheets.pdf";
 constexpr char kInfoFile[] = "info";
 constexpr auto kWell = LimitedCommand::End::well;
 
+constexpr char kNoRoom[] = QT_TRANSLATE_NOOP(
+    "tavrin::SheetMaker", "There is no room in the temporary folder for a preview.");
+constexpr std::uintmax_t kLeastRoom = 64 << 10;  // bytes
+
 // What the filters make of every document before a printer's own language comes in.
 constexpr char kLaidOut[] = "application/vnd.cups-pdf";
 
@@ -42,6 +46,13 @@ QString shown(const std::filesystem::path& path) { return shown(path.string()); 
 std::string contentsOf(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// A file that was cut off may look like one without pages.
+bool hasRoom(const std::filesystem::path& folder) {
+  std::error_code problem;
+  const auto space = std::filesystem::space(folder, problem);
+  return !problem && space.available > kLeastRoom;
 }
 
 // Without any page left, the filters succeed and write next to nothing.
@@ -83,9 +94,10 @@ QString SheetMaker::obstacle() const {
 void SheetMaker::start() {
   QString reason = obstacle();
   if (reason.isEmpty()) {
+    sheets.options = job.options;
     sheets.folder = temporaryHiddenFolder();
     if (sheets.folder) return layOut();
-    reason = tr("There is no room in the temporary folder for a preview.");
+    reason = tr(kNoRoom);
   }
   QMetaObject::invokeMethod(
       this, [=, this] { emit failed(reason); }, Qt::QueuedConnection);
@@ -94,13 +106,14 @@ void SheetMaker::start() {
 void SheetMaker::layOut() {
   const std::string ppd = harmlessPPD(job.ppd);
   if (ppd.empty()) return complain(LimitedCommand::End::failed);
-  std::ofstream(place("printer.ppd"), std::ios::binary) << ppd;
+  if (!(std::ofstream(place("printer.ppd"), std::ios::binary) << ppd << std::flush))
+    return emit failed(tr(kNoRoom));
   sheets.pdf = place(kSheetsFile);
   QStringList arguments{"-p", shown(place("printer.ppd")), "-m", kLaidOut, "-i", shown(format)};
-  arguments << "-n"
-            << "1"
-            << "-t"
-            << "preview" << filterOptions(job.options) << shown(file);
+  arguments += {"-n", "1", "-t", shown(job.title)};
+  arguments += filterOptions(job.options);
+  // What a printer is told before a PDF is not drawn.
+  arguments += {"-o", "emit-jcl=false", shown(file)};
   run("cupsfilter", arguments, kSheetsFile, kFilterLimits,
       [this](LimitedCommand::End end) { end == kWell ? lookAtSheets() : complain(end); });
 }
@@ -114,6 +127,7 @@ void SheetMaker::run(const char* program, const QStringList& arguments, const ch
 }
 
 void SheetMaker::lookAtSheets() {
+  if (!hasRoom(sheets.folder->path())) return emit failed(tr(kNoRoom));
   if (!isPDF(sheets.pdf)) return emit nothingLeft();
   run("pdfinfo", {"-f", "1", "-l", "-1", shown(sheets.pdf)}, kInfoFile, kInfoLimits,
       [this](LimitedCommand::End end) {
@@ -136,6 +150,9 @@ void SheetMaker::lookAtDocument() {
 }
 
 void SheetMaker::complain(LimitedCommand::End end) {
+  std::error_code none;
+  if (!std::filesystem::exists(file, none))
+    return emit failed(tr("The document is no longer there."));
   emit failed(end == LimitedCommand::End::slow
                   ? tr("Laying the document out takes too long for a preview. It can be printed "
                        "all the same.")

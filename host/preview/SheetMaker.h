@@ -20,6 +20,7 @@ struct Sheets {
   std::shared_ptr<const HiddenFolder> folder;  // holds the PDF
   std::filesystem::path pdf;
   std::vector<Sheet> list;
+  OptionList options;     // that they were made with
   int documentPages = 0;  // of the document; 0 where nobody knows
 };
 

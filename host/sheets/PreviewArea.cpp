@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -32,6 +33,7 @@ constexpr std::array kZooms{0.0, 0.5, 1.0, 2.0};
 constexpr int kFullSize = 2;  // which of them
 
 constexpr double kPointsPerInch = 72;
+constexpr int kNotch = 120;  // of a wheel, as Qt counts
 
 }  // namespace
 
@@ -54,11 +56,13 @@ void PreviewArea::connectParts() {
   connect(view, &SheetView::resized, this, &PreviewArea::wantPicture);
   connect(&preview, &Preview::stageChanged, this, &PreviewArea::follow);
   connect(&pictures, &SheetPictures::drawn, this, &PreviewArea::showSheet);
-  connect(&preview, &Preview::drawingFailed, this, [this] {
-    view->setMessage({}, tr("This sheet cannot be drawn. It can be printed all the same."));
+  connect(&pictures, &SheetPictures::failed, this, [this] {
+    const QString text = tr("This sheet cannot be drawn. It can be printed all the same.");
+    view->setMessage(shownName(), text);
+    view->setAccessibleName(text);
   });
   connect(turner, &SheetTurner::turned, this, &PreviewArea::turnTo);
-  connect(turner, &SheetTurner::zoomed, this, [this](int step) { setZoom(zoom + step); });
+  connect(turner, &SheetTurner::zoomed, this, [this](int step) { zoomBy(step); });
 }
 
 void PreviewArea::build() {
@@ -102,6 +106,7 @@ void PreviewArea::show(const PreviewJob& shown, const Paper& paper) {
 
 void PreviewArea::showNothing(const QString& reason) {
   pause();
+  preview.clear();
   job.reset();
   view->setPicture({});
   say(reason);
@@ -110,6 +115,7 @@ void PreviewArea::showNothing(const QString& reason) {
 void PreviewArea::pause() {
   preview.pause();
   isPaused = true;
+  describe();
   fadeTimer.stop();
   pictures.stop();
 }
@@ -145,9 +151,8 @@ void PreviewArea::takeSheets() {
 void PreviewArea::showSheet() {
   view->setMessage({}, {});
   if (const QImage* picture = pictures.of(index)) {
-    const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(index)];
     fadeTimer.stop();
-    view->setPicture(*picture, QSizeF(sheet.width, sheet.height));
+    view->setPicture(*picture, sizeOf(index));
   } else {
     fadeTimer.start();
     wantPicture();
@@ -155,18 +160,28 @@ void PreviewArea::showSheet() {
   describe();
 }
 
+QSizeF PreviewArea::sizeOf(int sheet) const {
+  const Sheet& found = preview.sheets().list[static_cast<std::size_t>(sheet)];
+  return QSizeF(found.width, found.height);
+}
+
 void PreviewArea::wantPicture() {
   if (count() > 0)
-    pictures.want(index, view->longSide(),
+    pictures.want(index, view->longSide(sizeOf(index)),
                   printsInGrey(options()) ? SheetPainter::Ink::grey : SheetPainter::Ink::colour);
 }
 
 // --- What is said ---
 
+QString PreviewArea::shownName() const {
+  if (!job) return {};
+  return job->document == kStandardInput ? tr("Standard input")
+                                         : shownLine(documentName(job->document));
+}
+
 void PreviewArea::say(const QString& text) {
   message = text;
-  const std::string name = job ? documentName(job->document) : "";
-  view->setMessage(shownLine(name), message);
+  view->setMessage(shownName(), message);
   describe();
 }
 
@@ -176,7 +191,7 @@ void PreviewArea::describe() {
   contents->setText(" ");
   if (hasSheets)
     describeSheet();
-  else if (message.isEmpty())
+  else if (message.isEmpty() && !isPaused)
     contents->setText(preview.stage() == Preview::Stage::waiting ? tr("Waiting for the document…")
                                                                  : tr("Preparing the preview…"));
   if (!hasSheets) view->setAccessibleName(message.isEmpty() ? contents->text() : message);
@@ -200,9 +215,21 @@ void PreviewArea::turnTo(int wanted) {
   showSheet();
 }
 
+double PreviewArea::scaleOf(int step) const {
+  return kZooms.at(static_cast<std::size_t>(step)) * logicalDpiX() / kPointsPerInch;
+}
+
+// Every step is larger, or smaller, than what is shown; the smallest fits the sheet in.
+void PreviewArea::zoomBy(int direction) {
+  const double fitting = view->fittingScale();
+  int step = zoom + direction;
+  while (step > 0 && step < int(kZooms.size()) && scaleOf(step) <= fitting) step += direction;
+  setZoom(step);
+}
+
 void PreviewArea::setZoom(int step) {
   zoom = std::clamp(step, 0, int(kZooms.size()) - 1);
-  view->setScale(kZooms.at(static_cast<std::size_t>(zoom)) * logicalDpiX() / kPointsPerInch);
+  view->setScale(scaleOf(zoom));
   turner->showZoom(zoom + 1 < int(kZooms.size()), zoom > 0);
   wantPicture();
 }
@@ -218,9 +245,9 @@ void PreviewArea::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_End:
       return turnTo(count() - 1);
     case Qt::Key_Plus:
-      return setZoom(zoom + 1);
+      return zoomBy(1);
     case Qt::Key_Minus:
-      return setZoom(zoom - 1);
+      return zoomBy(-1);
     case Qt::Key_0:
       return setZoom(0);
     default:
@@ -228,16 +255,15 @@ void PreviewArea::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// A fine wheel or a touchpad tells of a notch in many parts.
 bool PreviewArea::turnByWheel(const QWheelEvent& event) {
-  const int notches = event.angleDelta().y();
-  if (notches == 0) return false;
-  const int step = notches > 0 ? 1 : -1;
-  if (event.modifiers() & Qt::ControlModifier)
-    setZoom(zoom + step);
-  else if (zoom == 0)
-    turnTo(index - step);
-  else
-    return false;
+  const bool zooms = event.modifiers() & Qt::ControlModifier;
+  if (!zooms && zoom != 0) return false;
+  wheelAngle += event.angleDelta().y();
+  for (; std::abs(wheelAngle) >= kNotch; wheelAngle -= wheelAngle > 0 ? kNotch : -kNotch) {
+    const int step = wheelAngle > 0 ? 1 : -1;
+    zooms ? zoomBy(step) : turnTo(index - step);
+  }
   return true;
 }
 

@@ -51,11 +51,15 @@ class PreviewArea : public QWidget {
   void takeSheets();
   void showSheet();
   void wantPicture();
-  OptionList options() const { return job ? job->options : OptionList(); }
+  const OptionList& options() const { return preview.sheets().options; }
   int count() const { return static_cast<int>(preview.sheets().list.size()); }
   void describe();
   void describeSheet();
   void say(const QString& message);
+  QString shownName() const;
+  QSizeF sizeOf(int sheet) const;  // points
+  double scaleOf(int step) const;  // pixels a point
+  void zoomBy(int direction);
   void setZoom(int step);
   bool turnByWheel(const QWheelEvent& event);
   bool takeKey(QKeyEvent& event);
@@ -72,6 +76,7 @@ class PreviewArea : public QWidget {
   QTimer fadeTimer;
   int index = 0;
   int zoom = 0;
+  int wheelAngle = 0;  // since the last notch
   bool isPaused = false;
   QPoint dragged;  // where the mouse was last, on the screen
 };

@@ -43,6 +43,7 @@ void PreviewSwitch::take(bool wanted) {
   }
   isWanted = wanted;
   emit wantedChanged(wanted);
+  if (isNarrow) isInPlaceOfSettings = wanted;  // the window could not follow
   apply();
 }
 

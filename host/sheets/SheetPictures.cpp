@@ -8,8 +8,8 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kKept = 12;
-constexpr int kLargest = 6000;  // pixels of the longer side
+constexpr int kLargest = 4500;   // pixels of the longer side
+constexpr int kKept = 96 << 10;  // KiB of all pictures; more than the largest one
 constexpr std::chrono::milliseconds kRest(40);
 
 // The filters turn what is wider than high.
@@ -24,6 +24,7 @@ SheetPictures::SheetPictures(Preview& thePreview) : preview(thePreview), picture
   timer.setInterval(kRest);
   connect(&timer, &QTimer::timeout, this, &SheetPictures::draw);
   connect(&preview, &Preview::drawn, this, &SheetPictures::take);
+  connect(&preview, &Preview::drawingFailed, this, &SheetPictures::failed);
 }
 
 void SheetPictures::want(int index, int pixels, SheetPainter::Ink ink) {
@@ -41,9 +42,12 @@ void SheetPictures::draw() {
 
 void SheetPictures::take(int index, int pixels, const QByteArray& bytes) {
   const QImage picture = QImage::fromData(bytes, "PPM");
-  if (index != wantedIndex || pixels != wantedPixels || picture.isNull()) return;
+  if (index != wantedIndex || pixels != wantedPixels) return;
+  if (picture.isNull()) return emit failed();
   const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(index)];
-  pictures.insert(index, std::make_unique<QImage>(upright(picture, sheet)).release());
+  auto kept = std::make_unique<QImage>(upright(picture, sheet));
+  const auto size = static_cast<int>(kept->sizeInBytes() >> 10);
+  pictures.insert(index, kept.release(), size);
   emit drawn();
 }
 

@@ -28,6 +28,7 @@ class SheetPictures : public QObject {
 
  signals:
   void drawn();
+  void failed();
 
  private:
   void draw();

@@ -57,18 +57,22 @@ void SheetView::setScale(double pixelsPerPoint) {
   update();
 }
 
-QRectF SheetView::sheetRect() const {
-  const QSizeF room = size() - QSize(2 * kDesk, 2 * kDesk);
-  const QSizeF sheet =
-      scale > 0 ? sheetSize() * scale : sheetSize().scaled(room, Qt::KeepAspectRatio);
-  QRectF place(QPointF(), sheet);
+QSizeF SheetView::room() const { return size() - QSize(2 * kDesk, 2 * kDesk); }
+
+QRectF SheetView::rectOf(const QSizeF& sheet) const {
+  QRectF place(QPointF(), scale > 0 ? sheet * scale : sheet.scaled(room(), Qt::KeepAspectRatio));
   place.moveCenter(QRectF(rect()).center());
   return place.toRect();  // whole pixels, so that a picture is not blurred
 }
 
-int SheetView::longSide() const {
-  const QRectF rect = sheetRect();
-  return std::lround(std::max(rect.width(), rect.height()) * devicePixelRatioF());
+int SheetView::longSide(const QSizeF& sheet) const {
+  const QRectF place = rectOf(sheet);
+  return std::lround(std::max(place.width(), place.height()) * devicePixelRatioF());
+}
+
+double SheetView::fittingScale() const {
+  const QSizeF visible = parentWidget()->size() - QSize(2 * kDesk, 2 * kDesk);
+  return sheetSize().scaled(visible, Qt::KeepAspectRatio).width() / sheetSize().width();
 }
 
 void SheetView::focusInEvent(QFocusEvent* event) {

@@ -27,8 +27,11 @@ class SheetView : public QWidget {
   // Zoomed, the view is as large as the paper at that many pixels a point; 0 fits the paper in.
   void setScale(double pixelsPerPoint);
 
-  // How long the longer side of the paper is in the view, in pixels of the screen.
-  int longSide() const;
+  // How long the longer side of a sheet of that size, in points, is in the view, in pixels of the
+  // screen.
+  int longSide(const QSizeF& sheet) const;
+  // How many pixels a point has where the sheet fits into the view.
+  double fittingScale() const;
 
  signals:
   // The paper has another size in the view.
@@ -42,7 +45,9 @@ class SheetView : public QWidget {
 
  private:
   QSizeF sheetSize() const { return picture.isNull() ? paper.size : pictureSize; }  // points
-  QRectF sheetRect() const;
+  QRectF rectOf(const QSizeF& sheet) const;
+  QRectF sheetRect() const { return rectOf(sheetSize()); }
+  QSizeF room() const;
   void paintPaper(QPainter& painter) const;
   void paintMessage(QPainter& painter) const;
 

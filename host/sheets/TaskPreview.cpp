@@ -12,7 +12,8 @@ namespace {
 
 // One copy stands for all.
 PreviewJob previewOf(const PrintTask& task) {
-  PreviewJob job{task.request().document, sourceOf(task.session()->sharedPPD()), task.options()};
+  PreviewJob job{task.request().document, sourceOf(task.session()->sharedPPD()), task.options(),
+                 jobTitle(task.request())};
   removeOption(job.options, kCopiesOption);
   return job;
 }

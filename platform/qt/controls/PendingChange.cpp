@@ -70,7 +70,7 @@ bool PendingChange::goesOnStepping(const QObject& watched, const QKeyEvent& key)
   return isForControl && (moves(key) || typesALetter(key));
 }
 
-// A window that somebody closes stays if he has to look at another one first.
+// A window that somebody closes stays if there is another one to look at first.
 bool PendingChange::settleBefore(QObject* watched, QEvent& event) {
   const QPointer<QObject> receiver = watched;
   const int before = windowsBlocked;

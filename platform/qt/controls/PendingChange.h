@@ -10,11 +10,11 @@ class QKeyEvent;
 
 namespace tavrin {
 
-// A change that may be in passing: somebody goes through the items of a closed pop-up, and only
-// where he stops is what he wants. It is told when he has stopped for a moment, and at once when he
-// does anything else: another key, a click, another focus, a window that closes. What he does then
-// happens after the change was told, and not at all if telling brought a window up, because he
-// has not seen that window yet.
+// A change that may be in passing: somebody goes through the items of a closed pop-up, and only the
+// last of them is wanted. It is told when the person has stopped for a moment, and at once when the
+// person does anything else: another key, a click, another focus, a window that closes. That
+// happens after the change was told, and not at all if telling brought a window up, which nobody
+// has seen yet.
 class PendingChange : public QObject {
  public:
   // Does nothing without an application.

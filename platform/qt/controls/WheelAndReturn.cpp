@@ -1,8 +1,11 @@
 #include "platform/qt/controls/WheelAndReturn.h"
 
+#include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTabBar>
@@ -31,11 +34,22 @@ bool passOn(QEvent& event) {
   return true;
 }
 
-// A key that is held down opens the list once.
-bool openedByReturn(QWidget& widget, const QKeyEvent& key) {
+// Whether a press on it does something: it sets nothing, as check boxes do.
+bool isPushed(const QAbstractButton& button) {
+  return !qobject_cast<const QCheckBox*>(&button) && !qobject_cast<const QRadioButton*>(&button);
+}
+
+// A key that is held down works the control once. The control may be gone afterwards.
+bool workedByReturn(QWidget& widget, const QKeyEvent& key) {
+  if (!isReturn(key)) return false;
   auto* popUp = qobject_cast<QComboBox*>(&widget);
-  if (!popUp || popUp->isEditable() || !isReturn(key)) return false;
-  if (!key.isAutoRepeat()) popUp->showPopup();
+  auto* button = qobject_cast<QAbstractButton*>(&widget);
+  if (popUp && !popUp->isEditable()) {
+    if (!key.isAutoRepeat()) popUp->showPopup();
+    return true;
+  }
+  if (!button || !isPushed(*button)) return false;
+  if (!key.isAutoRepeat()) button->click();
   return true;
 }
 
@@ -55,7 +69,7 @@ bool WheelAndReturn::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Wheel:
       return changesByWheel(widget) && !widget.hasFocus() && passOn(*event);
     case QEvent::KeyPress:
-      return openedByReturn(widget, static_cast<QKeyEvent&>(*event));
+      return workedByReturn(widget, static_cast<QKeyEvent&>(*event));
     default:
       return false;
   }

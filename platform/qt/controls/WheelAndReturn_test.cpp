@@ -12,6 +12,7 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTest>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
@@ -109,6 +110,20 @@ TEST_F(WheelAndReturnTest, ReturnOpensAPopUp) {
     QTest::keyClick(popUp.view(), Qt::Key_Down);
     QTest::keyClick(popUp.view(), key);
     EXPECT_FALSE(popUp.view()->isVisible());
+  }
+  EXPECT_EQ(printed, 0);
+}
+
+TEST_F(WheelAndReturnTest, ReturnPressesTheButtonThatHasTheFocus) {
+  QPushButton cancel(print.parentWidget());
+  QToolButton turn(print.parentWidget());
+  for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{&cancel, &turn}) {
+    int pressed = 0;
+    QObject::connect(button, &QAbstractButton::clicked, [&] { ++pressed; });
+    button->show();
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Return);
+    EXPECT_EQ(pressed, 1);
   }
   EXPECT_EQ(printed, 0);
 }

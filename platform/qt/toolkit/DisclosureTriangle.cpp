@@ -2,14 +2,7 @@
 
 #include <QStyleOptionToolButton>
 
-#include "platform/qt/base/ReturnKey.h"
-
 namespace tavrin {
-
-void DisclosureTriangle::keyPressEvent(QKeyEvent* event) {
-  if (!isReturn(*event)) return QToolButton::keyPressEvent(event);
-  if (!event->isAutoRepeat()) click();
-}
 
 // The arrow alone tells the state; a button that also looked pressed would say it twice.
 void DisclosureTriangle::initStyleOption(QStyleOptionToolButton* option) const {

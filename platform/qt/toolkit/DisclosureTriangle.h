@@ -12,8 +12,6 @@ class DisclosureTriangle : public QToolButton {
   using QToolButton::QToolButton;
 
  protected:
-  // Return works it as Space does, rather than pressing the window's default button.
-  void keyPressEvent(QKeyEvent* event) override;
   void initStyleOption(QStyleOptionToolButton* option) const override;
 };
 
