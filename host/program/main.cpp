@@ -22,6 +22,7 @@
 #include "platform/files/FileDescriptor.h"
 #include "platform/files/RootFolder.h"
 #include "platform/files/StandardStreams.h"
+#include "platform/qt/base/OutlinedStyle.h"
 #include "platform/qt/base/ShownText.h"
 #include "platform/qt/toolkit/QtToolkit.h"
 #include "platform/text/Visible.h"
@@ -142,6 +143,7 @@ int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) 
   QApplication application(argc, argv);
   qInstallMessageHandler(showMessage);
   identifyProgram();
+  OutlinedStyle::install();
   QtToolkit toolkit;
   Toolkit::install(&toolkit);
   DesktopHelpViewer helpViewer;

@@ -45,15 +45,6 @@ double luminance(const QColor& color) {
          0.0722 * linear(color.blueF());
 }
 
-// As faint as it may be.
-QColor readable(const QColor& strongText, const QColor& background) {
-  for (double strength = 0.4; strength < 1; strength += 0.05)
-    if (const QColor text = mixed(strongText, background, strength);
-        contrast(text, background) >= kLeastContrast)
-      return text;
-  return strongText;
-}
-
 // False when there was nothing to mend.
 bool mend(QPalette& palette) {
   bool changed = false;
@@ -79,6 +70,14 @@ double contrast(const QColor& text, const QColor& background) {
   const double one = luminance(mixed(text, background, text.alphaF())) + 0.05;
   const double other = luminance(background) + 0.05;
   return std::max(one, other) / std::min(one, other);
+}
+
+QColor readable(const QColor& strongText, const QColor& background) {
+  for (double strength = 0.4; strength < 1; strength += 0.05)
+    if (const QColor text = mixed(strongText, background, strength);
+        contrast(text, background) >= kLeastContrast)
+      return text;
+  return strongText;
 }
 
 ReadablePalette::ReadablePalette() {

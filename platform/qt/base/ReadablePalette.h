@@ -9,6 +9,9 @@ namespace tavrin {
 // its background through is judged by the mixture.
 double contrast(const QColor& text, const QColor& background);
 
+// The text's colour, as faint on the background as it may be and still be readable.
+QColor readable(const QColor& strongText, const QColor& background);
+
 // Makes placeholders and the texts of what is disabled readable in whatever palette the desktop or
 // the style gives, when they are too close to their background: some dark palettes have them darker
 // than that. Other colours stay as they are.
