@@ -359,6 +359,31 @@ bool hasName(QWidget& control) {
          !interface->relations(QAccessible::Label).isEmpty();
 }
 
+// Counts how often something in a window is laid out.
+class LayoutCounter : public QObject {
+ public:
+  LayoutCounter() { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::LayoutRequest;
+    return false;
+  }
+
+  int count = 0;
+};
+
+TEST_F(PrintDialogTest, ComesToRest) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.setPreviewWanted(false);  // it is at work for a while
+  dialog.show();
+  for (int i = 0; i < 100; ++i) QCoreApplication::processEvents();
+  const LayoutCounter counter;
+  for (int i = 0; i < 100; ++i) QCoreApplication::processEvents();
+  EXPECT_EQ(counter.count, 0);
+}
+
 TEST_F(PrintDialogTest, DoesNotPrintWhereNoPageIsLeft) {
   PrintTask task(job());
   PrintDialog dialog(task);

@@ -31,9 +31,14 @@ int labelColumnWidth(const QWidget& panel) {
   return widest;
 }
 
+// A program sets it whenever something was laid out; that ends only if nothing is laid out again.
 void setLabelColumnWidth(QWidget& panel, int pixels) {
-  for (QLabel* label : columnOf(panel)) label->setMinimumWidth(pixels);
-  layoutChanged(panel);
+  bool isOther = false;
+  for (QLabel* label : columnOf(panel)) {
+    isOther |= label->minimumWidth() != pixels;
+    label->setMinimumWidth(pixels);
+  }
+  if (isOther) layoutChanged(panel);
 }
 
 }  // namespace tavrin
