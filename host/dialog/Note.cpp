@@ -26,15 +26,17 @@ Note::Note(QWidget* parent)
 }
 
 void Note::say(const QString& text, Kind kind, const QString& wayOut) {
-  const auto picture =
-      kind == Kind::warning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
-  const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-  icon->setPixmap(style()->standardIcon(picture).pixmap(size));
   label->setText(text);
   button->setText(wayOut);
   button->setVisible(!wayOut.isEmpty());
   setVisible(!text.isEmpty());
-  if (!text.isEmpty()) announce(*label);
+  if (text.isEmpty()) return;
+  // Only where it is shown: a style looks through many folders for its icons.
+  const auto picture =
+      kind == Kind::warning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
+  const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+  icon->setPixmap(style()->standardIcon(picture).pixmap(size));
+  announce(*label);
 }
 
 QString Note::text() const { return label->text(); }

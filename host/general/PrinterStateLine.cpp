@@ -72,11 +72,12 @@ void PrinterStateLine::say(const QString& text, Concern theConcern, const QStrin
 }
 
 void PrinterStateLine::showSign() {
-  const auto picture =
-      concern == Concern::trouble ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxWarning;
-  const int size = label->fontMetrics().height();
-  sign->setPixmap(style()->standardIcon(picture).pixmap(size));
   sign->setVisible(concern != Concern::none);
+  if (concern != Concern::none) {  // a style looks through many folders for its icons
+    const auto picture =
+        concern == Concern::trouble ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxWarning;
+    sign->setPixmap(style()->standardIcon(picture).pixmap(label->fontMetrics().height()));
+  }
   QPalette colors = palette();
   colors.setColor(QPalette::WindowText, colorOf(concern, colors));
   label->setPalette(colors);

@@ -8,6 +8,8 @@ namespace {
 
 // Longer than the pauses between two keys or turns of a wheel, shorter than anybody waits.
 constexpr std::chrono::milliseconds kRest(120);
+// So that a window comes up before its preview wants the processor.
+constexpr std::chrono::milliseconds kFirstRest(100);
 
 }  // namespace
 
@@ -32,7 +34,7 @@ void Preview::show(const PreviewJob& job) {
   wanted = job;
   maker.reset();
   if (now == Stage::empty) enter(Stage::working);
-  rest.start(isFirst ? std::chrono::milliseconds(0) : kRest);
+  rest.start(isFirst ? kFirstRest : kRest);
 }
 
 void Preview::pause() {

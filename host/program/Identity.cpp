@@ -10,7 +10,7 @@ namespace {
 QIcon icon() {
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256})
-    icon.addFile(QString(":/icons/hicolor/%1x%1/apps/tavrin-print.png").arg(size));
+    icon.addFile(QString(":/icons/hicolor/%1x%1/apps/tavrin-print.png").arg(size), {size, size});
   return icon;
 }
 
