@@ -45,6 +45,8 @@ class PreviewTest : public EventLoopTest {
     QObject::connect(&preview, &Preview::drawn, [this](int index, int, const QByteArray& bytes) {
       pictures.insert_or_assign(index, Picture(bytes));
     });
+    QObject::connect(&preview, &Preview::stageChanged,
+                     [this] { answers += preview.stage() >= Stage::ready; });
   }
   static std::string samplePPD() {
     auto ppd = loadPPD(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
@@ -56,8 +58,9 @@ class PreviewTest : public EventLoopTest {
   }
   // Shows it; the number of sheets, or what is said instead.
   std::string outcome(const PreviewJob& shown) {
+    answers = 0;
     preview.show(shown);
-    EXPECT_TRUE(eventually([&] { return preview.stage() >= Stage::ready; }));
+    EXPECT_TRUE(eventually([&] { return answers > 0; }));
     return preview.stage() == Stage::ready ? std::to_string(preview.sheets().list.size())
                                            : preview.problem().toStdString();
   }
@@ -71,6 +74,7 @@ class PreviewTest : public EventLoopTest {
   test::TemporaryFolder place;
   fs::path document = place.write("pages.pdf", numberedPDF(8));
   Preview preview;
+  int answers = 0;
   std::map<int, Picture> pictures;
 };
 
@@ -89,10 +93,9 @@ TEST_F(PreviewTest, AMirroredSheetIsTheOtherSheetsMirrorImage) {
   const Picture plain = drawn(0, Ink::grey);
   preview.pause();
   outcome(job({{"Mirror", "True"}}));
-  ASSERT_TRUE(eventually([&] { return preview.stage() == Stage::ready; }));
   const Picture mirrored = drawn(0, Ink::grey);
   ASSERT_EQ(mirrored.dots.size(), plain.dots.size());
-  EXPECT_NE(mirrored.dots, plain.dots);
+  EXPECT_TRUE(mirrored.dots != plain.dots);
   int different = 0;
   for (int y = 0; y < plain.height; ++y) {
     std::string row = plain.row(y);
