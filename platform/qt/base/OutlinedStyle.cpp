@@ -53,7 +53,8 @@ QColor missingOutline(const QPalette& palette) {
 }
 
 void OutlinedStyle::install() {
-  if (QApplication::style()->name() != QStringLiteral("fusion")) return;
+  const bool isNeeded = missingOutline(QApplication::palette()).isValid();
+  if (!isNeeded || QApplication::style()->name() != QStringLiteral("fusion")) return;
   QApplication::setStyle(std::make_unique<OutlinedStyle>(QStringLiteral("fusion")).release());
 }
 

@@ -11,7 +11,8 @@ class OutlinedStyle : public QProxyStyle {
   Q_OBJECT
 
  public:
-  // Has the application draw with this on top of its style, if that is one that needs it.
+  // Has the application draw with this on top of its style, if that is one that needs it with the
+  // palette of this moment.
   static void install();
 
   using QProxyStyle::QProxyStyle;
