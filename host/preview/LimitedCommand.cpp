@@ -77,16 +77,20 @@ LimitedCommand::LimitedCommand(const Call& call, QObject* parent) : QObject(pare
   process.setChildProcessModifier([limits = call.limits] { confine(limits); });
   clock.setSingleShot(true);
   clock.setInterval(call.limits.time);
-  connect(&process, &QProcess::started, this, [this] {
-    group = static_cast<pid_t>(process.processId());
-    Groups::all().add(group);
-    clock.start();
-  });
   connect(&clock, &QTimer::timeout, this, [this] {
     isSlow = true;
     killAll();
   });
   connectProcess();
+}
+
+// The group is known at once: whoever drops the command before the event loop has told that it
+// started must not wait for its work.
+void LimitedCommand::start() {
+  process.start(QIODevice::NotOpen);
+  group = static_cast<pid_t>(process.processId());
+  if (group > 0) Groups::all().add(group);
+  clock.start();
 }
 
 // By way of the event loop, so that whoever hears the end may delete this object.

@@ -42,7 +42,7 @@ class LimitedCommand : public QObject {
   explicit LimitedCommand(const Call& call, QObject* parent = nullptr);
   ~LimitedCommand() override;
 
-  void start() { process.start(QIODevice::NotOpen); }
+  void start();
 
   // Where the system has a command, also one that is for administrators; empty for nowhere.
   static QString find(const QString& name);

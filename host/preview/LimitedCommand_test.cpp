@@ -82,6 +82,11 @@ TEST_F(LimitedCommandTest, TakesWhatItHasStartedWithIt) {
   EXPECT_TRUE(eventually(isGone));
 }
 
+TEST_F(LimitedCommandTest, IsNotWaitedForWhereItIsDroppedAtOnce) {
+  command("sleep 20; echo finished").reset();
+  EXPECT_EQ(output(), "");
+}
+
 TEST_F(LimitedCommandTest, MayBeDeletedByWhoeverHearsOfItsEnd) {
   auto running = command("exit 0");
   QObject::connect(running.get(), &LimitedCommand::ended, [&] { running.reset(); });

@@ -210,6 +210,7 @@ void PreviewArea::describeSheet() {
 // --- What the person does ---
 
 void PreviewArea::turnTo(int wanted) {
+  if (!message.isEmpty()) return;  // the sheets are those of a job before
   if (wanted < 0 || wanted >= count() || wanted == index) return;
   index = wanted;
   showSheet();

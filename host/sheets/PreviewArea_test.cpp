@@ -163,6 +163,17 @@ TEST_F(PreviewAreaTest, SaysWhatCannotBeDrawn) {
   EXPECT_FALSE(number->isVisible());
 }
 
+TEST_F(PreviewAreaTest, DoesNotTurnToFormerSheetsBehindAMessage) {
+  show();
+  ASSERT_TRUE(speaks("Sheet 1 of 5: page 1"));
+  show({{"page-ranges", "50"}});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !area.whyNothingComesOut().isEmpty(); }, kPatience));
+  const QImage before = view->grab().toImage();
+  press(Qt::Key_PageDown);
+  EXPECT_EQ(area.current(), 0);
+  EXPECT_EQ(view->grab().toImage(), before);
+}
+
 TEST_F(PreviewAreaTest, WaitsForADocumentWithoutHoldingAnythingUp) {
   const test::EmptyInput input;
   document = kStandardInput;
