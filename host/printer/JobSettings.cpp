@@ -51,6 +51,10 @@ bool isJobSetting(std::string_view keyword) {
   return std::ranges::any_of(kBeginnings, begins) || std::ranges::any_of(kNames, is);
 }
 
+bool isPrintersOwn(ppd_file_t& ppd, const std::string& option) {
+  return !isJobSetting(option) && ppdFindOption(&ppd, option.c_str());
+}
+
 std::vector<std::string> optionsLeftAlone(const ppd_file_t& ppd) {
   std::vector<std::string> keywords;
   for (const PPDSection& section : sectionsOf(ppd))

@@ -18,6 +18,10 @@ namespace tavrin {
 // "OutputOrder".
 bool isJobSetting(std::string_view keyword);
 
+// Whether an option of this name is one of the printer's, whose choices the PPD has, rather than a
+// setting of the job. A printer may well have its own way to make a booklet or to collate.
+bool isPrintersOwn(ppd_file_t& ppd, const std::string& option);
+
 // The keywords of the PPD's options that are left alone.
 std::vector<std::string> optionsLeftAlone(const ppd_file_t& ppd);
 

@@ -58,5 +58,13 @@ TEST(JobSettings, InAPPDAreNamed) {
   EXPECT_EQ(optionsLeftAlone(*ppd), (std::vector<std::string>{"Number-Up", "raw"}));
 }
 
+TEST(JobSettings, GiveWayToWhatThePrinterHasItselfUnlessItIsLeftAlone) {
+  const PPDPtr ppd = makePPD({{"Booklet", "PickOne", "None", {"None", "Left"}},
+                              {"Number-Up", "PickOne", "4", {"1", "4"}}});
+  EXPECT_TRUE(isPrintersOwn(*ppd, "booklet"));
+  EXPECT_FALSE(isPrintersOwn(*ppd, "number-up"));
+  EXPECT_FALSE(isPrintersOwn(*ppd, "position"));
+}
+
 }  // namespace
 }  // namespace tavrin
