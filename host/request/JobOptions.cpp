@@ -37,8 +37,8 @@ OptionList withMarks(OptionList options, ppd_file_t& ppd) {
 
 OptionList jobOptions(const JobRequest& request, ppd_file_t* ppd) {
   OptionList options = ppd ? withMarks(request.options, *ppd) : request.options;
-  removeOption(options, kCopiesOption);
-  if (request.copies > 1) setOption(options, kCopiesOption, std::to_string(request.copies));
+  if (request.copies > 1 || optionValue(options, kCopiesOption))
+    setOption(options, kCopiesOption, std::to_string(request.copies));
   if (!request.pageRanges.empty()) setOption(options, kPageRangesOption, request.pageRanges);
   return options;
 }

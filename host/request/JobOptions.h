@@ -5,6 +5,7 @@
 #include <cups/ppd.h>
 
 #include "host/request/JobRequest.h"
+#include "host/request/JobSetting.h"
 
 // A request as the print system gets it.
 
@@ -13,9 +14,7 @@ namespace tavrin {
 // Options that the print system has for every printer.
 inline constexpr char kCopiesOption[] = "copies";
 inline constexpr char kPageRangesOption[] = "page-ranges";
-inline constexpr char kPagesPerSheetOption[] = "number-up";
 inline constexpr char kPaperOption[] = "media";
-inline constexpr char kSidesOption[] = "sides";
 // These two say what the document is, and are not sent with the job.
 inline constexpr char kFormatOption[] = "document-format";
 inline constexpr char kRawOption[] = "raw";
@@ -25,7 +24,8 @@ inline constexpr char kRawOption[] = "raw";
 OptionList withMarks(OptionList options, ppd_file_t& ppd);
 
 // All options of the job as they are sent: the request's own, the PPD's marked choices over them
-// (a null PPD has none), then copies and page ranges where they differ from one copy of all pages.
+// (a null PPD has none), then copies and page ranges where they differ from one copy of all pages;
+// one copy, too, where an option asks for another number.
 // An option of the PPD in which nothing is marked is not sent.
 OptionList jobOptions(const JobRequest& request, ppd_file_t* ppd);
 

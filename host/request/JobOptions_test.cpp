@@ -55,6 +55,12 @@ TEST(JobOptions, LeaveSettingsOfTheJobToThePerson) {
       (OptionList{{"number-up", "2"}, {"raw", "true"}, {"Mirror", "False"}, {"page-ranges", "2"}}));
 }
 
+TEST(JobOptions, AskForOneCopyWhereAnOptionAsksForMore) {
+  JobRequest request;
+  request.options = {{"copies", "7"}};
+  EXPECT_EQ(jobOptions(request, nullptr), (OptionList{{"copies", "1"}}));
+}
+
 TEST(JobOptions, KeepsTheRequestOfAPrinterWithoutAPPD) {
   JobRequest request;
   request.options = {{"media", "Letter"}};

@@ -11,7 +11,8 @@ std::string lpCommand(const JobRequest& request, const OptionList& options) {
   std::string command = "lp";
   if (!request.printer.empty())
     command += " -d " + shellQuoted(destinationName(request.printer, request.instance));
-  if (request.copies > 1) command += " -n " + std::to_string(request.copies);
+  if (request.copies > 1 || optionValue(options, kCopiesOption))
+    command += " -n " + std::to_string(request.copies);
   if (!request.title.empty()) command += " -t " + shellQuoted(jobTitle(request));
   for (const auto& [name, value] : options)
     if (!equalIgnoringCase(name, kCopiesOption))

@@ -9,6 +9,9 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include "host/support/TextLists.h"
+#include "platform/text/IgnoringCase.h"
+
 namespace tavrin {
 
 namespace {
@@ -37,10 +40,10 @@ std::optional<int> page(const QString& text, int fallback) {
 
 Result<Range> range(const QString& text) {
   const QStringList ends = text.split('-');
-  const bool open = ends.size() == 2 && ends[1].isEmpty();
-  const auto first = page(ends.front(), 0);
+  const auto first = page(ends.front(), 1);
   const auto last = page(ends.back(), kLastPage);
-  if (ends.size() > 2 || !first || *first == 0 || !last || (ends.back().isEmpty() && !open))
+  const bool namesNone = ends.join(QString()).isEmpty();
+  if (ends.size() > 2 || namesNone || !first || !last)
     return failure(
         say("“%1” is not a page or a range of pages. Write them like this: 1-3,5.").arg(text));
   if (*last < *first)
@@ -66,6 +69,13 @@ std::string written(const Range& range) {
   return first + "-" + (range.last == kLastPage ? "" : std::to_string(range.last));
 }
 
+// How many of the numbers up to this one are in the set.
+int countUpTo(int number, const std::string& pageSet) {
+  if (equalIgnoringCase(pageSet, "odd")) return (number + 1) / 2;
+  if (equalIgnoringCase(pageSet, "even")) return number / 2;
+  return number;
+}
+
 }  // namespace
 
 Result<std::string> checkedPageRanges(const QString& text) {
@@ -85,6 +95,17 @@ Result<std::string> checkedPageRanges(const QString& text) {
   std::string result;
   for (const Range& next : merged(ranges)) result += (result.empty() ? "" : ",") + written(next);
   return result;
+}
+
+int pagesInRanges(const std::string& ranges, const std::string& pageSet, int documentPages) {
+  int count = 0;
+  for (const std::string& part : partsOf(ranges.empty() ? "1-" : ranges)) {
+    const Result<Range> next = range(QString::fromStdString(part));
+    if (!next || next->first > documentPages) continue;
+    count += countUpTo(std::min(next->last, documentPages), pageSet) -
+             countUpTo(next->first - 1, pageSet);
+  }
+  return count;
 }
 
 }  // namespace tavrin
