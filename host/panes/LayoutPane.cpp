@@ -21,7 +21,8 @@ LayoutPane::LayoutPane(JobFields& theFields, QWidget* parent)
       fields(theFields),
       form(makeForm(this)),
       pagesPopUp(makeChild<QComboBox>(this)) {
-  for (const int pages : kPagesPerSheet) pagesPopUp->addItem(locale().toString(pages), pages);
+  for (const std::string& value : findJobSetting(kPagesPerSheetOption)->values)
+    pagesPopUp->addItem(locale().toString(integerValue(value)), integerValue(value));
   pagesPopUp->setObjectName("pagesPerSheet");
   addRow(*form, tr("Pages per &Sheet:"), *pagesPopUp);
   refresh();

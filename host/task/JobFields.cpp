@@ -2,19 +2,73 @@
 
 #include <algorithm>
 
+#include <QLocale>
+#include <QStringList>
+
 #include "host/request/JobOptions.h"
+#include "host/request/OptionAliases.h"
 #include "host/request/PageRanges.h"
 
 namespace tavrin {
 namespace {
 
+constexpr char kUsualCopies[] = "1";
+
 int possibleCopies(int copies) { return std::clamp(copies, 1, kMostCopies); }
 
-bool canLayOut(int pages) {
-  return std::ranges::find(kPagesPerSheet, pages) != kPagesPerSheet.end();
+QString shown(const std::string& text) { return QString::fromStdString(text); }
+
+// "all, odd or even"
+QString alternatives(const JobSetting& setting) {
+  QStringList values;
+  for (const std::string& value : setting.values)
+    if (!value.empty()) values << shown(value);
+  const QString last = values.takeLast();
+  if (values.isEmpty()) return last;
+  return JobFields::tr("%1 or %2", "values of a setting")
+      .arg(values.join(JobFields::tr(", ", "between values of a setting")), last);
+}
+
+QString problemWith(const JobSetting& setting, const std::string& value) {
+  if (setting.option == kPagesPerSheetOption)
+    return JobFields::tr("A sheet can hold %1 pages, not “%2”.")
+        .arg(alternatives(setting), shown(value));
+  return JobFields::tr("The option “%1” can be %2, not “%3”.")
+      .arg(shown(setting.option), alternatives(setting), shown(value));
+}
+
+QString problemWithScaling(const OptionList& options) {
+  if (const OptString percent = optionValue(options, "scaling"))
+    return JobFields::tr("Pages can be scaled to 1 to %1 percent, not “%2”.")
+        .arg(QString::number(kMostPercent), shown(*percent));
+  return JobFields::tr("The option “%1” can be %2, not “%3”.")
+      .arg(kFitOption, JobFields::tr("auto, fit, fill or none"),
+           shown(optionValue(options, kFitOption).value_or("")));
 }
 
 }  // namespace
+
+JobFields::JobFields() {
+  for (const JobSetting& setting : jobSettings()) settings[setting.option] = {setting.usual()};
+}
+
+template <class T>
+void JobFields::take(Field<T>& field, T value) {
+  if (!field.byHand) field.value = std::move(value);
+}
+
+void JobFields::tellChoice(int pagesPerSheetBefore) {
+  if (const int pages = pagesPerSheet(); pages != pagesPerSheetBefore)
+    emit pagesPerSheetChanged(pages);
+  emit changed();
+}
+
+void JobFields::tellSuggestion(int pagesPerSheetBefore) {
+  emit suggestionTaken();
+  tellChoice(pagesPerSheetBefore);
+}
+
+// --- Copies and pages ---
 
 void JobFields::setCopies(int copies) {
   copiesField = {possibleCopies(copies), true};
@@ -23,9 +77,8 @@ void JobFields::setCopies(int copies) {
 
 void JobFields::suggestCopies(int copies) {
   if (copiesField.byHand) return;
-  copiesField.value = possibleCopies(copies);
-  emit suggestionTaken();
-  emit changed();
+  take(copiesField, possibleCopies(copies));
+  tellSuggestion(pagesPerSheet());
 }
 
 void JobFields::setPages(Pages pages) {
@@ -35,9 +88,8 @@ void JobFields::setPages(Pages pages) {
 
 void JobFields::suggestPageRange(const QString& range) {
   if (pagesField.byHand) return;
-  pagesField.value = {range.isEmpty(), range};
-  emit suggestionTaken();
-  emit changed();
+  take(pagesField, Pages{range.isEmpty(), range});
+  tellSuggestion(pagesPerSheet());
 }
 
 Result<std::string> JobFields::pageRanges() const {
@@ -45,33 +97,147 @@ Result<std::string> JobFields::pageRanges() const {
   return checkedPageRanges(pages().range);
 }
 
-void JobFields::setPagesPerSheet(int pages) {
-  if (!canLayOut(pages)) return;
-  perSheetField = {pages, true};
-  emit pagesPerSheetChanged(pages);
-  emit changed();
+QString JobFields::pagesProblem() const {
+  const Result<std::string> ranges = pageRanges();
+  if (!ranges) return shown(ranges.reason());
+  const std::string& set = value(kPageSetOption);
+  if (knownPages == 0 || pagesInRanges(*ranges, set, knownPages) > 0) return {};
+  const QString has = knownPages == 1
+                          ? tr("The document has one page")
+                          : tr("The document has %1 pages").arg(QLocale().toString(knownPages));
+  if (pagesInRanges(*ranges, "all", knownPages) == 0)
+    return tr("%1; the range “%2” holds none of them.", "the document has so many pages")
+        .arg(has, pages().range.simplified());
+  return set == "odd" ? tr("%1; no odd one is among those to print.", "pages").arg(has)
+                      : tr("%1; no even one is among those to print.", "pages").arg(has);
 }
 
-bool JobFields::suggestPagesPerSheet(int pages) {
-  if (!canLayOut(pages)) return false;
-  if (perSheetField.byHand) return true;
-  perSheetField.value = pages;
-  emit suggestionTaken();
-  emit changed();
-  emit pagesPerSheetChanged(pages);
+void JobFields::setDocumentPages(int pages) {
+  if (std::exchange(knownPages, pages) != pages) emit suggestionTaken();
+}
+
+void JobFields::setSeveralPictures(bool several) {
+  if (std::exchange(severalPictures, several) != several) tellSuggestion(pagesPerSheet());
+}
+
+// --- Settings of the table ---
+
+const JobFields::Setting& JobFields::setting(const std::string& option) const {
+  return settings.at(option);
+}
+
+const std::string& JobFields::value(const std::string& option) const {
+  return setting(option).value;
+}
+
+void JobFields::setValue(const std::string& option, const std::string& value) {
+  const JobSetting* known = findJobSetting(option);
+  const OptString meant = known ? known->meant(value) : std::nullopt;
+  if (!meant) return;
+  const int before = pagesPerSheet();
+  settings[option] = {*meant, true};
+  tellChoice(before);
+}
+
+bool JobFields::suggestValue(const std::string& option, const std::string& value) {
+  const JobSetting* known = findJobSetting(option);
+  const OptString meant = known ? known->meant(value) : std::nullopt;
+  if (!meant) return false;
+  if (setting(option).byHand) return true;
+  const int before = pagesPerSheet();
+  take(settings[option], *meant);
+  tellSuggestion(before);
   return true;
 }
 
-QString JobFields::suggest(const JobRequest& request, const OptionList& options) {
+bool JobFields::matters(const std::string& option) const {
+  if (option == kPagesPerSheetOption) return !saysYes(value(kBookletOption));
+  if (option == kOrderOnSheetOption || option == kBorderOption) return pagesPerSheet() > 1;
+  if (option == kCollateOption) return copies() > 1;
+  if (option == kTogetherOption) return severalPictures;
+  return true;
+}
+
+const std::string& JobFields::sentValue(const JobSetting& known) const {
+  const Setting& field = setting(known.option);
+  return field.byHand && !matters(known.option) ? known.usual() : field.value;
+}
+
+int JobFields::pagesPerSheet() const {
+  return saysYes(value(kBookletOption)) ? 2 : integerValue(value(kPagesPerSheetOption));
+}
+
+void JobFields::setPagesPerSheet(int pages) {
+  setValue(kPagesPerSheetOption, std::to_string(pages));
+}
+
+bool JobFields::suggestPagesPerSheet(int pages) {
+  return suggestValue(kPagesPerSheetOption, std::to_string(pages));
+}
+
+void JobFields::setScaling(ScalingField::Way way) {
+  scalingField.setWay(way);
+  emit changed();
+}
+
+void JobFields::setScalingPercent(int percent) {
+  scalingField.setPercent(percent);
+  emit changed();
+}
+
+// --- Options ---
+
+void JobFields::suggestPages(const JobRequest& request, const OptionList& options) {
   const OptString copies = optionValue(options, kCopiesOption);
-  suggestCopies(request.copies > 1 || !copies ? request.copies : integerValue(copies));
+  take(copiesField,
+       possibleCopies(request.copies > 1 || !copies ? request.copies : integerValue(copies)));
   const OptString range = optionValue(options, kPageRangesOption);
-  suggestPageRange(
-      QString::fromStdString(request.pageRanges.empty() ? range.value_or("") : request.pageRanges));
-  const OptString pages = optionValue(options, kPagesPerSheetOption);
-  if (suggestPagesPerSheet(pages ? integerValue(pages) : 1)) return {};
-  return tr("A sheet can hold 1, 2, 4, 6, 9 or 16 pages, not “%1”.")
-      .arg(QString::fromStdString(*pages));
+  const QString pages = shown(request.pageRanges.empty() ? range.value_or("") : request.pageRanges);
+  take(pagesField, Pages{pages.isEmpty(), pages});
+}
+
+QStringList JobFields::suggestSettings(const OptionList& options) {
+  QStringList problems;
+  for (const JobSetting& known : jobSettings()) {
+    const OptString asked = optionValue(options, known.option);
+    const OptString meant = asked ? known.meant(*asked) : known.usual();
+    take(settings[known.option], meant.value_or(known.usual()));
+    if (!meant) problems << problemWith(known, *asked);
+  }
+  if (!scalingField.suggest(options)) problems << problemWithScaling(options);
+  return problems;
+}
+
+QString JobFields::suggest(const JobRequest& request, const OptionList& options) {
+  const int before = pagesPerSheet();
+  given = inFirstNames(options);
+  suggestPages(request, given);
+  const QStringList problems = suggestSettings(given);
+  tellSuggestion(before);
+  return problems.join(' ');
+}
+
+OptionList JobFields::options() const {
+  OptionList options;
+  const auto add = [&](const std::string& option, const std::string& value,
+                       const std::string& usual) {
+    const bool says = value != usual || optionValue(given, option);
+    if (says && !value.empty()) options.emplace_back(option, value);
+  };
+  add(kCopiesOption, std::to_string(copies()), kUsualCopies);
+  if (const Result<std::string> ranges = pageRanges(); ranges && !ranges->empty())
+    options.emplace_back(kPageRangesOption, *ranges);
+  for (const JobSetting& known : jobSettings()) add(known.option, sentValue(known), known.usual());
+  for (const auto& option : scalingField.options()) options.push_back(option);
+  return options;
+}
+
+std::vector<std::string> JobFields::optionNames() {
+  std::vector<std::string> names{kCopiesOption, kPageRangesOption};
+  for (const JobSetting& known : jobSettings()) names.push_back(known.option);
+  for (const auto* others : {&ScalingField::optionNames(), &otherNames()})
+    names.insert(names.end(), others->begin(), others->end());
+  return names;
 }
 
 }  // namespace tavrin

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -8,15 +8,16 @@
 #include <QString>
 
 #include "host/request/JobRequest.h"
+#include "host/request/JobSetting.h"
+#include "host/task/ScalingField.h"
+#include "platform/text/IgnoringCase.h"
 #include "platform/text/Result.h"
 
 namespace tavrin {
 
-// The numbers of pages on a sheet that the print system can lay out.
-inline constexpr std::array kPagesPerSheet{1, 2, 4, 6, 9, 16};
-
-// What is set for every job, whatever its printer: copies, pages, pages per sheet. The program and
-// the printer suggest values; a suggestion has no effect once the person has set the field.
+// What is set for every job, whatever its printer: copies, pages, how pages come to lie on sheets.
+// The program and the printer suggest values; a suggestion has no effect once the person has set
+// the field. Each field is an option of the job by the print system's own name.
 class JobFields : public QObject {
   Q_OBJECT
 
@@ -26,6 +27,8 @@ class JobFields : public QObject {
     bool all = true;
     QString range;
   };
+
+  JobFields();
 
   int copies() const { return copiesField.value; }
   // An impossible number of copies becomes the nearest possible one.
@@ -38,19 +41,49 @@ class JobFields : public QObject {
   void suggestPageRange(const QString& range);
   // The pages in the print system's form ("1-3,5"), empty for all; or what is wrong with them.
   Result<std::string> pageRanges() const;
+  // What is wrong with the pages, or that the document has none of them; else empty.
+  QString pagesProblem() const;
 
-  int pagesPerSheet() const { return perSheetField.value; }
-  // Nothing changes for a number that the print system cannot lay out.
+  // The setting of this option, which is one of the table (see jobSettings).
+  const std::string& value(const std::string& option) const;
+  // Nothing changes for a value that the setting does not have.
+  void setValue(const std::string& option, const std::string& value);
+  // False, and nothing changes, for a value that the setting does not have.
+  bool suggestValue(const std::string& option, const std::string& value);
+  // Whether the setting makes a difference now, such as the order of pages on a sheet where there
+  // are several on it. One that does not is not sent if the person has set it.
+  bool matters(const std::string& option) const;
+
+  const ScalingField& scaling() const { return scalingField; }
+  void setScaling(ScalingField::Way way);
+  void setScalingPercent(int percent);
+
+  // Two for a booklet.
+  int pagesPerSheet() const;
+  // The same as the setting of "number-up".
   void setPagesPerSheet(int pages);
-  // False, and nothing changes, for a number that the print system cannot lay out.
   bool suggestPagesPerSheet(int pages);
 
-  // Suggests what the request asks for, or else what these options do. A sentence where they ask
-  // for an impossible number of pages on a sheet; else empty.
+  // How many pages the document has; 0 while nobody knows.
+  int documentPages() const { return knownPages; }
+  void setDocumentPages(int pages);
+  // Whether the document is several pictures, which can come together on sheets.
+  bool hasSeveralPictures() const { return severalPictures; }
+  void setSeveralPictures(bool several);
+
+  // Suggests what the request asks for, or else what these options do. A sentence for each option
+  // with a value that cannot be meant; else empty.
   QString suggest(const JobRequest& request, const OptionList& options);
 
+  // All fields as options of the job. A usual value is left out, unless options that were given to
+  // suggest() have another; pages are left out while they are wrong.
+  OptionList options() const;
+  // The names of all options that the fields stand for.
+  static std::vector<std::string> optionNames();
+
  signals:
-  // A suggestion was taken: what shows the fields shows them anew.
+  // A suggestion was taken, or something else is known of the document: what shows the fields shows
+  // them anew.
   void suggestionTaken();
   void pagesPerSheetChanged(int pages);
   // Any field has another value, whoever set it.
@@ -62,10 +95,24 @@ class JobFields : public QObject {
     T value;
     bool byHand = false;
   };
+  using Setting = Field<std::string>;
+
+  template <class T>
+  static void take(Field<T>& field, T value);
+  void tellSuggestion(int pagesPerSheetBefore);
+  void tellChoice(int pagesPerSheetBefore);
+  const Setting& setting(const std::string& option) const;
+  const std::string& sentValue(const JobSetting& setting) const;
+  void suggestPages(const JobRequest& request, const OptionList& options);
+  QStringList suggestSettings(const OptionList& options);
 
   Field<int> copiesField{1};
   Field<Pages> pagesField{};
-  Field<int> perSheetField{1};
+  std::map<std::string, Setting, LessIgnoringCase> settings;
+  ScalingField scalingField;
+  OptionList given;  // to suggest(), in first names
+  int knownPages = 0;
+  bool severalPictures = false;
 };
 
 }  // namespace tavrin

@@ -169,7 +169,6 @@ void PrintTask::beginSession(const SharedPPD& ppd) {
 
 // Another instance of the same printer.
 void PrintTask::restartSession() {
-  suggestFields();
   warn(markPrinter());
   enter(Stage::ready);
   emit sessionRestarted();
@@ -197,11 +196,18 @@ OptionList PrintTask::startOptions() const {
   return options;
 }
 
+// What the printer has itself by the name of a field is a choice of its PPD.
 void PrintTask::suggestFields() {
-  layoutProblem = jobFields.suggest(asked, startOptions()).toStdString();
+  OptionList options = startOptions();
+  if (current)
+    std::erase_if(options, [this](const auto& option) {
+      return isPrintersOwn(current->ppd(), option.first);
+    });
+  layoutProblem = jobFields.suggest(asked, options).toStdString();
 }
 
 std::string PrintTask::markPrinter() {
+  suggestFields();
   current->setPagesPerSheet(jobFields.pagesPerSheet());
   const auto before = kept.find(destination);
   std::vector<std::string> problems =
@@ -254,10 +260,8 @@ JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
   finished.pageRanges = ranges;
   finished.options = startOptions();
   // The fields have taken these.
-  for (const char* name : {kCopiesOption, kPageRangesOption}) removeOption(finished.options, name);
-  const int pages = jobFields.pagesPerSheet();
-  if (pages > 1 || optionValue(finished.options, kPagesPerSheetOption))
-    setOption(finished.options, kPagesPerSheetOption, std::to_string(pages));
+  for (const std::string& name : JobFields::optionNames()) removeOption(finished.options, name);
+  for (const auto& [name, value] : jobFields.options()) setOption(finished.options, name, value);
   return finished;
 }
 

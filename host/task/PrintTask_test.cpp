@@ -182,6 +182,33 @@ TEST_F(PrintTaskTest, ShowsTheLayoutToThePanels) {
   EXPECT_EQ(panel.host.printSettings()->value(kPMLayoutColumns), "3");
 }
 
+TEST_F(PrintTaskTest, PutsTheFieldsIntoTheJobInPlaceOfWhatTheyWereFilledInFrom) {
+  JobRequest landscape = request();
+  landscape.options = {{"landscape", "true"}, {"number-up", "4"}, {"job-hold-until", "night"}};
+  PrintTask task(landscape);
+  task.usePrinterWithoutQueue(printer(), place.path());
+  EXPECT_EQ(optionValue(task.options(), "orientation-requested"), "4");
+  task.fields().setValue("orientation-requested", "3");
+  task.fields().setPagesPerSheet(1);
+  const OptionList options = task.options();
+  EXPECT_EQ(optionValue(options, "orientation-requested"), "3");
+  EXPECT_EQ(optionValue(options, "landscape"), std::nullopt);
+  EXPECT_EQ(optionValue(options, "number-up"), "1");
+  EXPECT_EQ(optionValue(options, "job-hold-until"), "night");
+}
+
+TEST_F(PrintTaskTest, TakesNoFieldFromAChoiceOfThePrinters) {
+  JobRequest folded = request();
+  folded.options = {{"Booklet", "Left"}};
+  PrintTask task(folded);
+  task.usePrinterWithoutQueue(
+      makePPD({pageSizeOption(), {"Booklet/Booklet", "PickOne", "None", {"None", "Left"}}}),
+      place.path());
+  EXPECT_EQ(task.notice().text, "");
+  EXPECT_EQ(optionValue(task.options(), "Booklet"), "Left");
+  EXPECT_EQ(task.fields().pagesPerSheet(), 1);
+}
+
 TEST_F(PrintTaskTest, LooksForPrintersAndReadsTheOneThatIsNamed) {
   PrivateCupsd cups;
   addQueue(cups, "attic");
