@@ -54,6 +54,10 @@ room(host/dialog         platform/text platform/files platform/toolkit platform/
                          host/printer host/panels host/task host/sheets host/panes host/general)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
                          host/printer host/document host/request host/task host/dialog)
+room(host/impose/layout  platform/text host/support)
+room(host/impose/pages   platform/text host/impose/layout)
+room(host/impose/program platform/text platform/files host/support host/impose/layout
+                         host/impose/pages)
 room(replay/commands     platform/text)
 room(replay/screen       platform/text platform/qt/base platform/qt/layout replay/commands)
 room(replay/session      ${CORE} platform/qt/base platform/qt/toolkit host/printer host/panels
@@ -65,17 +69,24 @@ room(tests               ${ROOMS})
 
 # The libraries: how an include of one looks, and the files that may have it. Widgets are all of Qt
 # but what its core offers to programs without a screen.
-set(LIBRARIES Qt widgets cups plist nlohmann gtest)
+set(LIBRARIES Qt widgets pictures cups plist qpdf heif nlohmann gtest)
 set(LOOK_Qt "<(Q[A-Z]|Qt|q[a-z]+\\.h)")
 set(MAY_HAVE_Qt "^(platform/qt|host|replay|tests)/")
 set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QLocale|QMimeDatabase|QObject|QProcess|QRegularExpression|QStandardPaths|QString|QStringList|QTimer|QUrl")
 set(LOOK_widgets "${LOOK_Qt}")
-set(NOT_widgets "<(${QT_CORE})>")
+set(QT_PICTURES "QColorSpace|QImage|QImageReader")
+set(NOT_widgets "<(${QT_CORE}|${QT_PICTURES})>")
 set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|general|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
+set(LOOK_pictures "<(${QT_PICTURES})>")
+set(MAY_HAVE_pictures "^host/impose/pages/|${MAY_HAVE_widgets}")
 set(LOOK_cups "<cups/")
 set(MAY_HAVE_cups "^(ppd|conflict|controller|plugin|host|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_plist "<plist/")
 set(MAY_HAVE_plist "^platform/files/PropertyList\\.cpp$")
+set(LOOK_qpdf "<qpdf/")
+set(MAY_HAVE_qpdf "^host/impose/(pages|program)/|^tests/")
+set(LOOK_heif "<libheif/")
+set(MAY_HAVE_heif "^host/impose/pages/")
 set(LOOK_nlohmann "<nlohmann/")
 set(MAY_HAVE_nlohmann "^(host|replay|tests)/")
 set(LOOK_gtest "<(gtest|gmock)/")

@@ -1,0 +1,108 @@
+#include "host/impose/pages/PDFPages.h"
+
+#include <qpdf/QPDFAcroFormDocumentHelper.hh>
+#include <qpdf/QPDFExc.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+
+#include "host/impose/pages/Trouble.h"
+#include "platform/text/Quoted.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr Rect kUsualBox{0, 0, 612, 792};
+constexpr double kLargestLength = 1e6;  // points
+
+bool isSound(const Rect& box) {
+  return box.width >= 1 && box.height >= 1 && box.width <= kLargestLength &&
+         box.height <= kLargestLength;
+}
+
+Rect boxOf(QPDFObjectHandle array, const Rect& fallback) {
+  if (!array.isRectangle()) return fallback;
+  const auto corners = array.getArrayAsRectangle();
+  const Rect box{corners.llx, corners.lly, corners.urx - corners.llx, corners.ury - corners.lly};
+  return isSound(box) ? box : fallback;
+}
+
+// What readers show: the crop box as far as there is paper.
+Rect shownBox(QPDFPageObjectHelper page) {
+  const Rect media = boxOf(page.getAttribute("/MediaBox", false), kUsualBox);
+  const Rect both = common(media, boxOf(page.getAttribute("/CropBox", false), media));
+  return isSound(both) ? both : media;
+}
+
+// Clockwise, as the page has it.
+int quarterTurns(QPDFPageObjectHelper page) {
+  QPDFObjectHandle rotate = page.getAttribute("/Rotate", false);
+  if (!rotate.isInteger()) return 0;
+  return static_cast<int>((rotate.getIntValue() / 90 % 4 + 4) % 4);
+}
+
+double userUnit(QPDFPageObjectHelper page) {
+  double unit = 1;
+  const bool isNumber = page.getObjectHandle().getKey("/UserUnit").getValueAsNumber(unit);
+  return isNumber && unit > 0 && unit <= kLargestLength ? unit : 1;
+}
+
+// The unit square turned clockwise within itself.
+Matrix turnedClockwise(int quarters) {
+  switch (quarters) {
+    case 1:
+      return {0, -1, 1, 0, 0, 1};
+    case 2:
+      return {-1, 0, 0, -1, 1, 1};
+    case 3:
+      return {0, 1, -1, 0, 1, 0};
+    default:
+      return {};
+  }
+}
+
+[[noreturn]] void explain(const QPDFExc& problem, const std::filesystem::path& file) {
+  const std::string name = quoted(file.string());
+  switch (problem.getErrorCode()) {
+    case qpdf_e_password:
+      throw Trouble(Status::locked, "The document " + name +
+                                        " wants a password. Save it without one and print that.");
+    case qpdf_e_system:
+      throw Trouble(Status::damaged, "The document " + name +
+                                         " cannot be read: " + problem.getMessageDetail() + ".");
+    default:
+      throw Trouble(Status::damaged, "The document " + name + " is damaged.");
+  }
+}
+
+}  // namespace
+
+PDFPages::PDFPages(const std::filesystem::path& file) try {
+  pdf.setSuppressWarnings(true);
+  pdf.processFile(file.c_str());
+  pages = QPDFPageDocumentHelper(pdf).getAllPages();
+} catch (const QPDFExc& problem) {
+  explain(problem, file);
+}
+
+PageLook PDFPages::look(int page) const {
+  const Rect box = shownBox(pages[page]);
+  const double unit = userUnit(pages[page]);
+  const Size size{box.width * unit, box.height * unit};
+  return {quarterTurns(pages[page]) % 2 == 0 ? size : onItsSide(size)};
+}
+
+Drawing PDFPages::draw(int page, QPDF& output) {
+  if (!isFlat) {
+    QPDFAcroFormDocumentHelper(pdf).generateAppearancesIfNeeded();
+    QPDFPageDocumentHelper(pdf).flattenAnnotations(an_print);
+    isFlat = true;
+  }
+  const Rect box = shownBox(pages[page]);
+  QPDFObjectHandle form = pages[page].getFormXObjectForPage(false);
+  form.getDict().replaceKey("/BBox", QPDFObjectHandle::newArray(QPDFObjectHandle::Rectangle(
+                                         box.left, box.bottom, box.right(), box.top())));
+  return {output.copyForeignObject(form),
+          then(fromRect(box), turnedClockwise(quarterTurns(pages[page])))};
+}
+
+}  // namespace tavrin

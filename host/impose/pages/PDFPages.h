@@ -1,0 +1,29 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include <qpdf/QPDFPageObjectHelper.hh>
+
+#include "host/impose/pages/PageSource.h"
+
+namespace tavrin {
+
+// The pages of a PDF as a reader shows them, with what is filled into forms and with those
+// annotations that are meant for paper.
+class PDFPages : public PageSource {
+ public:
+  // Reads the file; throws Trouble.
+  explicit PDFPages(const std::filesystem::path& file);
+
+  int count() const override { return static_cast<int>(pages.size()); }
+  PageLook look(int page) const override;
+  Drawing draw(int page, QPDF& output) override;
+
+ private:
+  QPDF pdf;
+  std::vector<QPDFPageObjectHelper> pages;
+  bool isFlat = false;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,83 @@
+// tavrin-impose: puts the pages of documents on sheets, for printing them as they are.
+
+#include <algorithm>
+#include <clocale>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include <QCoreApplication>
+#include <nlohmann/json.hpp>
+
+#include "host/impose/pages/OpenPages.h"
+#include "host/impose/pages/Trouble.h"
+#include "host/impose/program/DocumentPages.h"
+#include "host/impose/program/ImposeArguments.h"
+#include "host/impose/program/OutputPipe.h"
+#include "host/impose/program/SheetWriter.h"
+#include "platform/files/StandardStreams.h"
+
+namespace {
+
+using namespace tavrin;
+
+std::unique_ptr<PageSource> open(const NamedDocument& document) {
+  auto pages = openPages(document.format, document.file);
+  if (pages->count() == 0) throw Trouble(Status::noPages, "The document has no pages.");
+  return pages;
+}
+
+std::string description(const NamedDocument& document) {
+  auto source = open(document);
+  const bool isTurned = source->isTurned();
+  DocumentPages pages;
+  pages.add(std::move(source));
+  const auto isPortrait = [](const PageLook& page) { return page.size.height >= page.size.width; };
+  const Size size = pages.looks().front().size;
+  nlohmann::ordered_json text;
+  text["pages"] = pages.looks().size();
+  text["width"] = size.width;
+  text["height"] = size.height;
+  text["portrait"] = std::ranges::all_of(pages.looks(), isPortrait);
+  text["turned"] = isTurned;
+  return text.dump() + "\n";
+}
+
+void look(const ImposeArguments& wish) {
+  const std::string problem = writeOutput(description(wish.documents.front()));
+  if (!problem.empty())
+    throw Trouble(Status::notWritten, "Standard output cannot be written: " + problem + ".");
+}
+
+void impose(const ImposeArguments& wish) {
+  DocumentPages pages;
+  for (const NamedDocument& document : wish.documents) pages.add(open(document));
+  const auto sheets =
+      imposed(pages.looks(), wish.paper, layoutOptions(wish.options), wish.wholeSheets);
+  if (sheets.empty())
+    throw Trouble(Status::noPages, "None of the pages that were asked for is in the document.");
+  OutputPipe output;
+  writeSheets(sheets, wish.paper.size, pages, output);
+  output.finish();
+}
+
+int complain(Status status, const std::string& sentence) {
+  writeError("tavrin-impose", sentence);
+  return static_cast<int>(status);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  occupyStandardStreams();
+  const QCoreApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");  // numbers in files are the same everywhere
+  const auto wish = imposeArguments({argv + 1, argv + argc});
+  if (!wish) return complain(Status::usage, wish.reason());
+  wish->look ? look(*wish) : impose(*wish);
+  return static_cast<int>(Status::done);
+} catch (const Trouble& trouble) {
+  return complain(trouble.status(), trouble.what());
+} catch (const std::exception& problem) {
+  return complain(Status::damaged, std::string("The document cannot be read: ") + problem.what());
+}
