@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <memory>
 
-#include "host/impose/pages/JpegHeader.h"
 #include "host/impose/pages/PageSource.h"
+#include "host/impose/pictures/JpegHeader.h"
 
 namespace tavrin {
 

@@ -1,8 +1,13 @@
 #include "host/impose/pages/OpenPages.h"
 
+#include <optional>
+
+#include "host/impose/pages/DecodedPictures.h"
 #include "host/impose/pages/JpegPicture.h"
 #include "host/impose/pages/PDFPages.h"
-#include "host/impose/pages/Trouble.h"
+#include "host/impose/pictures/HeifFrames.h"
+#include "host/impose/pictures/QtFrames.h"
+#include "host/impose/pictures/Trouble.h"
 #include "platform/text/IgnoringCase.h"
 #include "platform/text/Quoted.h"
 
@@ -10,18 +15,31 @@ namespace tavrin {
 
 namespace {
 
-std::unique_ptr<PageSource> openPicture(const std::filesystem::path& path) {
-  auto file = std::make_shared<MappedFile>(path);
-  if (!isJpeg(file->bytes()))
-    throw Trouble(Status::unknownKind,
-                  quoted(path.string()) + " is no kind of picture that can be read here.");
-  const auto header = jpegHeader(file->bytes());
-  if (!header)
-    throw Trouble(Status::damaged, "The picture " + quoted(path.string()) + " is damaged.");
+std::string pictureNamed(const std::filesystem::path& path) {
+  return "The picture " + quoted(path.string());
+}
+
+// Absent when it must be decoded after all.
+std::optional<JpegHeader> headerForPDF(const std::filesystem::path& path, Bytes file) {
+  const auto header = jpegHeader(file);
+  if (!header) throw Trouble(Status::damaged, pictureNamed(path) + " is damaged.");
   if (!header->isWhole)
-    throw Trouble(Status::damaged, "The picture " + quoted(path.string()) +
-                                       " is cut off: its end is missing. Copy it anew.");
-  return std::make_unique<JpegPicture>(file, *header);
+    throw Trouble(Status::damaged,
+                  pictureNamed(path) + " is cut off: its end is missing. Copy it anew.");
+  return header->isForPDF ? header : std::nullopt;
+}
+
+std::unique_ptr<PageSource> openPicture(const std::filesystem::path& path) {
+  const auto file = std::make_shared<MappedFile>(path);
+  if (isJpeg(file->bytes()))
+    if (const auto header = headerForPDF(path, file->bytes()))
+      return std::make_unique<JpegPicture>(file, *header);
+  if (HeifFrames::knows(file->bytes()))
+    return std::make_unique<DecodedPictures>(std::make_shared<HeifFrames>(path, file));
+  if (QtFrames::knows(path))
+    return std::make_unique<DecodedPictures>(std::make_shared<QtFrames>(path, *file));
+  throw Trouble(Status::unknownKind,
+                quoted(path.string()) + " is no kind of picture that can be read here.");
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 
-#include "host/impose/pages/Trouble.h"
+#include "host/impose/pictures/Trouble.h"
 #include "platform/text/Quoted.h"
 
 namespace tavrin {

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "host/impose/pages/Trouble.h"
+#include "host/impose/pictures/Trouble.h"
 
 namespace tavrin {
 

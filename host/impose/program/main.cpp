@@ -10,7 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/impose/pages/OpenPages.h"
-#include "host/impose/pages/Trouble.h"
+#include "host/impose/pictures/Trouble.h"
 #include "host/impose/program/DocumentPages.h"
 #include "host/impose/program/ImposeArguments.h"
 #include "host/impose/program/OutputPipe.h"

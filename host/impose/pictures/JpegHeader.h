@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "host/impose/pages/PictureShape.h"
+#include "host/impose/pictures/PictureShape.h"
 
 namespace tavrin {
 

@@ -1,8 +1,10 @@
-#include "host/impose/pages/JpegHeader.h"
+#include "host/impose/pictures/JpegHeader.h"
 
 #include <algorithm>
 #include <array>
 #include <string_view>
+
+#include "host/impose/pictures/StoredNumbers.h"
 
 namespace tavrin {
 
@@ -19,13 +21,11 @@ constexpr int kProfile = 0xe2;
 constexpr int kAdobe = 0xee;
 constexpr double kCentimetresPerInch = 2.54;
 
-bool startsWith(Bytes bytes, std::string_view text) {
-  const auto isSame = [](char a, unsigned char b) { return static_cast<unsigned char>(a) == b; };
-  return bytes.size() >= text.size() &&
-         std::equal(text.begin(), text.end(), bytes.begin(), isSame);
-}
+bool startsWith(Bytes bytes, std::string_view text) { return hasTextAt(bytes, 0, text); }
 
-int two(Bytes bytes, std::size_t at) { return bytes[at] << 8 | bytes[at + 1]; }
+int two(Bytes bytes, std::size_t at) {
+  return static_cast<int>(StoredNumbers(bytes, false).two(at));
+}
 
 // Frames, among which are not the tables that have numbers between theirs.
 bool isFrame(int marker) {

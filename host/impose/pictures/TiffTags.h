@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/impose/pages/MappedFile.h"
+#include "host/impose/pictures/MappedFile.h"
 
 namespace tavrin {
 

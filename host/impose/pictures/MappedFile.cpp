@@ -1,6 +1,6 @@
-#include "host/impose/pages/MappedFile.h"
+#include "host/impose/pictures/MappedFile.h"
 
-#include "host/impose/pages/Trouble.h"
+#include "host/impose/pictures/Trouble.h"
 #include "platform/text/Quoted.h"
 
 namespace tavrin {

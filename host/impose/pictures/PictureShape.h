@@ -2,7 +2,7 @@
 
 #include "host/impose/layout/Geometry.h"
 #include "host/impose/layout/Placement.h"
-#include "host/impose/pages/TiffTags.h"
+#include "host/impose/pictures/TiffTags.h"
 
 namespace tavrin {
 

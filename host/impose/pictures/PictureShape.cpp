@@ -1,4 +1,4 @@
-#include "host/impose/pages/PictureShape.h"
+#include "host/impose/pictures/PictureShape.h"
 
 #include <array>
 
