@@ -217,8 +217,6 @@ void PrintDialog::print() {
   if (QtToolkit* toolkit = QtToolkit::installed()) toolkit->settle();
   if (!isVisible()) return;  // it was left meanwhile
   if (!task.fields().pageRanges()) return general->focusPageRange();
-  if (const QString why = preview->whyNothingComesOut(); !why.isEmpty())
-    return task.warn(why.toStdString());
   task.print();
 }
 

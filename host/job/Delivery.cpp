@@ -54,7 +54,7 @@ IppPtr Delivery::sendRequest(const Document& document) const {
   IppPtr sending = printerRequest(IPP_OP_SEND_DOCUMENT, request.printer);
   ippAddInteger(sending.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
   ippAddString(sending.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
-               document.name().c_str());
+               documentName(request.document).c_str());
   ippAddString(sending.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, kFormatOption, nullptr,
                sentFormat(request, document).c_str());
   ippAddBoolean(sending.get(), IPP_TAG_OPERATION, "last-document", 1);

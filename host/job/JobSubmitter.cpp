@@ -52,7 +52,7 @@ NoValue takeBack(const JobRequest& request, int jobId, const NoValue& why) {
 Cancellable<Submission> submitJob(const JobRequest& request, const OptionList& options,
                                   const CancelFlag& cancel, const ProgressCallback& progress,
                                   Patience patience) {
-  auto document = Document::open(request.document, cancel);
+  auto document = Document::open(sentFile(request), cancel);
   if (!document) return document.why();
   auto server = PrintServer::connect(cancel, patience);
   if (!server) return server.why();

@@ -17,8 +17,6 @@ Preview::Preview(QObject* parent) : QObject(parent) {
   rest.setSingleShot(true);
   rest.setInterval(kRest);
   connect(&rest, &QTimer::timeout, this, &Preview::begin);
-  connect(&document, &DocumentFile::ready, this, &Preview::makeSheets);
-  connect(&document, &DocumentFile::failed, this, &Preview::fail);
   connect(&painter, &SheetPainter::drawn, this, &Preview::drawn);
   connect(&painter, &SheetPainter::failed, this, &Preview::drawingFailed);
 }
@@ -28,18 +26,22 @@ void Preview::enter(Stage stage) {
   emit stageChanged();
 }
 
-void Preview::show(const PreviewJob& job) {
+void Preview::show(const Preparation& job) {
   if (wanted == job) return;
   const bool isFirst = !wanted;
   wanted = job;
   maker.reset();
-  if (now == Stage::empty) enter(Stage::working);
+  if (now == Stage::empty || now == Stage::waiting) enter(Stage::working);
   rest.start(isFirst ? kFirstRest : kRest);
+}
+
+void Preview::wait() {
+  pause();
+  enter(Stage::waiting);
 }
 
 void Preview::pause() {
   rest.stop();
-  if (document.path().empty()) document.stop();
   maker.reset();
   painter.stop();
   wanted.reset();
@@ -52,21 +54,12 @@ void Preview::clear() {
 }
 
 void Preview::begin() {
-  if (!document.path().empty()) return makeSheets();
-  enter(Stage::waiting);
-  document.fetch(wanted->document);
-}
-
-void Preview::makeSheets() {
-  if (!wanted || rest.isActive()) return;
   enter(Stage::working);
-  maker = std::make_unique<SheetMaker>(*wanted, document.path(), document.format());
-  connect(maker.get(), &SheetMaker::made, this, &Preview::take);
-  connect(maker.get(), &SheetMaker::nothingLeft, this, [this] {
-    stopWith(Stage::nothing, tr("With these settings nothing comes out of the printer: no page of "
-                                "the document is left to print."));
-  });
-  connect(maker.get(), &SheetMaker::failed, this, &Preview::fail);
+  maker = std::make_unique<SheetsMaker>(*wanted);
+  connect(maker.get(), &SheetsMaker::made, this, &Preview::take);
+  connect(maker.get(), &SheetsMaker::nothingLeft, this,
+          [this](const QString& reason) { stopWith(Stage::nothing, reason); });
+  connect(maker.get(), &SheetsMaker::failed, this, &Preview::fail);
   maker->start();
 }
 
@@ -83,8 +76,7 @@ void Preview::stopWith(Stage stage, const QString& reason) {
 }
 
 void Preview::draw(int index, int pixels, SheetPainter::Ink ink) {
-  if (index >= 0 && static_cast<std::size_t>(index) < shown.list.size())
-    painter.draw(shown, index, pixels, ink);
+  if (index >= 0 && index < shown.count()) painter.draw(shown, index, pixels, ink);
 }
 
 }  // namespace tavrin

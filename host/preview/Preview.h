@@ -6,9 +6,8 @@
 #include <QObject>
 #include <QTimer>
 
-#include "host/preview/DocumentFile.h"
-#include "host/preview/SheetMaker.h"
 #include "host/preview/SheetPainter.h"
+#include "host/preview/SheetsMaker.h"
 
 namespace tavrin {
 
@@ -21,7 +20,7 @@ class Preview : public QObject {
  public:
   enum class Stage {
     empty,    // there is nothing to show yet
-    waiting,  // for the document
+    waiting,  // for the documents
     working,  // on the sheets
     ready,    // to draw
     nothing,  // no page of the document is left to print; the problem says so
@@ -31,10 +30,12 @@ class Preview : public QObject {
   explicit Preview(QObject* parent = nullptr);
 
   // Makes the sheets of this job, soon: of several jobs in quick succession only those of the last.
-  void show(const PreviewJob& job);
+  void show(const Preparation& job);
+  // Somebody looks at the documents first.
+  void wait();
   // Forgets the job and its sheets.
   void clear();
-  // Drops all work, and lets go of the document, until the next show().
+  // Drops all work until the next show().
   void pause();
 
   Stage stage() const { return now; }
@@ -54,15 +55,13 @@ class Preview : public QObject {
  private:
   void enter(Stage stage);
   void begin();
-  void makeSheets();
   void take(const Sheets& sheets);
   void stopWith(Stage stage, const QString& reason);
   void fail(const QString& reason) { stopWith(Stage::failed, reason); }
 
-  std::optional<PreviewJob> wanted;
+  std::optional<Preparation> wanted;
   QTimer rest;  // until the person has stopped
-  DocumentFile document;
-  std::unique_ptr<SheetMaker> maker;
+  std::unique_ptr<SheetsMaker> maker;
   SheetPainter painter;
   Sheets shown;
   Stage now = Stage::empty;

@@ -4,13 +4,13 @@
 #include <csignal>
 #include <fcntl.h>
 #include <map>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "host/printer/PPDLoader.h"
 #include "tests/fakes/FakePDF.h"
-#include "tests/fixtures/EmptyInput.h"
 #include "tests/fixtures/EventLoopTest.h"
+#include "tests/fixtures/SeenDocuments.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
@@ -48,20 +48,20 @@ class PreviewTest : public EventLoopTest {
     QObject::connect(&preview, &Preview::stageChanged,
                      [this] { answers += preview.stage() >= Stage::ready; });
   }
-  static std::string samplePPD() {
-    auto ppd = loadPPD(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
-    return sourceOf(SharedPPD(std::move(*ppd)));
+  Preparation job(const OptionList& options = {}) {
+    if (!seen || seen->facts().front().document != document) seen.emplace(std::vector{document});
+    return test::preparationFor(seen->facts(), fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd",
+                                options);
   }
-  PreviewJob job(const OptionList& options = {}) const { return {document, samplePPD(), options}; }
   bool reaches(Stage stage) {
     return eventually([&] { return preview.stage() == stage; });
   }
   // Shows it; the number of sheets, or what is said instead.
-  std::string outcome(const PreviewJob& shown) {
+  std::string outcome(const Preparation& shown) {
     answers = 0;
     preview.show(shown);
     EXPECT_TRUE(eventually([&] { return answers > 0; }));
-    return preview.stage() == Stage::ready ? std::to_string(preview.sheets().list.size())
+    return preview.stage() == Stage::ready ? std::to_string(preview.sheets().count())
                                            : preview.problem().toStdString();
   }
   Picture drawn(int index, Ink ink = Ink::colour) {
@@ -73,6 +73,7 @@ class PreviewTest : public EventLoopTest {
 
   test::TemporaryFolder place;
   fs::path document = place.write("pages.pdf", numberedPDF(8));
+  std::optional<test::SeenDocuments> seen;
   Preview preview;
   int answers = 0;
   std::map<int, Picture> pictures;
@@ -119,21 +120,20 @@ TEST_F(PreviewTest, MakesOnlyTheLastOfSeveralJobsInQuickSuccession) {
                    [&] { made += preview.stage() == Stage::ready; });
   outcome(job());
   for (const char* pages : {"2", "4", "6", "9"}) preview.show(job({{"number-up", pages}}));
-  EXPECT_TRUE(eventually([&] { return preview.sheets().list.size() == 1; }));
+  EXPECT_TRUE(eventually([&] { return preview.sheets().count() == 1; }));
   EXPECT_EQ(made, 2);
 }
 
 TEST_F(PreviewTest, KeepsTheSheetsUntilThereAreNewOnes) {
   outcome(job());
   preview.show(job({{"number-up", "4"}}));
-  EXPECT_EQ(preview.sheets().list.size(), 8u);
-  EXPECT_TRUE(eventually([&] { return preview.sheets().list.size() == 2; }));
+  EXPECT_EQ(preview.sheets().count(), 8);
+  EXPECT_TRUE(eventually([&] { return preview.sheets().count() == 2; }));
 }
 
 TEST_F(PreviewTest, SaysWhenNothingComesOut) {
   EXPECT_EQ(outcome(job({{"page-ranges", "50"}})),
-            "With these settings nothing comes out of the printer: no page of the document is left "
-            "to print.");
+            "“pages.pdf” has 8 pages, none of which is to be printed. Choose other pages.");
   EXPECT_EQ(preview.stage(), Stage::nothing);
 }
 
@@ -144,7 +144,7 @@ TEST_F(PreviewTest, SaysWhyThereIsNoPicture) {
 }
 
 TEST_F(PreviewTest, ShowsWhatAPrinterGetsBehindWordsInItsOwnLanguage) {
-  PreviewJob spoken = job();
+  Preparation spoken = job();
   const std::size_t line = spoken.ppd.find("*ModelName");
   ASSERT_NE(line, std::string::npos);
   spoken.ppd.insert(line,
@@ -176,13 +176,15 @@ TEST_F(PreviewTest, ARawJobIsNotLaidOut) {
   const std::string asItIs = "The printer gets the document as it is, so there is nothing to show.";
   EXPECT_EQ(outcome(job({{"raw", "true"}})), asItIs);
   preview.pause();
-  EXPECT_EQ(outcome({document, "", {}}), asItIs);
+  Preparation withoutPPD = job();
+  withoutPPD.ppd.clear();
+  EXPECT_EQ(outcome(withoutPPD), asItIs);
 }
 
 TEST_F(PreviewTest, APPDCannotHaveItsProgramsRun) {
   const fs::path evil = place.write("evil", "#!/bin/sh\ntouch " + (place.path() / "done").string());
   fs::permissions(evil, fs::perms::owner_all);
-  PreviewJob hostile = job();
+  Preparation hostile = job();
   hostile.ppd += "*cupsPreFilter: \"application/pdf 0 " + evil.string() + "\"\n";
   hostile.ppd += "*cupsFilter: \"application/pdf 0 " + evil.string() + "\"\n";
   EXPECT_EQ(outcome(hostile), "8");
@@ -192,10 +194,11 @@ TEST_F(PreviewTest, APPDCannotHaveItsProgramsRun) {
 TEST_F(PreviewTest, LeavesNoFiles) {
   const fs::path temporary = place.path() / "temporary";
   fs::create_directory(temporary);
+  const Preparation shown = job();
   setenv("TMPDIR", temporary.c_str(), 1);
   {
     Preview other;
-    other.show(job());
+    other.show(shown);
     EXPECT_TRUE(eventually([&] { return other.stage() == Stage::ready; }));
     EXPECT_FALSE(fs::is_empty(temporary));
   }
@@ -203,17 +206,20 @@ TEST_F(PreviewTest, LeavesNoFiles) {
   unsetenv("TMPDIR");
 }
 
-TEST_F(PreviewTest, WaitsForADocumentThatIsNotThereYet) {
-  const test::EmptyInput input;
-  document = kStandardInput;
-  preview.show(job());
-  EXPECT_TRUE(reaches(Stage::waiting));
+TEST_F(PreviewTest, WaitsWhileTheDocumentsAreLookedAt) {
+  preview.wait();
+  EXPECT_EQ(preview.stage(), Stage::waiting);
+  EXPECT_EQ(outcome(job()), "8");
 }
 
-TEST_F(PreviewTest, LeavesAPipeToTheJob) {
-  document = place.path() / "pipe";
-  ASSERT_EQ(mkfifo(document.c_str(), 0600), 0);
-  EXPECT_EQ(outcome(job()), "There is no preview of a document that can be read only once.");
+TEST_F(PreviewTest, ShowsAllDocumentsOneAfterTheOther) {
+  const test::SeenDocuments both({document, place.write("more.pdf", numberedPDF(3))});
+  Preparation several = job();
+  several.documents = both.facts();
+  EXPECT_EQ(outcome(several), "11");
+  EXPECT_EQ(preview.sheets().at(7).index, 7);
+  EXPECT_EQ(preview.sheets().at(8).index, 0);
+  EXPECT_EQ(preview.sheets().at(8).document.document.document.filename(), "more.pdf");
 }
 
 // Standard input comes once; what the preview has read, the job reads again.

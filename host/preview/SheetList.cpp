@@ -36,16 +36,17 @@ bool isSound(const Sheet& sheet) {
   return sheet.width > 0 && sheet.height > 0 && isTurnedWell;
 }
 
-}  // namespace
-
-int pagesFromInfo(std::string_view info) {
+// 0 where the number is not there.
+int countIn(std::string_view info) {
   std::istringstream text{std::string(valueAfterLast(info, kCount))};
   int count = 0;
   return text >> count ? std::max(count, 0) : 0;
 }
 
+}  // namespace
+
 std::vector<Sheet> sheetsFromInfo(std::string_view info) {
-  const auto count = static_cast<std::size_t>(pagesFromInfo(info));
+  const auto count = static_cast<std::size_t>(countIn(info));
   if (count == 0 || count > info.size()) return {};  // there are two lines a page
   std::vector<Sheet> sheets(count);
   std::istringstream lines{std::string(info.substr(info.rfind(kCount)))};

@@ -14,12 +14,8 @@ struct Sheet {
   bool operator==(const Sheet&) const = default;
 };
 
-// Both from what the command pdfinfo writes. The PDF's own texts, which come first in it, cannot
-// forge anything.
-
-// The pages of a PDF from what is written about all of them; none where that makes no sense.
+// The pages of a PDF from what the command pdfinfo writes about all of them; none where that makes
+// no sense. The PDF's own texts, which come first in it, cannot forge anything.
 std::vector<Sheet> sheetsFromInfo(std::string_view info);
-// The number of pages; 0 where it is not there.
-int pagesFromInfo(std::string_view info);
 
 }  // namespace tavrin

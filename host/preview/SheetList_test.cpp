@@ -18,7 +18,6 @@ constexpr char kTwoSheets[] =
 TEST(SheetListTest, ReadsEveryPage) {
   const std::vector<Sheet> expected{{792, 612, 270}, {594.96, 841.92, 0}};
   EXPECT_EQ(sheetsFromInfo(kTwoSheets), expected);
-  EXPECT_EQ(pagesFromInfo(kTwoSheets), 2);
 }
 
 TEST(SheetListTest, ATitleCannotForgePages) {
@@ -29,16 +28,11 @@ TEST(SheetListTest, ATitleCannotForgePages) {
 }
 
 TEST(SheetListTest, HasNoSheetsWhereTheTextMakesNoSense) {
-  for (const char* text :
-       {"", "Pages: 1\n", "a\nPages: x\n", "a\nPages: -1\n", "a\nPages: 2000000000\n",
-        "a\nPages: 1\n", "a\nPages: 1\nPage 1 size: 0 x 5 pts\n",
-        "a\nPages: 1\nPage 1 size: 5 x 5 pts\nPage 1 rot: 45\n"})
+  for (const char* text : {"", "Pages: 1\n", "a\nPages: x\n", "a\nPages: -1\n",
+                           "a\nPages: 2000000000\n", "a\nPages: 1\n", "Title: Pages: 5\n",
+                           "a\nPages: -4\n", "a\nPages: 1\nPage 1 size: 0 x 5 pts\n",
+                           "a\nPages: 1\nPage 1 size: 5 x 5 pts\nPage 1 rot: 45\n"})
     EXPECT_TRUE(sheetsFromInfo(text).empty()) << text;
-}
-
-TEST(SheetListTest, KnowsNoPagesWithoutTheirNumber) {
-  EXPECT_EQ(pagesFromInfo("Title: Pages: 5\n"), 0);
-  EXPECT_EQ(pagesFromInfo("a\nPages: -4\n"), 0);
 }
 
 }  // namespace

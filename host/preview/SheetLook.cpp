@@ -48,15 +48,15 @@ bool isInRanges(int page, std::string_view ranges) {
   return false;
 }
 
-// What the sheets would be without a choice among them; the filters count them, not the pages.
-bool isLeftOut(int sheet, const OptionList& options) {
+bool isLeftOut(int page, const OptionList& options) {
   const OptString ranges = optionValue(options, kPageRangesOption);
-  if (ranges && !ranges->empty() && !isInRanges(sheet, *ranges)) return true;
-  return has(options, "page-set", {sheet % 2 ? "even" : "odd"});
+  if (ranges && !ranges->empty() && !isInRanges(page, *ranges)) return true;
+  return has(options, kPageSetOption, {page % 2 ? "even" : "odd"});
 }
 
 bool isOrdinary(const OptionList& options) {
-  return !optionValue(options, "booklet") && !optionValue(options, "input-page-ranges");
+  return !has(options, kBookletOption, {"true", "yes", "on"}) &&
+         !optionValue(options, "input-page-ranges");
 }
 
 int pagesPerSheet(const OptionList& options) {
@@ -87,15 +87,15 @@ bool isTwoSided(const OptionList& options) {
 std::vector<int> pagesOnSheet(int sheet, int pages, const OptionList& options) {
   if (!isOrdinary(options)) return {};
   const int each = pagesPerSheet(options);
-  std::vector<int> sheets;
-  for (int all = (pages + each - 1) / each, i = 1; i <= all; ++i)
-    if (!isLeftOut(i, options)) sheets.push_back(i);
-  if (has(options, "outputorder", {"reverse"})) std::ranges::reverse(sheets);
-  if (sheet < 1 || static_cast<std::size_t>(sheet) > sheets.size()) return {};
-  const int first = (sheets[static_cast<std::size_t>(sheet) - 1] - 1) * each + 1;
-  std::vector<int> found;
-  for (int page = first; page < first + each && page <= pages; ++page) found.push_back(page);
-  return found;
+  std::vector<int> chosen;
+  for (int page = 1; page <= pages; ++page)
+    if (!isLeftOut(page, options)) chosen.push_back(page);
+  const int count = static_cast<int>(chosen.size());
+  const int sheets = (count + each - 1) / each;
+  if (sheet < 1 || sheet > sheets) return {};
+  if (has(options, "outputorder", {"reverse"})) sheet = sheets + 1 - sheet;
+  const int first = (sheet - 1) * each;
+  return {chosen.begin() + first, chosen.begin() + std::min(first + each, count)};
 }
 
 }  // namespace tavrin

@@ -13,9 +13,8 @@ TEST(SheetLookTest, CountsPagesOnSheets) {
   EXPECT_EQ(pagesOnSheet(2, 6, {{"number-up", "4"}}), (Pages{5, 6}));
 }
 
-// The filters count sheets where the person may mean pages; what is said is what comes out.
-TEST(SheetLookTest, RangesChooseSheets) {
-  EXPECT_EQ(pagesOnSheet(1, 8, {{"number-up", "2"}, {"page-ranges", "2"}}), (Pages{3, 4}));
+TEST(SheetLookTest, RangesChoosePages) {
+  EXPECT_EQ(pagesOnSheet(1, 8, {{"number-up", "2"}, {"page-ranges", "2,5-8"}}), (Pages{2, 5}));
   EXPECT_EQ(pagesOnSheet(3, 8, {{"page-ranges", "2-3,7"}}), Pages{7});
   EXPECT_EQ(pagesOnSheet(2, 8, {{"page-ranges", "7-"}}), Pages{8});
 }

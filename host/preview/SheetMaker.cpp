@@ -5,58 +5,36 @@
 #include <iterator>
 #include <utility>
 
-#include "host/preview/HarmlessPPD.h"
+#include "host/prepare/FilterCall.h"
 #include "host/request/JobOptions.h"
-#include "platform/text/IgnoringCase.h"
 
 namespace tavrin {
 
 namespace {
 
-constexpr char kPDF[] = "application/pdf";
 constexpr char kSheetsFile[] = "sheets.pdf";
 constexpr char kInfoFile[] = "info";
 constexpr auto kWell = LimitedCommand::End::well;
 
 constexpr char kNoRoom[] = QT_TRANSLATE_NOOP(
     "tavrin::SheetMaker", "There is no room in the temporary folder for a preview.");
-constexpr std::uintmax_t kLeastRoom = 64 << 10;  // bytes
 
-// What the filters make of every document before a printer's own language comes in.
-constexpr char kLaidOut[] = "application/vnd.cups-pdf";
-
-constexpr LimitedCommand::Limits kFilterLimits{std::chrono::seconds(60), 1 << 30, 1 << 30};
 constexpr LimitedCommand::Limits kInfoLimits{std::chrono::seconds(10), 512 << 20, 16 << 20};
 
 // Formats that need no interpreter of a programming language to be laid out.
 bool canLayOut(const std::string& format) {
-  return format == kPDF || format.starts_with("image/") || format.starts_with("text/");
+  return isPDF(format) || isPicture(format) || isText(format);
 }
 
-// The number of copies goes another way, and these two say what the document is.
-bool isForFilters(const std::string& name) {
-  for (const char* other : {kCopiesOption, kFormatOption, kRawOption})
-    if (equalIgnoringCase(name, other)) return false;
-  return true;
-}
-
-QString shown(const std::string& text) { return QString::fromStdString(text); }
-QString shown(const std::filesystem::path& path) { return shown(path.string()); }
+QString shown(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
 std::string contentsOf(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// A file that was cut off may look like one without pages.
-bool hasRoom(const std::filesystem::path& folder) {
-  std::error_code problem;
-  const auto space = std::filesystem::space(folder, problem);
-  return !problem && space.available > kLeastRoom;
-}
-
 // Without any page left, the filters succeed and write next to nothing.
-bool isPDF(const std::filesystem::path& file) {
+bool beginsLikePDF(const std::filesystem::path& file) {
   std::array<char, 5> start{};
   std::ifstream(file, std::ios::binary).read(start.data(), start.size());
   return std::string_view(start.data(), start.size()) == "%PDF-";
@@ -64,27 +42,20 @@ bool isPDF(const std::filesystem::path& file) {
 
 }  // namespace
 
-QStringList filterOptions(const OptionList& options) {
-  QStringList arguments;
-  for (const auto& [name, value] : options)
-    if (isForFilters(name)) arguments << "-o" << shown(optionArgument(name, value));
-  return arguments;
-}
-
-SheetMaker::SheetMaker(PreviewJob theJob, std::filesystem::path documentFile,
-                       std::string documentFormat, QObject* parent)
-    : QObject(parent),
-      job(std::move(theJob)),
-      file(std::move(documentFile)),
-      format(std::move(documentFormat)) {
-  if (const OptString named = optionValue(job.options, kFormatOption)) format = *named;
+SheetMaker::SheetMaker(PreparedDocument theDocument, std::string thePPD, std::string theTitle,
+                       QObject* parent)
+    : QObject(parent), ppd(std::move(thePPD)), title(std::move(theTitle)) {
+  sheets.document = std::move(theDocument);
+  PreparedDocument& made = sheets.document;
+  if (const OptString named = optionValue(made.options, kFormatOption)) made.format = *named;
 }
 
 QString SheetMaker::obstacle() const {
-  if (job.ppd.empty() || optionValue(job.options, kRawOption))
+  if (ppd.empty() || optionValue(document().options, kRawOption))
     return tr("The printer gets the document as it is, so there is nothing to show.");
-  if (!canLayOut(format)) return tr("There is no preview of this kind of document.");
-  if (LimitedCommand::find("cupsfilter").isEmpty() || LimitedCommand::find("pdftoppm").isEmpty())
+  if (!document().facts.problem.empty()) return QString::fromStdString(document().facts.problem);
+  if (!canLayOut(document().format)) return tr("There is no preview of this kind of document.");
+  if (!hasFilters() || LimitedCommand::find("pdftoppm").isEmpty())
     return tr(
         "A preview needs the programs cupsfilter (package cups) and pdftoppm (package "
         "poppler-utils), which are not installed.");
@@ -94,7 +65,6 @@ QString SheetMaker::obstacle() const {
 void SheetMaker::start() {
   QString reason = obstacle();
   if (reason.isEmpty()) {
-    sheets.options = job.options;
     sheets.folder = temporaryHiddenFolder();
     if (sheets.folder) return layOut();
     reason = tr(kNoRoom);
@@ -104,54 +74,39 @@ void SheetMaker::start() {
 }
 
 void SheetMaker::layOut() {
-  const std::string ppd = harmlessPPD(job.ppd);
-  if (ppd.empty()) return complain(LimitedCommand::End::failed);
-  if (!(std::ofstream(place("printer.ppd"), std::ios::binary) << ppd << std::flush))
-    return emit failed(tr(kNoRoom));
-  sheets.pdf = place(kSheetsFile);
-  QStringList arguments{"-p", shown(place("printer.ppd")), "-m", kLaidOut, "-i", shown(format)};
-  arguments += {"-n", "1", "-t", shown(job.title)};
-  arguments += filterOptions(job.options);
-  // What a printer is told before a PDF is not drawn.
-  arguments += {"-o", "emit-jcl=false", shown(file)};
-  run("cupsfilter", arguments, kSheetsFile, kFilterLimits,
-      [this](LimitedCommand::End end) { end == kWell ? lookAtSheets() : complain(end); });
+  const auto call = filterCall({sheets.folder->path(), document().file, document().format, ppd,
+                                title, document().options, kLaidOut, kSheetsFile});
+  if (!call) return emit failed(tr(kNoRoom));
+  sheets.pdf = call->output;
+  run(*call, [this](LimitedCommand::End end) { end == kWell ? lookAtSheets() : complain(end); });
 }
 
-void SheetMaker::run(const char* program, const QStringList& arguments, const char* output,
-                     LimitedCommand::Limits limits, std::function<void(LimitedCommand::End)> next) {
-  command = std::make_unique<LimitedCommand>(LimitedCommand::Call{
-      LimitedCommand::find(program), arguments, sheets.folder->path(), place(output), limits});
+void SheetMaker::run(const LimitedCommand::Call& call,
+                     std::function<void(LimitedCommand::End)> next) {
+  command = std::make_unique<LimitedCommand>(call);
   connect(command.get(), &LimitedCommand::ended, this, std::move(next));
   command->start();
 }
 
 void SheetMaker::lookAtSheets() {
   if (!hasRoom(sheets.folder->path())) return emit failed(tr(kNoRoom));
-  if (!isPDF(sheets.pdf)) return emit nothingLeft();
-  run("pdfinfo", {"-f", "1", "-l", "-1", shown(sheets.pdf)}, kInfoFile, kInfoLimits,
-      [this](LimitedCommand::End end) {
-        sheets.list = sheetsFromInfo(contentsOf(place(kInfoFile)));
-        end == kWell && !sheets.list.empty() ? lookAtDocument()
+  if (!beginsLikePDF(sheets.pdf)) return emit nothingLeft();
+  const auto info = sheets.folder->path() / kInfoFile;
+  run({LimitedCommand::find("pdfinfo"),
+       {"-f", "1", "-l", "-1", shown(sheets.pdf)},
+       sheets.folder->path(),
+       info,
+       kInfoLimits},
+      [=, this](LimitedCommand::End end) {
+        sheets.list = sheetsFromInfo(contentsOf(info));
+        end == kWell && !sheets.list.empty() ? emit made(sheets)
                                              : complain(LimitedCommand::End::failed);
       });
 }
 
-// The filters do not tell which pages are on a sheet; for that their number must be known.
-void SheetMaker::lookAtDocument() {
-  if (format != kPDF) {
-    sheets.documentPages = format.starts_with("image/") ? 1 : 0;
-    return emit made(sheets);
-  }
-  run("pdfinfo", {shown(file)}, kInfoFile, kInfoLimits, [this](LimitedCommand::End) {
-    sheets.documentPages = pagesFromInfo(contentsOf(place(kInfoFile)));
-    emit made(sheets);
-  });
-}
-
 void SheetMaker::complain(LimitedCommand::End end) {
   std::error_code none;
-  if (!std::filesystem::exists(file, none))
+  if (!std::filesystem::exists(document().file, none))
     return emit failed(tr("The document is no longer there."));
   emit failed(end == LimitedCommand::End::slow
                   ? tr("Laying the document out takes too long for a preview. It can be printed "

@@ -10,15 +10,16 @@ constexpr LimitedCommand::Limits kDrawLimits{std::chrono::seconds(30), 1 << 30, 
 
 }  // namespace
 
-void SheetPainter::draw(const Sheets& theSheets, int index, int pixels, Ink ink) {
-  sheets = theSheets;
-  const auto picture = sheets.folder->path() / "sheet.ppm";
-  const QString page = QString::number(index + 1);
+void SheetPainter::draw(const Sheets& sheets, int index, int pixels, Ink ink) {
+  const SheetPlace place = sheets.at(index);
+  folder = place.document.folder;
+  const auto picture = folder->path() / "sheet.ppm";
+  const QString page = QString::number(place.index + 1);
   QStringList arguments{"-f", page, "-l", page, "-scale-to", QString::number(pixels)};
   if (ink == Ink::grey) arguments << "-gray";
-  arguments << QString::fromStdString(sheets.pdf.string());
+  arguments << QString::fromStdString(place.document.pdf.string());
   command = std::make_unique<LimitedCommand>(LimitedCommand::Call{
-      LimitedCommand::find("pdftoppm"), arguments, sheets.folder->path(), picture, kDrawLimits});
+      LimitedCommand::find("pdftoppm"), arguments, folder->path(), picture, kDrawLimits});
   connect(command.get(), &LimitedCommand::ended, this, [=, this](LimitedCommand::End end) {
     QFile file(QString::fromStdString(picture.string()));
     if (end != LimitedCommand::End::well || !file.open(QIODevice::ReadOnly))

@@ -5,7 +5,8 @@
 #include <QByteArray>
 #include <QObject>
 
-#include "host/preview/SheetMaker.h"
+#include "host/prepare/LimitedCommand.h"
+#include "host/preview/Sheets.h"
 
 namespace tavrin {
 
@@ -29,7 +30,7 @@ class SheetPainter : public QObject {
   void failed(int index);
 
  private:
-  Sheets sheets;
+  std::shared_ptr<const HiddenFolder> folder;  // of the sheet
   std::unique_ptr<LimitedCommand> command;
 };
 

@@ -2,6 +2,10 @@
 
 namespace tavrin {
 
+const std::filesystem::path& sentFile(const JobRequest& request) {
+  return request.prepared.empty() ? request.document : request.prepared;
+}
+
 std::string jobTitle(const JobRequest& request) {
   return request.title.empty() ? documentName(request.document) : nameForPrinting(request.title);
 }

@@ -19,7 +19,12 @@ struct JobRequest {
   std::string pageRanges;  // "1-3,5"; empty: all pages
   OptionList options;
   std::filesystem::path document = kStandardInput;
+  // What is sent of the document where it has been made ready for the printer; empty: itself.
+  std::filesystem::path prepared = {};
 };
+
+// The file that is sent: standard input where there is none.
+const std::filesystem::path& sentFile(const JobRequest& request);
 
 // The name that the job gets: its title, as nameForPrinting makes it, else the document's.
 std::string jobTitle(const JobRequest& request);

@@ -94,14 +94,19 @@ QSize PreviewArea::sizeHint() const {
   return QSize(line * kWidthInLines, line * kWidthInLines * 5 / 4);
 }
 
-void PreviewArea::show(const PreviewJob& shown, const Paper& paper) {
+void PreviewArea::show(const Preparation& shown) {
   if (job == shown && !isPaused) return;
   job = shown;
   isPaused = false;
-  view->setPaper(paper);
+  view->setPaper(shown.paper);
   say({});
   preview.show(shown);
   if (count() > 0) fadeTimer.start();
+}
+
+void PreviewArea::wait() {
+  isPaused = false;
+  preview.wait();
 }
 
 void PreviewArea::showNothing(const QString& reason) {
@@ -118,10 +123,6 @@ void PreviewArea::pause() {
   describe();
   fadeTimer.stop();
   pictures.stop();
-}
-
-QString PreviewArea::whyNothingComesOut() const {
-  return !isPaused && preview.stage() == Preview::Stage::nothing ? preview.problem() : QString();
 }
 
 // --- What the preview tells ---
@@ -161,7 +162,8 @@ void PreviewArea::showSheet() {
 }
 
 QSizeF PreviewArea::sizeOf(int sheet) const {
-  const Sheet& found = preview.sheets().list[static_cast<std::size_t>(sheet)];
+  const SheetPlace place = preview.sheets().at(sheet);
+  const Sheet& found = place.document.list[static_cast<std::size_t>(place.index)];
   return QSizeF(found.width, found.height);
 }
 
@@ -174,9 +176,10 @@ void PreviewArea::wantPicture() {
 // --- What is said ---
 
 QString PreviewArea::shownName() const {
-  if (!job) return {};
-  return job->document == kStandardInput ? tr("Standard input")
-                                         : shownLine(documentName(job->document));
+  if (!job || job->documents.empty()) return {};
+  if (job->documents.size() > 1) return tr("%n documents", nullptr, int(job->documents.size()));
+  const auto& document = job->documents.front().document;
+  return document == kStandardInput ? tr("Standard input") : shownLine(documentName(document));
 }
 
 void PreviewArea::say(const QString& text) {

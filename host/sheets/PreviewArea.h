@@ -6,7 +6,6 @@
 #include <QWidget>
 
 #include "host/preview/Preview.h"
-#include "host/sheets/Paper.h"
 #include "host/sheets/SheetPictures.h"
 
 class QLabel;
@@ -25,14 +24,13 @@ class PreviewArea : public QWidget {
   explicit PreviewArea(QWidget* parent);
 
   // Shows this job on this paper, soon.
-  void show(const PreviewJob& job, const Paper& paper);
+  void show(const Preparation& job);
+  // The documents are still on their way.
+  void wait();
   // There is no job to show, and why; an empty reason while there is none yet.
   void showNothing(const QString& reason);
   // Drops all work until a job is shown.
   void pause();
-
-  // A sentence where it is known that the job would bring nothing to the paper; else empty.
-  QString whyNothingComesOut() const;
 
   // Turns to a sheet, counted from 0, as far as there are sheets.
   void turnTo(int index);
@@ -52,7 +50,7 @@ class PreviewArea : public QWidget {
   void showSheet();
   void wantPicture();
   const OptionList& options() const { return preview.sheets().options; }
-  int count() const { return static_cast<int>(preview.sheets().list.size()); }
+  int count() const { return preview.sheets().count(); }
   void describe();
   void describeSheet();
   void say(const QString& message);
@@ -67,8 +65,8 @@ class PreviewArea : public QWidget {
 
   Preview preview;
   SheetPictures pictures{preview};
-  std::optional<PreviewJob> job;  // that is shown, or about to be
-  QString message;                // shown instead; empty for none
+  std::optional<Preparation> job;  // that is shown, or about to be
+  QString message;                 // shown instead; empty for none
   QScrollArea* desk;
   SheetView* view;
   SheetTurner* turner;

@@ -10,10 +10,9 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "host/printer/PPDLoader.h"
 #include "host/sheets/SheetView.h"
 #include "tests/fakes/FakePDF.h"
-#include "tests/fixtures/EmptyInput.h"
+#include "tests/fixtures/SeenDocuments.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
 namespace tavrin {
@@ -29,11 +28,12 @@ class PreviewAreaTest : public testing::Test {
     area.resize(300, 420);
     area.QWidget::show();
   }
-  PreviewJob job(const OptionList& options = {}) const {
-    auto ppd = loadPPD(fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd");
-    return {document, sourceOf(SharedPPD(std::move(*ppd))), options};
+  Preparation job(const OptionList& options = {}) {
+    if (!seen || seen->facts().front().document != document) seen.emplace(std::vector{document});
+    return test::preparationFor(seen->facts(), fs::path(SAMPLE_PRINTERS) / "tavrin-r420.ppd",
+                                options);
   }
-  void show(const OptionList& options = {}) { area.show(job(options), {}); }
+  void show(const OptionList& options = {}) { area.show(job(options)); }
   std::string spoken() { return view->accessibleName().toStdString(); }
   bool speaks(const char* text) {
     return QTest::qWaitFor([&] { return spoken() == text; }, kPatience);
@@ -54,6 +54,7 @@ class PreviewAreaTest : public testing::Test {
 
   test::TemporaryFolder place;
   fs::path document = place.write("pages.pdf", numberedPDF(5));
+  std::optional<test::SeenDocuments> seen;
   PreviewArea area{nullptr};
   SheetView* view = area.findChild<SheetView*>();
   QSpinBox* number = area.findChild<QSpinBox*>("sheet");
@@ -61,7 +62,9 @@ class PreviewAreaTest : public testing::Test {
 
 TEST_F(PreviewAreaTest, ShowsThePapersShapeBeforeAnythingElse) {
   const QImage desk = view->grab().toImage();
-  area.show(job(), {QSizeF(300, 100), {}});
+  Preparation panorama = job();
+  panorama.paper = {QSizeF(300, 100), {}};
+  area.show(panorama);
   EXPECT_NE(view->grab().toImage(), desk);
   EXPECT_EQ(spoken(), "Preparing the preview…");
 }
@@ -167,17 +170,16 @@ TEST_F(PreviewAreaTest, DoesNotTurnToFormerSheetsBehindAMessage) {
   show();
   ASSERT_TRUE(speaks("Sheet 1 of 5: page 1"));
   show({{"page-ranges", "50"}});
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !area.whyNothingComesOut().isEmpty(); }, kPatience));
+  ASSERT_TRUE(
+      speaks("“pages.pdf” has 5 pages, none of which is to be printed. Choose other pages."));
   const QImage before = view->grab().toImage();
   press(Qt::Key_PageDown);
   EXPECT_EQ(area.current(), 0);
   EXPECT_EQ(view->grab().toImage(), before);
 }
 
-TEST_F(PreviewAreaTest, WaitsForADocumentWithoutHoldingAnythingUp) {
-  const test::EmptyInput input;
-  document = kStandardInput;
-  show();
+TEST_F(PreviewAreaTest, SaysThatItWaitsForTheDocument) {
+  area.wait();
   EXPECT_TRUE(speaks("Waiting for the document…")) << spoken();
 }
 

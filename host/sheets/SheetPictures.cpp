@@ -44,7 +44,8 @@ void SheetPictures::take(int index, int pixels, const QByteArray& bytes) {
   const QImage picture = QImage::fromData(bytes, "PPM");
   if (index != wantedIndex || pixels != wantedPixels) return;
   if (picture.isNull()) return emit failed();
-  const Sheet& sheet = preview.sheets().list[static_cast<std::size_t>(index)];
+  const SheetPlace place = preview.sheets().at(index);
+  const Sheet& sheet = place.document.list[static_cast<std::size_t>(place.index)];
   auto kept = std::make_unique<QImage>(upright(picture, sheet));
   const auto size = static_cast<int>(kept->sizeInBytes() >> 10);
   pictures.insert(index, kept.release(), size);

@@ -4,7 +4,9 @@
 #include <QLocale>
 #include <QStringList>
 
+#include "host/document/DocumentName.h"
 #include "host/preview/SheetLook.h"
+#include "platform/qt/base/ShownText.h"
 
 namespace tavrin {
 
@@ -29,6 +31,12 @@ QString pagesText(const std::vector<int>& pages) {
                            : SheetTexts::tr("pages %1 to %2").arg(first, last);
 }
 
+// Where it need not be said, nothing.
+QString nameText(const Sheets& sheets, const SheetPlace& place) {
+  if (sheets.documents.size() < 2) return {};
+  return shownLine(nameInWords(place.document.document.document));
+}
+
 QString sideText(int index, const OptionList& options) {
   if (!isTwoSided(options)) return {};
   const QString sheet = QLocale().toString(index / 2 + 1);
@@ -50,8 +58,10 @@ QString textAfterNumber(int count, const OptionList& options) {
 }
 
 QString contentsText(const Sheets& sheets, int index, const OptionList& options) {
-  QStringList parts{sideText(index, options),
-                    pagesText(pagesOnSheet(index + 1, sheets.documentPages, options)),
+  const SheetPlace place = sheets.at(index);
+  const int pages = place.document.document.facts.pages;
+  QStringList parts{nameText(sheets, place), sideText(place.index, options),
+                    pagesText(pagesOnSheet(place.index + 1, pages, options)),
                     isMirrored(options) ? SheetTexts::tr("mirrored") : QString(),
                     printsInGrey(options) ? SheetTexts::tr("black only") : QString()};
   parts.removeAll(QString());
@@ -59,8 +69,8 @@ QString contentsText(const Sheets& sheets, int index, const OptionList& options)
 }
 
 QString sheetText(const Sheets& sheets, int index, const OptionList& options) {
-  const QString number = counted(options).arg(QLocale().toString(index + 1),
-                                              QLocale().toString(qsizetype(sheets.list.size())));
+  const QString number =
+      counted(options).arg(QLocale().toString(index + 1), QLocale().toString(sheets.count()));
   const QString contents = contentsText(sheets, index, options);
   return contents.isEmpty() ? number
                             : SheetTexts::tr("%1: %2", "sheet, contents").arg(number, contents);

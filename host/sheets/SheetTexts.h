@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "host/preview/SheetMaker.h"
+#include "host/preview/Sheets.h"
 #include "host/support/OptionList.h"
 
 // What is said of a sheet, on the screen and aloud.

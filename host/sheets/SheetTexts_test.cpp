@@ -5,12 +5,16 @@
 namespace tavrin {
 namespace {
 
-Sheets sheets(std::size_t count, int pages) {
-  Sheets made;
+// A document of that many pages on so many sheets.
+LaidOutDocument laidOut(std::size_t count, int pages, const char* name = "pages.pdf") {
+  LaidOutDocument made;
+  made.document.document = name;
+  made.document.facts.pages = pages;
   made.list.resize(count, {612, 792, 0});
-  made.documentPages = pages;
   return made;
 }
+
+Sheets sheets(std::size_t count, int pages) { return {{laidOut(count, pages)}, {}}; }
 
 std::string text(const Sheets& all, int index, const OptionList& options) {
   return sheetText(all, index, options).toStdString();
@@ -28,6 +32,12 @@ TEST(SheetTextsTest, CountsSidesOnPaperThatIsPrintedOnBoth) {
   const OptionList twoSided{{"Duplex", "DuplexNoTumble"}};
   EXPECT_EQ(text(sheets(3, 3), 0, twoSided), "Side 1 of 3: front of sheet 1, page 1");
   EXPECT_EQ(text(sheets(3, 3), 1, twoSided), "Side 2 of 3: back of sheet 1, page 2");
+}
+
+TEST(SheetTextsTest, NamesTheDocumentWhereThereAreSeveral) {
+  const Sheets two{{laidOut(3, 3), laidOut(1, 2, "more.pdf")}, {}};
+  EXPECT_EQ(text(two, 1, {}), "Sheet 2 of 4: pages.pdf, page 2");
+  EXPECT_EQ(text(two, 3, {{"number-up", "2"}}), "Sheet 4 of 4: more.pdf, pages 1 and 2");
 }
 
 TEST(SheetTextsTest, DoesNotGuess) {

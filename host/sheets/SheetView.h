@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QWidget>
 
-#include "host/sheets/Paper.h"
+#include "host/printer/Paper.h"
 
 namespace tavrin {
 

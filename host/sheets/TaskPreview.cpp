@@ -11,9 +11,8 @@ namespace tavrin {
 namespace {
 
 // One copy stands for all.
-PreviewJob previewOf(const PrintTask& task) {
-  PreviewJob job{task.request().document, sourceOf(task.session()->sharedPPD()), task.options(),
-                 jobTitle(task.request())};
+Preparation previewOf(const PrintTask& task) {
+  Preparation job = task.preparation();
   removeOption(job.options, kCopiesOption);
   return job;
 }
@@ -21,8 +20,9 @@ PreviewJob previewOf(const PrintTask& task) {
 }  // namespace
 
 TaskPreview::TaskPreview(PrintTask& theTask, PreviewArea& theArea) : task(theTask), area(theArea) {
-  for (const auto signal : {&PrintTask::sessionBegun, &PrintTask::sessionRestarted,
-                            &PrintTask::optionsChanged, &PrintTask::stageChanged})
+  for (const auto signal :
+       {&PrintTask::sessionBegun, &PrintTask::sessionRestarted, &PrintTask::optionsChanged,
+        &PrintTask::documentsChanged, &PrintTask::stageChanged})
     connect(&task, signal, this, &TaskPreview::refresh);
   area.installEventFilter(this);
   refresh();
@@ -34,10 +34,10 @@ bool TaskPreview::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void TaskPreview::refresh() {
-  // A job reads the document, too, and standard input can be read by one at a time.
+  // The job wants the processor.
   const bool isTaken = task.isSending() || task.stage() == PrintTask::Stage::done;
   if (isTaken || area.isHidden()) return area.pause();
-  if (task.session()) return area.show(previewOf(task), markedPaper(task.session()->ppd()));
+  if (task.session()) return task.documents().areKnown() ? area.show(previewOf(task)) : area.wait();
   area.showNothing(task.canPrint()
                        ? tr("The printer gets the document as it is, so there is nothing to show.")
                        : QString());

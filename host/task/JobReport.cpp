@@ -28,4 +28,19 @@ JobReport reportOn(const std::filesystem::path& folder) {
           folder};
 }
 
+JobReport inOne(const std::vector<JobReport>& reports) {
+  if (reports.size() == 1) return reports.front();
+  QStringList texts;
+  JobReport all;
+  for (const JobReport& report : reports) {
+    texts << report.text;
+    all.isWarning |= report.isWarning;
+    all.folder = report.folder.parent_path();
+  }
+  all.headline = QCoreApplication::translate("JobReport", "%n jobs were sent", nullptr,
+                                             static_cast<int>(reports.size()));
+  all.text = texts.join(' ');
+  return all;
+}
+
 }  // namespace tavrin

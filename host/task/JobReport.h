@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 #include <QString>
 
@@ -21,5 +22,8 @@ JobReport reportOn(const std::string& queue, const Submission& submission);
 
 // The report on a job that became this folder.
 JobReport reportOn(const std::filesystem::path& folder);
+
+// The reports on several jobs, at least one, that were printed together.
+JobReport inOne(const std::vector<JobReport>& reports);
 
 }  // namespace tavrin

@@ -1,14 +1,23 @@
 #include "host/task/PrintTask.h"
 
+#include <chrono>
 #include <utility>
 
+#include <QTimer>
+
+#include "host/prepare/Imposition.h"
 #include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/printer/Paper.h"
 #include "host/request/JobOptions.h"
 #include "host/support/TextLists.h"
+#include "ppd/PPDKeywords.h"
 
 namespace tavrin {
 namespace {
+
+// So that a window comes up before its documents want the processor.
+constexpr std::chrono::milliseconds kFirstRest(60);
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 
@@ -25,6 +34,12 @@ std::string leftAlone(const ppd_file_t& ppd) {
          joined(keywords) + ".";
 }
 
+bool namesPaper(const OptionList& options) {
+  for (const char* name : {kPageSizeKey, "PageRegion", kPaperOption})
+    if (optionValue(options, name)) return true;
+  return false;
+}
+
 std::string nameOf(const ppd_file_t& ppd) {
   return ppd.nickname ? ppd.nickname : ppd.modelname ? ppd.modelname : "";
 }
@@ -35,7 +50,8 @@ PrintTask::PrintTask(JobRequest request, QObject* parent)
     : QObject(parent), asked(std::move(request)) {
   suggestFields();
   connectSearch();
-  connectRunner();
+  connectDocuments();
+  connectSequence();
   connect(&jobFields, &JobFields::changed, this, &PrintTask::optionsChanged);
   connect(&jobFields, &JobFields::pagesPerSheetChanged, this, [this](int pages) {
     if (current) current->setPagesPerSheet(pages);
@@ -164,6 +180,7 @@ void PrintTask::beginSession(const SharedPPD& ppd) {
   tell({inOneText({problems, leftAlone(*ppd), current->loadPanels()})});
   connect(&current->marks(), &PPDMarks::refreshed, this, &PrintTask::optionsChanged);
   enter(Stage::ready);
+  suggestPaper();
   emit sessionBegun();
 }
 
@@ -171,6 +188,7 @@ void PrintTask::beginSession(const SharedPPD& ppd) {
 void PrintTask::restartSession() {
   warn(markPrinter());
   enter(Stage::ready);
+  suggestPaper();
   emit sessionRestarted();
 }
 
@@ -214,42 +232,103 @@ std::string PrintTask::markPrinter() {
       before == kept.end() ? current->markAnew(startOptions())
                            : current->markAnew(before->second.options, before->second.unmarked);
   problems.push_back(layoutProblem);
+  usualPaper.reset();
+  if (before == kept.end() && !namesPaper(startOptions()))
+    usualPaper = current->marks().choice(kPageSizeKey);
   return inOneText(problems);
+}
+
+// --- The documents ---
+
+void PrintTask::connectDocuments() {
+  papers.add({asked.document});
+  connect(&papers, &Documents::becameKnown, this, &PrintTask::takeDocuments);
+  QTimer::singleShot(kFirstRest, &papers, &Documents::look);
+}
+
+void PrintTask::addDocuments(const std::vector<std::filesystem::path>& more) {
+  if (isSending() || now == Stage::done) return;
+  papers.add(more);
+  emit documentsChanged();
+}
+
+void PrintTask::takeDocuments() {
+  const std::vector<DocumentFacts>& all = papers.all();
+  jobFields.setDocumentPages(all.size() == 1 ? all.front().pages : 0);
+  jobFields.setSeveralPictures(all.size() > 1 && arePictures(all));
+  suggestPaper();
+  emit documentsChanged();
+  if (std::exchange(isWaiting, false)) send();
+}
+
+// A document's paper, where the printer has it and nobody has asked for another one.
+void PrintTask::suggestPaper() {
+  if (!current || !papers.areKnown() || !usualPaper) return;
+  PPDMarks& marks = current->marks();
+  const bool isUsual = marks.choice(kPageSizeKey) == usualPaper;
+  usualPaper.reset();
+  const DocumentFacts& first = papers.all().front();
+  const OptString paper = paperOfSize(current->ppd(), {first.width, first.height});
+  if (!isUsual || !isPDF(first.format) || !paper || marks.isMarked(kPageSizeKey, *paper)) return;
+  marks.choose(kPageSizeKey, *paper);
+  if (said.text.empty() && !isSending())
+    say(tr("The paper size is %1, as in the document.")
+            .arg(shown(marks.choiceText(kPageSizeKey).value_or("")))
+            .toStdString());
 }
 
 // --- The job ---
 
-void PrintTask::connectRunner() {
-  connect(&runner, &JobRunner::progressed, this, &PrintTask::progressed);
-  connect(&runner, &JobRunner::submitted, this,
-          [this](const Submission& submission) { finish(reportOn(queueOfSession, submission)); });
-  connect(&runner, &JobRunner::folderWritten, this,
-          [this](const std::filesystem::path& folder) { finish(reportOn(folder)); });
-  connect(&runner, &JobRunner::cancelled, this, &PrintTask::giveBack);
-  connect(&runner, &JobRunner::folderRefused, this,
+void PrintTask::connectSequence() {
+  connect(&sequence, &JobSequence::progressed, this, &PrintTask::progressed);
+  connect(&sequence, &JobSequence::paperToBeTurned, this, [this] { enter(Stage::turning); });
+  connect(&sequence, &JobSequence::finished, this, &PrintTask::finish);
+  connect(&sequence, &JobSequence::cancelled, this, &PrintTask::giveBack);
+  connect(&sequence, &JobSequence::nothingLeft, this, &PrintTask::refuse);
+  connect(&sequence, &JobSequence::folderRefused, this,
           [this](const QString& reason) { fail(reason, WayOut::chooseFolder); });
-  connect(&runner, &JobRunner::failed, this, [this](const QString& reason) { fail(reason); });
+  connect(&sequence, &JobSequence::failed, this, [this](const QString& reason) { fail(reason); });
 }
 
 void PrintTask::print() {
   if (!canPrint()) return;
-  const Result<std::string> ranges = jobFields.pageRanges();
-  if (!ranges) return warn(ranges.reason());
+  if (const Result<std::string> ranges = jobFields.pageRanges(); !ranges)
+    return warn(ranges.reason());
   if (const std::string problem = current ? current->takePanelChoices() : ""; !problem.empty())
     return warn(problem);
   tell({});
-  const JobRequest finished = finishedRequest(*ranges);
-  const OptionList options = jobOptions(finished, current ? &current->ppd() : nullptr);
   enter(Stage::printing);
-  if (hasQueue())
-    runner.submit(finished, options);
-  else
-    runner.writeFolder(output, finished, options);
+  if (papers.areKnown()) return send();
+  isWaiting = true;
+  papers.look();
+}
+
+void PrintTask::send() {
+  const Result<std::string> ranges = jobFields.pageRanges();
+  const Preparation wanted = preparation();
+  sequence.start({wanted, finishedRequest(ranges ? *ranges : ""), output, wanted.wholeSheets});
 }
 
 OptionList PrintTask::options() const {
   const Result<std::string> ranges = jobFields.pageRanges();
   return jobOptions(finishedRequest(ranges ? *ranges : ""), current ? &current->ppd() : nullptr);
+}
+
+Preparation PrintTask::preparation() const {
+  Preparation wanted{papers.all()};
+  wanted.options = options();
+  wanted.title = asked.title;
+  if (!current) return wanted;
+  wanted.ppd = sourceOf(current->sharedPPD());
+  wanted.paper = markedPaper(current->ppd());
+  wanted.wholeSheets = needsTwoPasses(wanted.options);
+  return wanted;
+}
+
+// A printer that turns the paper itself has an option of its own for that.
+bool PrintTask::needsTwoPasses(const OptionList& options) const {
+  const std::string sides = optionValue(options, kSidesOption).value_or("");
+  return sides.starts_with("two-sided") && current && !twoSidedOption(current->ppd());
 }
 
 JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
@@ -265,10 +344,17 @@ JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
   return finished;
 }
 
+void PrintTask::printBacks() {
+  if (now != Stage::turning) return;
+  enter(Stage::printing);
+  sequence.printBacks();
+}
+
 void PrintTask::cancel() {
-  if (now != Stage::printing) return;
+  if (now != Stage::printing && now != Stage::turning) return;
   enter(Stage::takingBack);
-  runner.cancel();
+  if (std::exchange(isWaiting, false)) return giveBack();
+  sequence.cancel();
 }
 
 void PrintTask::finish(const JobReport& job) {
@@ -278,14 +364,30 @@ void PrintTask::finish(const JobReport& job) {
   enter(Stage::done);
 }
 
+// What was sent is not sent again.
+QString PrintTask::whatWasSent() {
+  const std::size_t sent = sequence.sent();
+  const std::size_t all = papers.all().size();
+  if (sent == 0 || sent == all) return {};
+  papers.dropFirst(sent);
+  emit documentsChanged();
+  return tr(" %1 of %2 documents were sent before; Print sends the others.").arg(sent).arg(all);
+}
+
 void PrintTask::giveBack() {
   enter(Stage::ready);
-  tell({tr("Printing was cancelled. The settings are as they were.").toStdString()});
+  const QString sentence = tr("Printing was cancelled. The settings are as they were.");
+  say((sentence + whatWasSent()).toStdString());
+}
+
+void PrintTask::refuse(const QString& reason) {
+  enter(Stage::ready);
+  warn(reason.toStdString());
 }
 
 void PrintTask::fail(const QString& reason, WayOut wayOut) {
   end = Outcome::failed;
-  reportText = reason.toStdString();
+  reportText = (reason + whatWasSent()).toStdString();
   enter(Stage::failed);
   tell({reportText, true, wayOut});
 }

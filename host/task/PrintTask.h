@@ -8,15 +8,16 @@
 
 #include <QObject>
 
-#include "host/job/JobRunner.h"
 #include "host/panels/PrinterSession.h"
+#include "host/prepare/Documents.h"
 #include "host/task/JobFields.h"
 #include "host/task/JobReport.h"
+#include "host/task/JobSequence.h"
 #include "host/task/PrinterSearch.h"
 
 namespace tavrin {
 
-// A document on its way to the paper, from the search for printers to what became of the job. It
+// Documents on their way to the paper, from the search for printers to what became of the jobs. It
 // exists so that a dialog, a service and a command can each show the same thing: all state is here,
 // none in a window. Nothing in it waits; whatever changes is told by a signal.
 class PrintTask : public QObject {
@@ -30,7 +31,8 @@ class PrintTask : public QObject {
     choosing,    // there are printers, but the one that was named is not among them
     reading,     // the chosen printer's settings
     ready,       // to print
-    printing,    // the job is on its way
+    printing,    // the documents are prepared, and sent
+    turning,     // the fronts are printed; the person turns the paper for the backs
     takingBack,  // cancelled, but may still arrive
     failed,      // the job did not arrive; everything is as it was, and can be tried again
     done,        // the job arrived
@@ -65,13 +67,18 @@ class PrintTask : public QObject {
   void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);
   // Another output folder for the printer without a queue; print() tries it.
   void setOutput(const std::filesystem::path& folder);
+  // More documents to print, with the same settings; a job each, or one for all where they are
+  // pictures that go together. Does nothing while a job is sent and once it is done.
+  void addDocuments(const std::vector<std::filesystem::path>& more);
   // The person's choice, by its place in the list of printers. The settings of the printer that is
   // left are kept, and come back with it. Does nothing while a job is sent and once it is done.
   void choosePrinter(std::size_t place);
 
-  // Sends the job. Does nothing unless canPrint(). If the job cannot be sent with these settings,
-  // the notice says why.
+  // Prepares and sends the documents, as soon as they are known. Does nothing unless canPrint(). If
+  // they cannot be sent with these settings, the notice says why.
   void print();
+  // The paper has been turned: prints its backs.
+  void printBacks();
   // Takes back a job that is on its way; the stage is takingBack until that is done.
   void cancel();
   // The person leaves now: the report says why nothing was printed, where there is a reason.
@@ -83,10 +90,15 @@ class PrintTask : public QObject {
 
   Stage stage() const { return now; }
   bool canPrint() const { return now == Stage::ready || now == Stage::failed; }
-  bool isSending() const { return now == Stage::printing || now == Stage::takingBack; }
+  bool isSending() const {
+    return now == Stage::printing || now == Stage::turning || now == Stage::takingBack;
+  }
   const Notice& notice() const { return said; }
 
   const JobRequest& request() const { return asked; }
+  // What is known of the documents.
+  Documents& documents() { return papers; }
+  const Documents& documents() const { return papers; }
   const PrinterList& printers() const { return search.printers(); }
   // The chosen printer as a person knows it; empty while none is chosen.
   std::string printerName() const;
@@ -99,6 +111,8 @@ class PrintTask : public QObject {
   PrinterSession* session() const { return current.get(); }
   // The options that the job would have now; of all pages where the page range is wrong.
   OptionList options() const;
+  // All that decides how the sheets will look.
+  Preparation preparation() const;
 
   Outcome outcome() const { return end; }
   // The job that arrived; null before it did.
@@ -120,6 +134,8 @@ class PrintTask : public QObject {
   void sessionRestarted();
   // The job would have other options, or none, or it cannot be said what has changed.
   void optionsChanged();
+  // There are other documents, or more is known of them.
+  void documentsChanged();
   void progressed(const tavrin::Progress& progress);
 
  private:
@@ -131,7 +147,8 @@ class PrintTask : public QObject {
 
   QString stillOnItsWay() const;
   void connectSearch();
-  void connectRunner();
+  void connectDocuments();
+  void connectSequence();
   void enter(Stage stage);
   void tell(Notice notice);
 
@@ -149,7 +166,13 @@ class PrintTask : public QObject {
   void suggestFields();
   std::string markPrinter();
 
+  void takeDocuments();
+  void suggestPaper();
   JobRequest finishedRequest(const std::string& ranges) const;
+  bool needsTwoPasses(const OptionList& options) const;
+  void send();
+  void refuse(const QString& reason);
+  QString whatWasSent();
   void finish(const JobReport& job);
   void giveBack();
   void fail(const QString& reason, WayOut wayOut = WayOut::none);
@@ -165,7 +188,10 @@ class PrintTask : public QObject {
   std::map<std::string, Kept> kept;  // of the destinations that were left
   std::unique_ptr<PrinterSession> current;
   PrinterSearch search;
-  JobRunner runner;
+  Documents papers;
+  JobSequence sequence;
+  OptString usualPaper;    // marked as long as nobody asks for another one; else absent
+  bool isWaiting = false;  // to print, for documents that are not known yet
   Outcome end = Outcome::cancelled;
   std::optional<JobReport> arrivedJob;
   std::string reportText;

@@ -46,6 +46,9 @@ class PrintTaskTest : public EventLoopTest {
   static bool reaches(PrintTask& task, Stage stage) {
     return eventually([&] { return task.stage() == stage; });
   }
+  static bool areKnown(PrintTask& task) {
+    return eventually([&] { return task.documents().areKnown(); });
+  }
   // Its back end takes laid-out PDF as it is.
   void addQueue(PrivateCupsd& cups, const char* queue) {
     cups.addQueue(queue, place.write(std::string(queue) + ".ppd",
@@ -134,6 +137,7 @@ TEST_F(PrintTaskTest, TakesAJobBack) {
   task.usePrinterWithoutQueue(printer(), place.path());
   task.cancel();
   EXPECT_EQ(task.stage(), Stage::ready) << "there is no job yet";
+  ASSERT_TRUE(areKnown(task));
   task.print();
   task.cancel();
   EXPECT_TRUE(task.isSending());
@@ -143,9 +147,62 @@ TEST_F(PrintTaskTest, TakesAJobBack) {
   EXPECT_EQ(task.notice().text, "Printing was cancelled. The settings are as they were.");
 }
 
+TEST_F(PrintTaskTest, PrintsAsSoonAsTheDocumentIsKnown) {
+  PrintTask task(request());
+  task.usePrinterWithoutQueue(printer(), place.path());
+  EXPECT_FALSE(task.documents().areKnown());
+  task.print();
+  EXPECT_EQ(task.stage(), Stage::printing);
+  ASSERT_TRUE(reaches(task, Stage::done));
+}
+
+TEST_F(PrintTaskTest, NothingIsSentWhenItIsCancelledBefore) {
+  PrintTask task(request());
+  task.usePrinterWithoutQueue(printer(), place.path());
+  task.print();
+  task.cancel();
+  EXPECT_EQ(task.stage(), Stage::ready);
+  ASSERT_TRUE(areKnown(task));
+  EXPECT_EQ(task.stage(), Stage::ready);
+}
+
+TEST_F(PrintTaskTest, SendsEachDocumentWithTheSameSettings) {
+  PrintTask task(request());
+  task.addDocuments({place.write("more.pdf", "%PDF-1.4 more"), place.write("last.txt", "Bye.")});
+  task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+  task.fields().setCopies(2);
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done));
+  for (const char* folder : {"card.pdf", "more.pdf", "last.txt"}) {
+    const std::string ticket = test::textOf(place.path() / "jobs" / folder / "ticket.json");
+    EXPECT_NE(ticket.find("\"copies\": 2"), std::string::npos) << folder << ticket;
+  }
+}
+
+// What was sent stays sent; Print goes on with the others.
+TEST_F(PrintTaskTest, SaysWhichDocumentsWereSentBeforeOneFailed) {
+  PrintTask task(request());
+  const auto gone = place.write("gone.pdf", "%PDF-1.4 soon gone");
+  task.addDocuments({gone, place.write("last.txt", "Bye.")});
+  task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+  ASSERT_TRUE(areKnown(task));
+  std::filesystem::remove(gone);
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::failed));
+  EXPECT_TRUE(task.notice().text.ends_with(
+      " 1 of 3 documents were sent before; Print sends the others."))
+      << task.notice().text;
+  std::ofstream(gone) << "%PDF-1.4 back again";
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done));
+  EXPECT_FALSE(std::filesystem::exists(place.path() / "jobs" / "card.pdf-2"));
+  EXPECT_TRUE(std::filesystem::exists(place.path() / "jobs" / "last.txt"));
+}
+
 TEST_F(PrintTaskTest, WhoLeavesTooEarlyHearsOfTheJob) {
   PrintTask task(endlessRequest());
   task.usePrinterWithoutQueue(printer(), place.path());
+  ASSERT_TRUE(areKnown(task));
   task.print();
   task.cancel();
   task.leave();

@@ -34,9 +34,12 @@ std::string folderName(const std::string& title) {
   return name;
 }
 
-// For the file that the ticket's command prints: lp would take "-" for standard input.
-std::string nameInFolder(const fs::path& document) {
-  if (document.filename() == kStandardInput) return "document";
+// For the file that the ticket's command prints: lp would take "-" for standard input. A document
+// that has been made ready for the printer is of another kind than its name says.
+std::string nameInFolder(const JobRequest& request) {
+  fs::path document = request.document.filename();
+  if (document == kStandardInput) document = "document";
+  if (!request.prepared.empty()) document.replace_extension(request.prepared.extension());
   const std::string name = documentName(document);
   return name == kTicketName ? "document-" + name : name;
 }
@@ -85,7 +88,7 @@ Cancellable<Result<fs::path>> writeTicketFolder(const fs::path& output, const Jo
                                                 const OptionList& options, const CancelFlag& cancel,
                                                 const ProgressCallback& progress) {
   using Answer = Result<fs::path>;
-  auto document = Document::open(request.document, cancel);
+  auto document = Document::open(sentFile(request), cancel);
   if (!document) return document.why();
   std::error_code problem;
   if (fs::create_directories(output, problem); problem) {
@@ -94,7 +97,7 @@ Cancellable<Result<fs::path>> writeTicketFolder(const fs::path& output, const Jo
   }
   HiddenFolder folder(output);
   if (!folder) return Answer(cannotWrite(output));
-  const std::string name = nameInFolder(request.document);
+  const std::string name = nameInFolder(request);
   const auto copied = copyDocument(*document, folder.path() / name, output, cancel, progress);
   if (!copied) return copied.why();
   if (!*copied) return Answer(Failure{copied->reason()});

@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
-#include "host/document/Document.h"
-#include "host/job/JobSubmitter.h"
-#include "host/preview/Preview.h"
+#include "host/preview/SheetsMaker.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/request/JobOptions.h"
 #include "host/server/PrinterPPD.h"
+#include "host/task/JobSequence.h"
 #include "tests/fakes/FakePDF.h"
 #include "tests/fixtures/EventLoopTest.h"
+#include "tests/fixtures/SeenDocuments.h"
 #include "tests/servers/PrivateCupsd.h"
 
 // The sheets of the preview beside the sheets that the printer's back end gets of the same job.
@@ -69,22 +69,43 @@ class AsPrintedTest : public EventLoopTest {
     EXPECT_EQ(std::system(command.c_str()), 0);  // NOLINT(cert-env33-c)
     return test::textOf(out);
   }
-  std::string printed(const JobRequest& request, const OptionList& options) {
-    const auto submission = submitJob(request, options);
-    EXPECT_TRUE(submission) << submission.reason();
-    return pictures(place.write("printed.pdf", cups.waitForJob(submission->jobId).data));
+  std::string printed(const Preparation& preparation) {
+    JobSequence sequence;
+    QString outcome;
+    const auto tell = [&](const QString& text) { outcome = text; };
+    QObject::connect(&sequence, &JobSequence::failed, tell);
+    QObject::connect(&sequence, &JobSequence::nothingLeft, tell);
+    QObject::connect(&sequence, &JobSequence::finished,
+                     [&](const JobReport& report) { outcome = report.text; });
+    JobRequest request;
+    request.printer = kQueue;
+    sequence.start({preparation, request});
+    EXPECT_TRUE(eventually([&] { return !outcome.isEmpty(); }));
+    const int id = outcome.section('-', 1).section(' ', 0, 0).toInt();
+    EXPECT_GT(id, 0) << outcome.toStdString();
+    return id ? pictures(place.write("printed.pdf", cups.waitForJob(id).data)) : "";
   }
-  std::string previewed(const JobRequest& request, const OptionList& options,
-                        const SharedPPD& ppd) {
-    SheetMaker maker({request.document, sourceOf(ppd), options}, request.document,
-                     Document::open(request.document)->format());
+  std::string previewed(const Preparation& preparation) {
+    SheetsMaker maker(preparation);
     std::optional<Sheets> sheets;
-    QObject::connect(&maker, &SheetMaker::made, [&](const Sheets& made) { sheets = made; });
+    QString reason;
+    QObject::connect(&maker, &SheetsMaker::made, [&](const Sheets& made) { sheets = made; });
+    QObject::connect(&maker, &SheetsMaker::failed, [&](const QString& why) { reason = why; });
     maker.start();
-    EXPECT_TRUE(eventually([&] { return sheets.has_value(); }));
-    return sheets ? pictures(sheets->pdf) : "";
+    EXPECT_TRUE(eventually([&] { return sheets || !reason.isEmpty(); }));
+    return sheets ? pictures(sheets->documents.front().pdf) : reason.toStdString();
+  }
+  // The job as the dialog makes it.
+  Preparation preparationOf(const Case& one, const SharedPPD& ppd) {
+    ppdMarkDefaults(ppd.get());
+    markOptions(*ppd, one.options);
+    JobRequest request;
+    request.options = one.options;
+    documents.emplace(std::vector{place.path() / one.document});
+    return {documents->facts(), sourceOf(ppd), markedPaper(*ppd), jobOptions(request, ppd.get())};
   }
 
+  std::optional<test::SeenDocuments> documents;
   PrivateCupsd cups;
   test::TemporaryFolder place;
 };
@@ -94,16 +115,10 @@ TEST_F(AsPrintedTest, EverySheetIsTheSameDotForDot) {
   ASSERT_TRUE(read) << read.reason();
   const SharedPPD ppd(std::move(*read));
   for (const Case& one : kCases) {
-    JobRequest request;
-    request.printer = kQueue;
-    request.document = place.path() / one.document;
-    request.options = one.options;
-    ppdMarkDefaults(ppd.get());
-    markOptions(*ppd, one.options);
-    const OptionList options = jobOptions(request, ppd.get());
-    const std::string expected = printed(request, options);
+    const Preparation preparation = preparationOf(one, ppd);
+    const std::string expected = printed(preparation);
     EXPECT_GT(expected.size(), 10'000u) << one.name;
-    EXPECT_EQ(previewed(request, options, ppd) == expected, true) << one.name;
+    EXPECT_EQ(previewed(preparation) == expected, true) << one.name;
   }
 }
 

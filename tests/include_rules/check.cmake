@@ -38,14 +38,16 @@ room(host/request        platform/text ppd host/support host/printer host/docume
 room(host/ticket         platform/text platform/files host/support host/document host/request)
 room(host/job            platform/text host/support host/printer host/server host/document host/request
                          host/ticket)
-room(host/preview        platform/text platform/files ppd host/support host/printer host/document
+room(host/prepare        platform/text platform/files ppd host/support host/printer host/document
                          host/request)
+room(host/preview        platform/text platform/files ppd host/support host/printer host/document
+                         host/request host/prepare)
 room(host/panels         platform/text platform/files platform/contract ppd host/support
                          host/printer)
-room(host/task           platform/text host/support host/printer host/server host/request host/job
-                         host/panels)
+room(host/task           platform/text ppd host/support host/printer host/server host/document
+                         host/request host/job host/prepare host/panels)
 room(host/sheets         platform/text platform/qt/base ppd host/support host/printer host/document
-                         host/request host/panels host/preview host/task)
+                         host/request host/prepare host/panels host/preview host/task)
 room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
                          host/printer host/panels host/task)
 room(host/general        platform/qt/base ppd host/printer host/task host/panes)
@@ -73,7 +75,7 @@ room(tests               ${ROOMS})
 set(LIBRARIES Qt widgets pictures cups plist qpdf heif nlohmann gtest)
 set(LOOK_Qt "<(Q[A-Z]|Qt|q[a-z]+\\.h)")
 set(MAY_HAVE_Qt "^(platform/qt|host|replay|tests)/")
-set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QLocale|QMimeDatabase|QObject|QProcess|QRegularExpression|QStandardPaths|QString|QStringList|QTimer|QUrl")
+set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QLocale|QMarginsF|QMimeDatabase|QObject|QProcess|QRegularExpression|QSizeF|QStandardPaths|QString|QStringList|QTimer|QUrl")
 set(LOOK_widgets "${LOOK_Qt}")
 set(QT_PICTURES "QColorSpace|QImage|QImageReader")
 set(NOT_widgets "<(${QT_CORE}|${QT_PICTURES})>")

@@ -1,4 +1,4 @@
-#include "host/preview/LimitedCommand.h"
+#include "host/prepare/LimitedCommand.h"
 
 #include <csignal>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "host/preview/LimitedCommand.h"
+#include "host/prepare/LimitedCommand.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -97,6 +97,7 @@ void LimitedCommand::start() {
 void LimitedCommand::connectProcess() {
   const auto tellEnd = [this](int status, QProcess::ExitStatus how) {
     killAll();  // what it has left behind
+    if (how == QProcess::NormalExit) exitStatus = status;
     const bool isWell = how == QProcess::NormalExit && status == 0;
     emit ended(isSlow ? End::slow : isWell ? End::well : End::failed);
   };

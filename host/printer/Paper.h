@@ -4,6 +4,8 @@
 #include <QSizeF>
 #include <cups/ppd.h>
 
+#include "platform/text/OptionalString.h"
+
 namespace tavrin {
 
 // The shape of the paper, in points.
@@ -13,6 +15,10 @@ struct Paper {
 
   bool operator==(const Paper&) const = default;
 };
+
+// The choice of paper in a PPD that is as large as a page (in points), upright or turned; the
+// marked one where several are. Absent where there is none, and for a page without a size.
+OptString paperOfSize(ppd_file_t& ppd, const QSizeF& page);
 
 // The paper that is marked in a PPD; A4 without margins where none is.
 Paper markedPaper(ppd_file_t& ppd);

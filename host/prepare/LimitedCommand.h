@@ -43,6 +43,8 @@ class LimitedCommand : public QObject {
   ~LimitedCommand() override;
 
   void start();
+  // Its exit status, once it has ended; 128 and more where it did not end by itself.
+  int status() const { return exitStatus; }
 
   // Where the system has a command, also one that is for administrators; empty for nowhere.
   static QString find(const QString& name);
@@ -52,6 +54,8 @@ class LimitedCommand : public QObject {
   void ended(tavrin::LimitedCommand::End end);
 
  private:
+  static constexpr int kNoStatus = 128;
+
   void connectProcess();
   void killAll();
 
@@ -59,6 +63,7 @@ class LimitedCommand : public QObject {
   QTimer clock;
   pid_t group = 0;  // of its processes, while they are at work
   bool isSlow = false;
+  int exitStatus = kNoStatus;
 };
 
 }  // namespace tavrin

@@ -1,4 +1,4 @@
-#include "host/preview/HarmlessPPD.h"
+#include "host/prepare/HarmlessPPD.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "host/preview/DocumentFile.h"
+#include "host/prepare/DocumentFile.h"
 
 #include <fstream>
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "host/document/DocumentName.h"
+
+namespace tavrin {
+
+// What is known of a document before it is printed.
+struct DocumentFacts {
+  std::filesystem::path document = kStandardInput;  // as the person named it
+  std::filesystem::path file = {};  // that commands can read; empty where there is none
+  std::string format = {};          // its MIME type
+  int pages = 0;                    // 0 where nobody knows
+  // The first page as a reader shows it, in points; 0 where nobody knows.
+  double width = 0;
+  double height = 0;
+  bool isPortrait = true;    // no page is wider than high
+  bool isTurned = false;     // a picture that its camera wants turned
+  std::string problem = {};  // why commands cannot read it, in a sentence; empty when they can
+
+  bool operator==(const DocumentFacts&) const = default;
+};
+
+// What may be done to a document of this format.
+inline bool isPDF(const std::string& format) { return format == "application/pdf"; }
+inline bool isPicture(const std::string& format) { return format.starts_with("image/"); }
+inline bool isText(const std::string& format) { return format.starts_with("text/"); }
+
+}  // namespace tavrin

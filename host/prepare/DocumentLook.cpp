@@ -1,0 +1,63 @@
+#include "host/prepare/DocumentLook.h"
+
+#include <fstream>
+#include <utility>
+
+#include <nlohmann/json.hpp>
+
+#include "host/prepare/Imposer.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr LimitedCommand::Limits kLookLimits{std::chrono::seconds(20), 1 << 30, 1 << 20};
+
+// Numbers that no paper has are as good as none.
+double length(const nlohmann::json& seen, const char* name) {
+  const double points = seen.value(name, 0.0);
+  return points > 0 && points < 1e6 ? points : 0;
+}
+
+}  // namespace
+
+DocumentLook::DocumentLook(DocumentFacts theFacts, QObject* parent)
+    : QObject(parent), facts(std::move(theFacts)) {}
+
+void DocumentLook::start() {
+  const bool hasPages = isPDF(facts.format) || isPicture(facts.format);
+  if (hasPages) folder = temporaryHiddenFolder();
+  if (!folder) {
+    QMetaObject::invokeMethod(
+        this, [this] { emit seen(facts); }, Qt::QueuedConnection);
+    return;
+  }
+  command = std::make_unique<LimitedCommand>(LimitedCommand::Call{
+      imposer(),
+      {"--look", QString::fromStdString(facts.format), QString::fromStdString(facts.file.string())},
+      folder->path(),
+      folder->path() / "seen",
+      kLookLimits});
+  connect(command.get(), &LimitedCommand::ended, this, [this](LimitedCommand::End end) {
+    if (end == LimitedCommand::End::well) read();
+    emit seen(facts);
+  });
+  command->start();
+}
+
+void DocumentLook::read() {
+  std::ifstream stream(folder->path() / "seen");
+  const auto seen = nlohmann::json::parse(stream, nullptr, false);
+  if (!seen.is_object()) return;
+  try {
+    facts.pages = seen.value("pages", 0);
+    facts.width = length(seen, "width");
+    facts.height = length(seen, "height");
+    facts.isPortrait = seen.value("portrait", true);
+    facts.isTurned = seen.value("turned", false);
+  } catch (const nlohmann::json::exception&) {
+    // It answers with what it was made to answer with; anything else tells nothing.
+  }
+}
+
+}  // namespace tavrin

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+
+#include "host/prepare/DocumentFacts.h"
+#include "host/prepare/LimitedCommand.h"
+#include "host/support/HiddenFolder.h"
+
+namespace tavrin {
+
+// Counts and measures the pages of a document, in a process of its own.
+class DocumentLook : public QObject {
+  Q_OBJECT
+
+ public:
+  // The facts have the file and its format.
+  explicit DocumentLook(DocumentFacts facts, QObject* parent = nullptr);
+
+  // Answered by the signal, unless the look is gone by then. What cannot be seen stays unknown.
+  void start();
+
+ signals:
+  void seen(const tavrin::DocumentFacts& facts);
+
+ private:
+  void read();
+
+  DocumentFacts facts;
+  std::shared_ptr<const HiddenFolder> folder;
+  std::unique_ptr<LimitedCommand> command;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,48 @@
+#include "host/prepare/Documents.h"
+
+namespace tavrin {
+
+void Documents::add(const std::vector<std::filesystem::path>& documents) {
+  const bool wasDone = isLooking && areKnown();
+  for (const auto& document : documents) facts.push_back({document});
+  if (wasDone) lookAtNext();
+}
+
+void Documents::dropFirst(std::size_t count) {
+  facts.erase(facts.begin(), facts.begin() + static_cast<std::ptrdiff_t>(count));
+  files.erase(files.begin(), files.begin() + static_cast<std::ptrdiff_t>(count));
+  known -= count;
+}
+
+void Documents::look() {
+  if (isLooking) return;
+  isLooking = true;
+  lookAtNext();
+}
+
+void Documents::lookAtNext() {
+  if (areKnown()) return emit becameKnown();
+  files.push_back(std::make_unique<DocumentFile>());
+  DocumentFile& file = *files.back();
+  connect(&file, &DocumentFile::ready, this, [this, &file] {
+    DocumentFacts found = facts[known];
+    found.file = file.path();
+    found.format = file.format();
+    current = std::make_unique<DocumentLook>(found);
+    connect(current.get(), &DocumentLook::seen, this, &Documents::take);
+    current->start();
+  });
+  connect(&file, &DocumentFile::failed, this, [this](const QString& reason) {
+    DocumentFacts found = facts[known];
+    found.problem = reason.toStdString();
+    take(found);
+  });
+  file.fetch(facts[known].document);
+}
+
+void Documents::take(const DocumentFacts& seen) {
+  facts[known++] = seen;
+  lookAtNext();
+}
+
+}  // namespace tavrin

@@ -1,0 +1,137 @@
+#include "host/prepare/Imposition.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+#include "host/request/JobOptions.h"
+#include "platform/text/IgnoringCase.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr std::array kImposerOptions{
+    kPageRangesOption,   kPageSetOption, kOrientationOption, "landscape", kPagesPerSheetOption,
+    kOrderOnSheetOption, kBorderOption,  kBookletOption,     kFitOption,  "scaling",
+    "natural-scaling",   "ppi",          "fit-to-page",      "fitplot",   "fill",
+    kPositionOption};
+
+// The pictures that the filters read.
+constexpr std::array kPictures{"image/jpeg",
+                               "image/png",
+                               "image/gif",
+                               "image/tiff",
+                               "image/bmp",
+                               "image/x-portable-anymap",
+                               "image/x-portable-bitmap",
+                               "image/x-portable-graymap",
+                               "image/x-portable-pixmap"};
+
+bool isOneOf(const std::string& value, std::initializer_list<const char*> others) {
+  return std::ranges::any_of(others, [&](auto other) { return equalIgnoringCase(value, other); });
+}
+
+// Set, and to something else than these.
+bool isOther(const OptionList& options, const char* name,
+             std::initializer_list<const char*> usual) {
+  const OptString value = optionValue(options, name);
+  return value && !value->empty() && !isOneOf(*value, usual);
+}
+
+bool isBooklet(const OptionList& options) {
+  return isOther(options, kBookletOption, {"false", "no", "off"});
+}
+
+bool hasSeveralPagesOnASheet(const OptionList& options) {
+  return isOther(options, kPagesPerSheetOption, {"1"}) || isBooklet(options);
+}
+
+bool choosesPages(const OptionList& options) {
+  return isOther(options, kPageRangesOption, {}) || isOther(options, kPageSetOption, {"all"});
+}
+
+bool hasOrientation(const OptionList& options) {
+  return optionValue(options, kOrientationOption) || isOther(options, "landscape", {"false"});
+}
+
+bool isPortraitAnyway(const DocumentFacts& document, const OptionList& options) {
+  return document.isPortrait && !isOther(options, kOrientationOption, {"3"}) &&
+         !isOther(options, "landscape", {"false"});
+}
+
+bool isPositioned(const OptionList& options) {
+  return isOther(options, kPositionOption, {"center"});
+}
+
+bool isScaled(const OptionList& options) {
+  return isOther(options, "scaling", {}) || isOther(options, "natural-scaling", {});
+}
+
+// The filters put a page somewhere as long as they do not scale it.
+bool isPositionedAndFitted(const OptionList& options) {
+  return isPositioned(options) && isOther(options, kFitOption, {"none", "auto"});
+}
+
+// The filters count sheets, and lose the order of pages that are wider than high.
+bool mustPDFBeImposed(const DocumentFacts& document, const OptionList& options) {
+  if (isScaled(options) || isPositionedAndFitted(options)) return true;
+  if (hasOrientation(options) && !isPortraitAnyway(document, options)) return true;
+  return hasSeveralPagesOnASheet(options) &&
+         (choosesPages(options) || isPositioned(options) || !document.isPortrait);
+}
+
+// The filters take pictures as they are, one on a sheet.
+bool mustPictureBeImposed(const DocumentFacts& document, const OptionList& options) {
+  return document.isTurned || document.pages > 1 ||
+         std::ranges::find(kPictures, document.format) == kPictures.end() ||
+         hasOrientation(options) || hasSeveralPagesOnASheet(options) || choosesPages(options);
+}
+
+// Nobody has counted the pages of a text.
+bool mustTextBeImposed(const OptionList& options) {
+  return choosesPages(options) || isScaled(options) || isPositioned(options) ||
+         (hasSeveralPagesOnASheet(options) && hasOrientation(options));
+}
+
+}  // namespace
+
+bool mustBeImposed(const DocumentFacts& document, const OptionList& options) {
+  if (optionValue(options, kRawOption)) return false;
+  if (isPDF(document.format)) return mustPDFBeImposed(document, options);
+  if (isPicture(document.format)) return mustPictureBeImposed(document, options);
+  return isText(document.format) && mustTextBeImposed(options);
+}
+
+bool arePictures(const std::vector<DocumentFacts>& documents) {
+  return std::ranges::all_of(documents, [](const auto& one) { return isPicture(one.format); });
+}
+
+bool goTogether(const std::vector<DocumentFacts>& documents, const OptionList& options) {
+  return documents.size() > 1 && arePictures(documents) && !optionValue(options, kRawOption) &&
+         optionValue(options, kTogetherOption) == std::string(kTogether);
+}
+
+bool isForImposer(const std::string& name) {
+  return std::ranges::any_of(kImposerOptions,
+                             [&](auto option) { return equalIgnoringCase(name, option); });
+}
+
+OptionList optionsOnceImposed(OptionList options) {
+  std::erase_if(options, [](const auto& option) { return isForImposer(option.first); });
+  removeOption(options, kFormatOption);
+  setOption(options, kPagesPerSheetOption, "1");
+  setOption(options, kFitOption, "none");
+  return options;
+}
+
+OptionList optionsOfText(OptionList options) {
+  std::erase_if(options, [](const auto& option) {
+    const std::string& name = option.first;
+    return isForImposer(name) && !equalIgnoringCase(name, kOrientationOption) &&
+           !equalIgnoringCase(name, "landscape");
+  });
+  return options;
+}
+
+}  // namespace tavrin

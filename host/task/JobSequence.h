@@ -1,0 +1,73 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include <QObject>
+
+#include "host/job/JobRunner.h"
+#include "host/prepare/DocumentPreparer.h"
+#include "host/task/JobReport.h"
+
+namespace tavrin {
+
+// All that happens between Print and the paper: the documents are prepared, then sent as one job
+// each, one after the other. On paper that is printed on both sides in two passes, a document is
+// two jobs, and between them somebody turns the paper.
+class JobSequence : public QObject {
+  Q_OBJECT
+
+ public:
+  struct Order {
+    Preparation preparation;
+    JobRequest request;                 // all but its document
+    std::filesystem::path output = {};  // for a printer without a queue; else empty
+    bool inTwoPasses = false;
+  };
+
+  explicit JobSequence(QObject* parent = nullptr);
+
+  // Answered by one of the last five signals.
+  void start(const Order& order);
+  // Gives up; `cancelled` comes when that is done.
+  void cancel();
+  // The paper has been turned.
+  void printBacks();
+
+  // The documents that have been sent, from the first one, also when the sequence ended early.
+  std::size_t sent() const { return sentDocuments; }
+  // How many there are in all; 0 while they are prepared.
+  std::size_t count() const { return documents.size(); }
+
+ signals:
+  void progressed(const tavrin::Progress& progress);
+  // The fronts of a document are sent; nothing happens until printBacks() or cancel().
+  void paperToBeTurned();
+  void finished(const tavrin::JobReport& report);
+  void cancelled();
+  // No page is left to print; nothing was sent.
+  void nothingLeft(const QString& reason);
+  void failed(const QString& reason);
+  // The output folder cannot take the job; another one may.
+  void folderRefused(const QString& reason);
+
+ private:
+  enum class Pass { only, fronts, backs };
+
+  void connectRunner();
+  void prepare();
+  void sendNext();
+  void arrived(const JobReport& report);
+
+  Order order;
+  std::unique_ptr<DocumentPreparer> preparer;
+  std::vector<PreparedDocument> documents;
+  std::vector<JobReport> reports;
+  JobRunner runner;
+  std::size_t sentDocuments = 0;
+  Pass pass = Pass::only;
+  bool isTurning = false;
+};
+
+}  // namespace tavrin
