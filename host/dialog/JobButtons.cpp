@@ -31,7 +31,8 @@ JobButtons::JobButtons(PrintTask& theTask, QWidget* parent)
   progressBar->setTextVisible(false);
   addButtons();
   showStage();
-  connect(&task, &PrintTask::stageChanged, this, &JobButtons::showStage);
+  for (const auto signal : {&PrintTask::stageChanged, &PrintTask::printersChanged})
+    connect(&task, signal, this, &JobButtons::showStage);
   connect(&task, &PrintTask::progressed, this, &JobButtons::showProgress);
 }
 
@@ -67,7 +68,8 @@ void JobButtons::showStage() {
   for (QWidget* widget : std::initializer_list<QWidget*>{progressText, progressBar})
     widget->setVisible(task.isSending());
   cancel->setVisible(!isDone);
-  print->setText(isDone ? tr("&Done") : tr("&Print"));
+  const bool isFile = task.target() == PrintTask::Target::file;
+  print->setText(isDone ? tr("&Done") : isFile ? tr("&Save…") : tr("&Print"));
   print->setEnabled(isDone || task.canPrint());
   if (isDone) print->setFocus();
   showProgress({});

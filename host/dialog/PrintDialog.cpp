@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
@@ -15,6 +16,7 @@
 #include "host/dialog/HelpWindow.h"
 #include "host/dialog/JobButtons.h"
 #include "host/dialog/Note.h"
+#include "host/dialog/PDFName.h"
 #include "host/dialog/PaneSwitcher.h"
 #include "host/dialog/ResultPage.h"
 #include "host/dialog/SessionPanes.h"
@@ -217,7 +219,16 @@ void PrintDialog::print() {
   if (QtToolkit* toolkit = QtToolkit::installed()) toolkit->settle();
   if (!isVisible()) return;  // it was left meanwhile
   if (!task.fields().pageRanges()) return general->focusPageRange();
-  task.print();
+  task.target() == PrintTask::Target::file ? save() : task.print();
+}
+
+// The person agrees to lose a file in the window that asks for its name.
+void PrintDialog::save() {
+  const QString file = askForPDF(task.documents().all().front().document, this);
+  if (file.isEmpty() || !task.canPrint()) return;
+  const std::filesystem::path path = QFile::encodeName(file).toStdString();
+  using Existing = SheetsSaver::Existing;
+  task.saveAs(path, QFileInfo::exists(file) ? Existing::isReplaced : Existing::stays);
 }
 
 void PrintDialog::reject() {

@@ -66,6 +66,7 @@ class PrintDialog : public QDialog {
   void showConflicts();
   void showHelp();
   void print();
+  void save();
   void leave();
   SummaryPane::Sections allLines() const;
 

@@ -32,6 +32,10 @@ constexpr std::array<std::string_view, 7> kSharedNames{"image/gif",
                                                        "image/x-portable-pixmap",
                                                        "image/x-xpixmap"};
 
+// Pictures of cameras and of the web, which the print system does not read; they are made ready for
+// it.
+constexpr std::array<std::string_view, 3> kMadeReady{"image/webp", "image/heif", "image/avif"};
+
 // Beginnings of texts that the print system interprets.
 constexpr std::array<std::string_view, 4> kReadByPrintSystem{"#CUPS", "#PDF-", "<", "#define"};
 
@@ -59,7 +63,8 @@ std::string formatInDatabase(std::string_view start) {
   const QByteArray bytes(start.data(), static_cast<qsizetype>(start.size()));
   const std::string found = QMimeDatabase().mimeTypeForData(bytes).name().toStdString();
   const bool isShared = std::ranges::find(kSharedNames, found) != kSharedNames.end();
-  return isShared ? found : kUnknownFormat;
+  const bool isMadeReady = std::ranges::find(kMadeReady, found) != kMadeReady.end();
+  return isShared || isMadeReady ? found : kUnknownFormat;
 }
 
 }  // namespace

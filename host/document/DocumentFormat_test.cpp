@@ -29,6 +29,15 @@ TEST(DocumentFormat, OfPicturesIsNamedAsThePrintSystemNamesIt) {
   EXPECT_EQ(formatOf(std::string_view("BM\x46\0\0\0\0\0\0\0", 10)), kUnknownFormat);
 }
 
+TEST(DocumentFormat, OfCamerasAndTheWebIsKnownToo) {
+  EXPECT_EQ(formatOf(std::string_view("RIFF\x24\0\0\0WEBPVP8 ", 16)), "image/webp");
+  EXPECT_EQ(formatOf(std::string_view("\0\0\0\x18" "ftypheic\0\0\0\0", 16)), "image/heif");
+  EXPECT_EQ(formatOf(std::string_view("\0\0\0\x20"
+                                      "ftypavif\0\0\0\0",
+                                      16)),
+            "image/avif");
+}
+
 TEST(DocumentFormat, OfTextIsPlainHoweverItBegins) {
   EXPECT_EQ(formatOf("Dear Ada,\r\n\tgr\xC3\xBC\xC3\x9F dich\n"), "text/plain");
   for (const char* text : {"BMW and others", "ID3 tags", "#!/bin/sh", "From: Ada", "FWS"})

@@ -32,13 +32,25 @@ PrinterPopUp::PrinterPopUp(PrintTask& theTask, QWidget* parent) : QComboBox(pare
   refresh();
   connect(&task, &PrintTask::printersChanged, this, &PrinterPopUp::refresh);
   connect(&task, &PrintTask::stageChanged, this, &PrinterPopUp::refresh);
-  connect(this, &QComboBox::activated, this, [this](int index) {
-    if (task.hasQueue()) task.choosePrinter(static_cast<std::size_t>(index));
-  });
+  connect(this, &QComboBox::activated, this, &PrinterPopUp::choose);
 }
 
+void PrinterPopUp::choose(int index) {
+  if (index == count() - 1) return task.usePDF();
+  if (task.hasFolderPrinter()) return task.useFolder();
+  task.choosePrinter(static_cast<std::size_t>(index));
+}
+
+// The PDF is the last one.
 std::vector<PrinterPopUp::Row> PrinterPopUp::rows() const {
-  if (!task.hasQueue()) return {{shownLine(task.printerName()), tr("Jobs go to a folder")}};
+  std::vector<Row> all = printerRows();
+  all.push_back({tr("Save as PDF"), tr("A file instead of paper")});
+  return all;
+}
+
+std::vector<PrinterPopUp::Row> PrinterPopUp::printerRows() const {
+  if (task.hasFolderPrinter())
+    return {{shownLine(task.folderPrinterName()), tr("Jobs go to a folder")}};
   const std::vector<Printer>& printers = task.printers().entries();
   std::map<std::string, int> namesakes;
   for (const Printer& printer : printers) ++namesakes[titleOf(printer)];
@@ -50,6 +62,19 @@ std::vector<PrinterPopUp::Row> PrinterPopUp::rows() const {
                    printerDetails(printer)});
   }
   return all;
+}
+
+int PrinterPopUp::chosenRow() const {
+  switch (task.target()) {
+    case PrintTask::Target::file:
+      return count() - 1;
+    case PrintTask::Target::folder:
+      return 0;
+    case PrintTask::Target::queue:
+      break;
+  }
+  const auto chosen = task.printers().chosenIndex();
+  return chosen ? static_cast<int>(*chosen) : -1;
 }
 
 void PrinterPopUp::setRow(int index, const Row& row) {
@@ -71,8 +96,7 @@ void PrinterPopUp::refresh() {
   while (count() < number) addItem({});
   for (int index = 0; index < number; ++index) setRow(index, all[static_cast<std::size_t>(index)]);
   setPlaceholderText(placeholder(task.stage()));
-  const auto chosen = task.printers().chosenIndex();
-  setCurrentIndex(!task.hasQueue() ? 0 : chosen ? static_cast<int>(*chosen) : -1);
+  setCurrentIndex(chosenRow());
   setAccessibleDescription(currentData(PrinterItems::kDetails).toString());
   if (!sameNumber) letPopUpShrink(*this);
 }

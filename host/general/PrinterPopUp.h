@@ -22,7 +22,10 @@ class PrinterPopUp : public QComboBox {
   };
 
   void refresh();
+  void choose(int index);
   std::vector<Row> rows() const;
+  std::vector<Row> printerRows() const;
+  int chosenRow() const;
   void setRow(int index, const Row& row);
 
   PrintTask& task;

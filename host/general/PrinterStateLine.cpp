@@ -53,7 +53,9 @@ PrinterStateLine::PrinterStateLine(PrintTask& theTask, QWidget* parent)
 
 void PrinterStateLine::refresh() {
   const Printer* printer = task.printers().chosen();
-  if (!task.hasQueue()) {
+  if (task.target() == PrintTask::Target::file) {
+    say(tr("The sheets become one PDF"), Concern::none, {});
+  } else if (task.target() == PrintTask::Target::folder) {
     const std::filesystem::path& folder = task.outputFolder();
     say(tr("Jobs go to the folder “%1”").arg(shownFolder(folder)), Concern::none,
         shownLine(folder.string()));

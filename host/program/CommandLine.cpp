@@ -17,6 +17,8 @@ constexpr const char* kPPD = "ppd";
 constexpr const char* kSample = "sample";
 constexpr const char* kOutput = "output";
 constexpr const char* kNoPreview = "no-preview";
+constexpr const char* kNoDialog = "no-dialog";
+constexpr const char* kSave = "save";
 constexpr const char* kCopies = "n";
 constexpr const char* kTitle = "t";
 constexpr const char* kOption = "o";
@@ -57,6 +59,10 @@ CommandLine filledIn(const QCommandLineParser& parser) {
   line.ppd = bytesOf(parser.value(kPPD));
   line.sample = parser.isSet(kSample);
   line.noPreview = parser.isSet(kNoPreview);
+  line.withoutDialog = parser.isSet(kNoDialog);
+  line.save = bytesOf(parser.value(kSave));
+  for (const QString& document : parser.positionalArguments().mid(1))
+    line.furtherDocuments.emplace_back(bytesOf(document));
   if (parser.isSet(kOutput)) line.output = bytesOf(parser.value(kOutput));
   return line;
 }
@@ -72,25 +78,30 @@ OptString wrongCopies(const QCommandLineParser& parser) {
 
 // What is wrong with arguments that can each be read; empty when nothing is.
 std::string disagreement(const QCommandLineParser& parser) {
-  if (parser.positionalArguments().size() > 1) return "Only one document can be printed at a time.";
+  if (parser.positionalArguments().count(kStandardInput) > 1)
+    return "Standard input can be only one of the documents.";
   if (const OptString wrong = wrongCopies(parser))
     return "“" + *wrong + "” is not a number of copies; a job has 1 to " +
            std::to_string(kMostCopies) + " copies.";
-  for (const char* name : {kPrinter, kPPD, kOutput})
+  for (const char* name : {kPrinter, kPPD, kOutput, kSave})
     if (parser.isSet(name) && parser.value(name).isEmpty())
       return std::string(*(name + 1) ? "--" : "-") + name + " needs a value.";
   if (parser.isSet(kPPD) + parser.isSet(kSample) + parser.isSet(kPrinter) > 1)
     return "Only one of -d, --ppd and --sample can be given.";
   if (parser.isSet(kOutput) && !parser.isSet(kPPD) && !parser.isSet(kSample))
     return "--output needs --ppd or --sample: other jobs go to a print queue.";
+  if (parser.isSet(kSave) && parser.isSet(kOutput))
+    return "Only one of --save and --output can be given.";
+  if (parser.isSet(kSave) != parser.isSet(kNoDialog))
+    return "--no-dialog and --save FILE need each other. To print without a dialog, use lp.";
   return {};
 }
 
 // usage() is the program's help; the parser only needs to know what takes a value.
 void addAll(QCommandLineParser& parser) {
-  for (const char* name : {kPrinter, kPPD, kOutput, kCopies, kTitle, kOption})
+  for (const char* name : {kPrinter, kPPD, kOutput, kSave, kCopies, kTitle, kOption})
     parser.addOption(QCommandLineOption(QString(name), QString(), "value"));
-  for (const char* name : {kSample, kNoPreview, kHelp, kVersion})
+  for (const char* name : {kSample, kNoPreview, kNoDialog, kHelp, kVersion})
     parser.addOption(QCommandLineOption(QString(name)));
 }
 
@@ -112,18 +123,22 @@ Result<CommandLine> parseCommandLine(const std::vector<std::string>& arguments) 
 std::string usage() {
   return "Usage: tavrin-print [-d PRINTER[/INSTANCE]] [--ppd FILE] [--sample] [--output DIR]\n"
          "                    [--no-preview] [-n COPIES] [-t TITLE] [-o NAME=VALUE]...\n"
-         "                    [FILE | -]\n"
-         "Shows the Print dialog for a document and prints it.\n\n"
+         "                    [FILE | -]...\n"
+         "       tavrin-print --no-dialog --save FILE [-d PRINTER[/INSTANCE] | --ppd FILE]\n"
+         "                    [-t TITLE] [-o NAME=VALUE]... [FILE | -]...\n"
+         "Shows the Print dialog for documents and prints them, a job each.\n\n"
          "  -d PRINTER[/INSTANCE]  the printer to begin with; else the default printer\n"
          "  --ppd FILE             a printer that has this description and no queue\n"
          "  --sample               the sample printer and, with no FILE, the sample document\n"
          "  --output DIR           where the jobs of a printer without a queue are put,\n"
          "                         each in a folder of its own; else the current folder\n"
          "  --no-preview           does not show how the sheets will come out\n"
+         "  --no-dialog --save FILE  saves the sheets as a PDF, as the preview would show\n"
+         "                         them for that printer, and asks nothing; FILE is new\n"
          "  -n COPIES              how many copies, from 1 to 9999\n"
          "  -t TITLE               the job's name; else the document's\n"
          "  -o NAME=VALUE          an option of the job, as for lp; may be repeated\n"
-         "  FILE                   the document; - or none is standard input\n"
+         "  FILE                   a document; - or none is standard input\n"
          "  --help, --version      show this text or the version, and print nothing\n\n"
          "Exit status: 0 printed, 1 cancelled, 2 wrong usage, 3 could not print.\n";
 }

@@ -17,10 +17,13 @@ struct CommandLine {
   // -d, -n, -t, -o and the document; without -d no printer is named.
   JobRequest job;
   bool namesDocument = false;
-  std::filesystem::path ppd;           // --ppd; empty: the printer's own
-  bool sample = false;                 // --sample
-  std::filesystem::path output = ".";  // --output
-  bool noPreview = false;              // --no-preview
+  std::vector<std::filesystem::path> furtherDocuments;  // after the first one
+  std::filesystem::path ppd;                            // --ppd; empty: the printer's own
+  bool sample = false;                                  // --sample
+  std::filesystem::path output = ".";                   // --output
+  bool noPreview = false;                               // --no-preview
+  bool withoutDialog = false;                           // --no-dialog
+  std::filesystem::path save;                           // --save; empty: the sheets are printed
 };
 
 // Reads the arguments without the program's name, whatever bytes they are made of; or says in a

@@ -1,25 +1,23 @@
 // tavrin-print: the Print dialog as a command.
 
 #include <cstdlib>
-#include <fcntl.h>
 #include <iostream>
 #include <memory>
-#include <unistd.h>
 
 #include <QApplication>
 #include <QSettings>
 
 #include "host/dialog/DesktopHelpViewer.h"
 #include "host/dialog/PrintDialog.h"
-#include "host/document/Document.h"
 #include "host/printer/PPDLoader.h"
 #include "host/program/CommandLine.h"
 #include "host/program/EndSignals.h"
+#include "host/program/GivenDocuments.h"
 #include "host/program/Identity.h"
 #include "host/program/Launcher.h"
 #include "host/program/Samples.h"
+#include "host/program/SaveRun.h"
 #include "host/task/PrintTask.h"
-#include "platform/files/FileDescriptor.h"
 #include "platform/files/RootFolder.h"
 #include "platform/files/StandardStreams.h"
 #include "platform/qt/base/OutlinedStyle.h"
@@ -64,17 +62,6 @@ bool hasDisplay() {
   return false;
 }
 
-// A pipe gives its contents once. As standard input they are kept, so that a job that failed can
-// be sent again.
-void takeForStandardInput(JobRequest& job) {
-  std::error_code none;
-  if (!std::filesystem::is_fifo(job.document, none)) return;
-  const FileDescriptor pipe(open(job.document.c_str(), O_RDONLY | O_NONBLOCK));
-  if (!pipe || dup2(pipe.get(), STDIN_FILENO) < 0) return;  // the dialog will say why
-  if (job.title.empty()) job.title = job.document.filename().string();
-  job.document = kStandardInput;
-}
-
 void showMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
   std::cerr << visibleLines(text.toStdString()) << "\n";
 }
@@ -83,23 +70,6 @@ void showMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
 void complainAndLeave(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   showMessage(type, context, text);
   if (type == QtFatalMsg) std::_Exit(complain(kNotPrinted, kNoDisplay));
-}
-
-// Why the document cannot be printed whatever the printer; empty when it can. Standard input is
-// not looked at before it is printed.
-std::string documentProblem(const std::filesystem::path& document) {
-  if (document == kStandardInput) return {};
-  const auto opened = Document::open(document);
-  return opened ? "" : opened.reason();
-}
-
-// Why standard input cannot be the document; empty when it can, or need not.
-std::string inputProblem(const CommandLine& line) {
-  if (line.job.document != kStandardInput) return {};
-  if (!canReadStandardInput())
-    return "Standard input is closed, so there is no document in it. Name a file.";
-  const bool isForgotten = !line.namesDocument && isatty(STDIN_FILENO);
-  return isForgotten ? "No document was named. Name a file, or - to type the document." : "";
 }
 
 int report(const PrintTask& task) {
@@ -123,32 +93,57 @@ void rememberPreview(PrintDialog& dialog, const CommandLine& line) {
                    [remembered](bool wanted) { remembered->setValue(kPreviewSetting, wanted); });
 }
 
+void begin(PrintTask& task, const CommandLine& line, const SharedPPD& ppd) {
+  if (ppd)
+    task.usePrinterWithoutQueue(ppd, line.output);
+  else if (line.withoutDialog && line.job.printer.empty())
+    task.usePDF();
+  else
+    task.usePrintServer();
+}
+
 // The panels go before the toolkit and the help viewer that they use.
 int runDialog(const CommandLine& line, const SharedPPD& ppd, DesktopHelpViewer& helpViewer) {
   PrintTask task(line.job);
+  task.addDocuments(line.furtherDocuments);
   PrintDialog dialog(task);
   rememberPreview(dialog, line);
   const EndSignals endSignals([&dialog] { dialog.end(); });
   helpViewer.setComplaint([&](const std::string& sentence) { task.say(sentence); });
-  if (ppd)
-    task.usePrinterWithoutQueue(ppd, line.output);
-  else
-    task.usePrintServer();
+  begin(task, line, ppd);
   dialog.exec();
   return report(task);
 }
 
+// Without anybody to ask. What a person would be told in a dialog is said on standard error.
+int runWithoutDialog(const CommandLine& line, const SharedPPD& ppd) {
+  PrintTask task(line.job);
+  task.addDocuments(line.furtherDocuments);
+  begin(task, line, ppd);
+  SaveRun run(task, line.save);
+  QObject::connect(&run, &SaveRun::ended, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  QCoreApplication::exec();
+  if (task.outcome() != PrintTask::Outcome::cancelled) return report(task);
+  return complain(kNotPrinted, shownLines(task.notice().text).toStdString());
+}
+
+// Qt's remarks about a screen that is none are of no use to anybody.
+void showTrouble(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) showMessage(type, context, text);
+}
+
 int show(const CommandLine& line, const SharedPPD& ppd, int& argc, char** argv) {
-  qInstallMessageHandler(complainAndLeave);
+  qInstallMessageHandler(line.withoutDialog ? showTrouble : complainAndLeave);
   QApplication application(argc, argv);
-  qInstallMessageHandler(showMessage);
+  if (!line.withoutDialog) qInstallMessageHandler(showMessage);
   identifyProgram();
   OutlinedStyle::install();
   QtToolkit toolkit;
   Toolkit::install(&toolkit);
   DesktopHelpViewer helpViewer;
   HelpViewer::install(&helpViewer);
-  const int status = runDialog(line, ppd, helpViewer);
+  const int status =
+      line.withoutDialog ? runWithoutDialog(line, ppd) : runDialog(line, ppd, helpViewer);
   HelpViewer::install(nullptr);
   Toolkit::install(nullptr);
   return status;
@@ -162,8 +157,8 @@ int print(CommandLine line, int& argc, char** argv) {
   }
   if (const std::string problem = inputProblem(line); !problem.empty())
     return refuse(kUsage, problem);
-  takeForStandardInput(line.job);
-  if (const std::string problem = documentProblem(line.job.document); !problem.empty())
+  if (line.furtherDocuments.empty()) takeForStandardInput(line.job);
+  if (const std::string problem = documentProblem(line); !problem.empty())
     return refuse(kNotPrinted, problem);
   SharedPPD ppd;
   if (!line.ppd.empty()) {
@@ -171,6 +166,8 @@ int print(CommandLine line, int& argc, char** argv) {
     if (!loaded) return refuse(kNotPrinted, loaded.reason());
     ppd = std::move(*loaded);
   }
+  // Panels are made of widgets, which want a screen, seen or unseen.
+  if (line.withoutDialog) qputenv("QT_QPA_PLATFORM", "offscreen");
   if (!hasDisplay()) return complain(kNotPrinted, kNoDisplay);
   return show(line, ppd, argc, argv);
 }

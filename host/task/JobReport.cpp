@@ -28,6 +28,13 @@ JobReport reportOn(const std::filesystem::path& folder) {
           folder};
 }
 
+JobReport reportOnFile(const std::filesystem::path& file) {
+  std::error_code none;
+  return {tr("The PDF was saved"),
+          tr("The sheets were saved as %1.").arg(QString::fromStdString(file.string())), false,
+          std::filesystem::absolute(file, none).parent_path()};
+}
+
 JobReport inOne(const std::vector<JobReport>& reports) {
   if (reports.size() == 1) return reports.front();
   QStringList texts;

@@ -23,6 +23,9 @@ JobReport reportOn(const std::string& queue, const Submission& submission);
 // The report on a job that became this folder.
 JobReport reportOn(const std::filesystem::path& folder);
 
+// The report on sheets that were saved as this file.
+JobReport reportOnFile(const std::filesystem::path& file);
+
 // The reports on several jobs, at least one, that were printed together.
 JobReport inOne(const std::vector<JobReport>& reports);
 

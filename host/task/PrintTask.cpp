@@ -3,14 +3,17 @@
 #include <chrono>
 #include <utility>
 
+#include <QLocale>
 #include <QTimer>
 
 #include "host/prepare/Imposition.h"
 #include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/printer/PPDLoader.h"
 #include "host/printer/Paper.h"
 #include "host/request/JobOptions.h"
 #include "host/support/TextLists.h"
+#include "platform/files/ProgramFolder.h"
 #include "ppd/PPDKeywords.h"
 
 namespace tavrin {
@@ -33,6 +36,11 @@ std::string leftAlone(const ppd_file_t& ppd) {
          "alone: " +
          joined(keywords) + ".";
 }
+
+// What the settings of that target are kept by; no queue has a name with a blank.
+constexpr char kPDFDestination[] = "a file";
+
+bool isLetterCountry() { return QLocale().measurementSystem() == QLocale::ImperialUSSystem; }
 
 bool namesPaper(const OptionList& options) {
   for (const char* name : {kPageSizeKey, "PageRegion", kPaperOption})
@@ -78,7 +86,8 @@ void PrintTask::leave() {
 }
 
 QString PrintTask::stillOnItsWay() const {
-  return hasQueue()
+  if (isSaving) return tr("The PDF may have been saved all the same.");
+  return where == Target::queue
              ? tr("The job may still be on its way. See whether it is in the queue: lpstat -o")
              : tr("The job may have been written all the same. See whether it is in the "
                   "folder %1.")
@@ -98,6 +107,7 @@ void PrintTask::connectSearch() {
 void PrintTask::usePrintServer() {
   if (isSending()) return;
   keepSettings();
+  where = Target::queue;
   endSession();
   tell({});
   enter(Stage::looking);
@@ -106,16 +116,48 @@ void PrintTask::usePrintServer() {
 
 void PrintTask::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path folder) {
   output = std::move(folder);
+  folderPPD = ppd;
+  where = Target::folder;
   beginSession(ppd);
 }
 
+void PrintTask::useFolder() {
+  if (isSending() || now == Stage::done || !folderPPD || where == Target::folder) return;
+  leavePrinter();
+  where = Target::folder;
+  beginSession(folderPPD);
+  emit printersChanged();
+}
+
+void PrintTask::usePDF() {
+  if (isSending() || now == Stage::done || where == Target::file) return;
+  Result<PPDPtr> ppd = loadPPD(programFolder().parent_path() / "share" / "tavrin" / "pdf.ppd");
+  if (!ppd) return warn(ppd.reason());
+  leavePrinter();
+  where = Target::file;
+  destination = kPDFDestination;
+  search.chooseNone();
+  suggestFields();
+  beginSession(std::move(*ppd));
+}
+
+// Whatever is chosen next.
+void PrintTask::leavePrinter() {
+  keepSettings();
+  endSession();
+  queueOfSession.clear();
+  destination.clear();
+  tell({});
+}
+
 void PrintTask::setOutput(const std::filesystem::path& folder) {
-  if (hasQueue() || isSending()) return;
+  if (where != Target::folder || isSending()) return;
   output = folder;
   say(tr("The job will be put into the folder %1.").arg(shown(output.string())).toStdString());
 }
 
 void PrintTask::chooseFirstPrinter() {
+  if (where == Target::file) return;
   if (printers().entries().empty())
     return noPrinters(tr("No printer is set up on this computer. Set one up, then look again."));
   const std::string named =
@@ -126,6 +168,7 @@ void PrintTask::chooseFirstPrinter() {
 }
 
 void PrintTask::noPrinters(const QString& reason) {
+  if (where == Target::file) return;
   enter(Stage::noPrinters);
   tell({reason.toStdString(), true, WayOut::lookAgain});
 }
@@ -136,6 +179,7 @@ void PrintTask::choosePrinter(std::size_t place) {
   // asked for again.
   if (printers().chosenIndex() == place && (current || now == Stage::reading)) return;
   const std::string problem = keepSettings();
+  where = Target::queue;
   search.choose(place);
   readChosenPrinter();
   if (!problem.empty()) warn(problem);
@@ -168,9 +212,12 @@ void PrintTask::goWithoutPPD(const QString& reason) {
 }
 
 std::string PrintTask::printerName() const {
-  if (!hasQueue()) return current ? nameOf(current->ppd()) : "";
+  if (where == Target::file) return tr("Save as PDF").toStdString();
+  if (where == Target::folder) return folderPrinterName();
   return printers().chosen() ? titleOf(*printers().chosen()) : "";
 }
+
+std::string PrintTask::folderPrinterName() const { return folderPPD ? nameOf(*folderPPD) : ""; }
 
 // --- The chosen printer's settings ---
 
@@ -211,6 +258,8 @@ OptionList PrintTask::startOptions() const {
   OptionList options;
   if (const Printer* printer = printers().chosen()) options = printer->options;
   for (const auto& [name, value] : asked.options) setOption(options, name, value);
+  if (where == Target::file && isLetterCountry() && !namesPaper(options))
+    setOption(options, kPageSizeKey, "Letter");
   return options;
 }
 
@@ -258,7 +307,7 @@ void PrintTask::takeDocuments() {
   jobFields.setSeveralPictures(all.size() > 1 && arePictures(all));
   suggestPaper();
   emit documentsChanged();
-  if (std::exchange(isWaiting, false)) send();
+  if (waiting) std::exchange(waiting, {})();
 }
 
 // A document's paper, where the printer has it and nobody has asked for another one.
@@ -288,9 +337,25 @@ void PrintTask::connectSequence() {
   connect(&sequence, &JobSequence::folderRefused, this,
           [this](const QString& reason) { fail(reason, WayOut::chooseFolder); });
   connect(&sequence, &JobSequence::failed, this, [this](const QString& reason) { fail(reason); });
+  connect(&saver, &SheetsSaver::saved, this,
+          [this](const std::filesystem::path& file) { finish(reportOnFile(file)); });
+  connect(&saver, &SheetsSaver::cancelled, this, &PrintTask::giveBack);
+  connect(&saver, &SheetsSaver::nothingLeft, this, &PrintTask::refuse);
+  connect(&saver, &SheetsSaver::failed, this, [this](const QString& reason) { fail(reason); });
 }
 
 void PrintTask::print() {
+  if (where != Target::file) doOnceKnown([this] { send(); });
+}
+
+void PrintTask::saveAs(const std::filesystem::path& file, SheetsSaver::Existing existing) {
+  doOnceKnown([=, this] {
+    isSaving = true;
+    saver.save(preparation(), file, existing);
+  });
+}
+
+void PrintTask::doOnceKnown(std::function<void()> work) {
   if (!canPrint()) return;
   if (const Result<std::string> ranges = jobFields.pageRanges(); !ranges)
     return warn(ranges.reason());
@@ -298,15 +363,17 @@ void PrintTask::print() {
     return warn(problem);
   tell({});
   enter(Stage::printing);
-  if (papers.areKnown()) return send();
-  isWaiting = true;
+  if (papers.areKnown()) return work();
+  waiting = std::move(work);
   papers.look();
 }
 
 void PrintTask::send() {
   const Result<std::string> ranges = jobFields.pageRanges();
   const Preparation wanted = preparation();
-  sequence.start({wanted, finishedRequest(ranges ? *ranges : ""), output, wanted.wholeSheets});
+  isSaving = false;
+  sequence.start({wanted, finishedRequest(ranges ? *ranges : ""),
+                  where == Target::folder ? output : "", wanted.wholeSheets});
 }
 
 OptionList PrintTask::options() const {
@@ -333,8 +400,9 @@ bool PrintTask::needsTwoPasses(const OptionList& options) const {
 
 JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
   JobRequest finished = asked;
-  finished.printer = hasQueue() ? printers().chosen()->name : "";
-  finished.instance = hasQueue() ? printers().chosen()->instance : "";
+  const Printer* printer = printers().chosen();
+  finished.printer = printer ? printer->name : "";
+  finished.instance = printer ? printer->instance : "";
   finished.copies = jobFields.copies();
   finished.pageRanges = ranges;
   finished.options = startOptions();
@@ -353,8 +421,11 @@ void PrintTask::printBacks() {
 void PrintTask::cancel() {
   if (now != Stage::printing && now != Stage::turning) return;
   enter(Stage::takingBack);
-  if (std::exchange(isWaiting, false)) return giveBack();
-  sequence.cancel();
+  if (waiting) {
+    waiting = {};
+    return giveBack();
+  }
+  isSaving ? saver.cancel() : sequence.cancel();
 }
 
 void PrintTask::finish(const JobReport& job) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -10,6 +11,7 @@
 
 #include "host/panels/PrinterSession.h"
 #include "host/prepare/Documents.h"
+#include "host/preview/SheetsSaver.h"
 #include "host/task/JobFields.h"
 #include "host/task/JobReport.h"
 #include "host/task/JobSequence.h"
@@ -48,6 +50,12 @@ class PrintTask : public QObject {
     lookAgain,     // for printers: usePrintServer
     chooseFolder,  // for the jobs of a printer without a queue: setOutput
   };
+  // What becomes of the documents.
+  enum class Target {
+    queue,   // jobs of a print queue
+    folder,  // a folder for each job, for a printer that has no queue
+    file,    // a PDF of the sheets; this one is always there
+  };
   // A sentence for the person; empty when there is nothing to say.
   struct Notice {
     std::string text;
@@ -65,6 +73,10 @@ class PrintTask : public QObject {
   void usePrintServer();
   // Prints on this one printer, which has no queue: jobs become folders in the output folder.
   void usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::path output);
+  // Saves the sheets as a PDF instead of printing them: saveAs().
+  void usePDF();
+  // Back to the printer without a queue, where there is one.
+  void useFolder();
   // Another output folder for the printer without a queue; print() tries it.
   void setOutput(const std::filesystem::path& folder);
   // More documents to print, with the same settings; a job each, or one for all where they are
@@ -74,9 +86,12 @@ class PrintTask : public QObject {
   // left are kept, and come back with it. Does nothing while a job is sent and once it is done.
   void choosePrinter(std::size_t place);
 
-  // Prepares and sends the documents, as soon as they are known. Does nothing unless canPrint(). If
-  // they cannot be sent with these settings, the notice says why.
+  // Prepares and sends the documents, as soon as they are known. Does nothing unless canPrint(),
+  // and where the target is a file. If they cannot be sent with these settings, the notice says
+  // why.
   void print();
+  // The same, but saves the sheets as one PDF, whatever the target.
+  void saveAs(const std::filesystem::path& file, SheetsSaver::Existing existing);
   // The paper has been turned: prints its backs.
   void printBacks();
   // Takes back a job that is on its way; the stage is takingBack until that is done.
@@ -102,8 +117,11 @@ class PrintTask : public QObject {
   const PrinterList& printers() const { return search.printers(); }
   // The chosen printer as a person knows it; empty while none is chosen.
   std::string printerName() const;
-  bool hasQueue() const { return output.empty(); }
-  // Where the jobs of a printer without a queue are put; empty for one with a queue.
+  Target target() const { return where; }
+  // Whether a printer without a queue can be chosen; then no other one can.
+  bool hasFolderPrinter() const { return static_cast<bool>(folderPPD); }
+  std::string folderPrinterName() const;
+  // Where the jobs of a printer without a queue are put; empty where there is none.
   const std::filesystem::path& outputFolder() const { return output; }
   JobFields& fields() { return jobFields; }
   const JobFields& fields() const { return jobFields; }
@@ -158,6 +176,7 @@ class PrintTask : public QObject {
   void takePPD(const SharedPPD& ppd);
   void goWithoutPPD(const QString& reason);
 
+  void leavePrinter();
   void beginSession(const SharedPPD& ppd);
   void restartSession();
   void endSession();
@@ -170,6 +189,7 @@ class PrintTask : public QObject {
   void suggestPaper();
   JobRequest finishedRequest(const std::string& ranges) const;
   bool needsTwoPasses(const OptionList& options) const;
+  void doOnceKnown(std::function<void()> work);
   void send();
   void refuse(const QString& reason);
   QString whatWasSent();
@@ -178,7 +198,9 @@ class PrintTask : public QObject {
   void fail(const QString& reason, WayOut wayOut = WayOut::none);
 
   JobRequest asked;
-  std::filesystem::path output;  // empty while jobs go to queues
+  Target where = Target::queue;
+  SharedPPD folderPPD;           // of the printer without a queue; null for none
+  std::filesystem::path output;  // its folder
   Stage now = Stage::idle;
   Notice said;
   JobFields jobFields;
@@ -190,8 +212,10 @@ class PrintTask : public QObject {
   PrinterSearch search;
   Documents papers;
   JobSequence sequence;
-  OptString usualPaper;    // marked as long as nobody asks for another one; else absent
-  bool isWaiting = false;  // to print, for documents that are not known yet
+  OptString usualPaper;  // marked as long as nobody asks for another one; else absent
+  SheetsSaver saver;
+  bool isSaving = false;          // what is on its way is a file
+  std::function<void()> waiting;  // what to do when the documents are known; empty for nothing
   Outcome end = Outcome::cancelled;
   std::optional<JobReport> arrivedJob;
   std::string reportText;

@@ -189,8 +189,8 @@ TEST_F(PrintTaskTest, SaysWhichDocumentsWereSentBeforeOneFailed) {
   std::filesystem::remove(gone);
   task.print();
   ASSERT_TRUE(reaches(task, Stage::failed));
-  EXPECT_TRUE(task.notice().text.ends_with(
-      " 1 of 3 documents were sent before; Print sends the others."))
+  EXPECT_TRUE(
+      task.notice().text.ends_with(" 1 of 3 documents were sent before; Print sends the others."))
       << task.notice().text;
   std::ofstream(gone) << "%PDF-1.4 back again";
   task.print();

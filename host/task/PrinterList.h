@@ -22,6 +22,7 @@ class PrinterList {
   // Absent while no printer is chosen.
   std::optional<std::size_t> chosenIndex() const { return index; }
 
+  void chooseNone() { index.reset(); }
   // Chooses a printer by its place in the list, which must be there.
   void choose(std::size_t place);
   // Chooses the printer with that destination name ("queue/instance"); for an empty name the

@@ -48,6 +48,11 @@ bool PrinterSearch::choose(const std::string& destination) {
   return isThere;
 }
 
+void PrinterSearch::chooseNone() {
+  list.chooseNone();
+  emit printersChanged();
+}
+
 bool PrinterSearch::isChosen(const std::string& queue) const {
   return list.chosen() && list.chosen()->name == queue;
 }

@@ -25,6 +25,7 @@ class PrinterSearch : public QObject {
   // As PrinterList does.
   void choose(std::size_t place);
   bool choose(const std::string& destination);
+  void chooseNone();
   // Reads the chosen printer's settings; answered by `settingsRead` or `settingsFailed`, unless
   // another printer is chosen by then. From now on what the printer is doing is watched.
   void readChosen();

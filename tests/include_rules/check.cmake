@@ -41,21 +41,21 @@ room(host/job            platform/text host/support host/printer host/server hos
 room(host/prepare        platform/text platform/files ppd host/support host/printer host/document
                          host/request)
 room(host/preview        platform/text platform/files ppd host/support host/printer host/document
-                         host/request host/prepare)
+                         host/request host/prepare host/ticket)
 room(host/panels         platform/text platform/files platform/contract ppd host/support
                          host/printer)
-room(host/task           platform/text ppd host/support host/printer host/server host/document
-                         host/request host/job host/prepare host/panels)
+room(host/task           platform/text platform/files ppd host/support host/printer host/server host/document
+                         host/request host/job host/prepare host/preview host/panels)
 room(host/sheets         platform/text platform/qt/base ppd host/support host/printer host/document
                          host/request host/prepare host/panels host/preview host/task)
 room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
                          host/printer host/panels host/task)
 room(host/general        platform/qt/base ppd host/printer host/task host/panes)
-room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
+room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base host/document host/preview host/prepare
                          platform/qt/toolkit ppd
                          host/printer host/panels host/task host/sheets host/panes host/general)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
-                         host/printer host/document host/request host/task host/dialog)
+                         host/printer host/document host/request host/preview host/task host/dialog)
 room(host/impose/layout  platform/text host/support)
 room(host/impose/pictures platform/text host/impose/layout)
 room(host/impose/pages   platform/text host/impose/layout host/impose/pictures)
