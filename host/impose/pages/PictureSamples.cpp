@@ -32,6 +32,13 @@ QImage strip(const QImage& image, int top) {
   return rows;
 }
 
+// For pictures, what more effort gains is not worth six times the time.
+class QuickCompression {
+ public:
+  QuickCompression() { Pl_Flate::setCompressionLevel(1); }
+  ~QuickCompression() { Pl_Flate::setCompressionLevel(-1); }
+};
+
 class RowWriter {
  public:
   RowWriter(int width, int components, Pipeline& to)
@@ -77,6 +84,7 @@ QPDFObjectHandle PictureSamples::filterParameters() const {
 
 void PictureSamples::provideStreamData(const QPDFObjGen&, Pipeline* pipeline) {
   const QImage image = frames->decoded(frame);
+  const QuickCompression quick;
   Pl_Flate compressor("samples", pipeline, Pl_Flate::a_deflate);
   RowWriter writer(image.width(), components(), compressor);
   for (int top = 0; top < image.height(); top += kRowsAtATime) {

@@ -15,15 +15,16 @@ constexpr double kMetresPerInch = 0.0254;
 
 // Chunks that are a name and a length, in one order or the other, and then so many bytes.
 struct ChunkKind {
-  std::size_t first;     // where they begin
-  std::size_t nameAt;    // in a chunk
-  std::size_t lengthAt;  // in a chunk
-  std::size_t extra;     // bytes behind the contents
-  std::size_t evenBy;    // what lengths are rounded up to
+  std::size_t first;         // where they begin
+  std::size_t nameAt;        // in a chunk
+  std::size_t lengthAt;      // in a chunk
+  std::size_t extra;         // bytes behind the contents
+  std::size_t evenBy;        // what lengths are rounded up to
+  std::string_view picture;  // the chunk behind which nothing is looked for
   bool lowestFirst;
 };
-constexpr ChunkKind kPng{8, 4, 0, 4, 1, false};
-constexpr ChunkKind kRiff{12, 0, 4, 0, 2, true};
+constexpr ChunkKind kPng{8, 4, 0, 4, 1, "IDAT", false};
+constexpr ChunkKind kRiff{12, 0, 4, 0, 2, {}, true};
 constexpr std::size_t kChunkHead = 8;
 
 // The contents of the first chunk of that name; empty for none.
@@ -32,7 +33,8 @@ Bytes chunk(Bytes file, std::string_view name, const ChunkKind& kind) {
   for (std::size_t at = kind.first; at + kChunkHead <= file.size();) {
     const std::size_t length = numbers.four(at + kind.lengthAt);
     const std::size_t start = at + kChunkHead;
-    if (length > file.size() - start) return {};
+    const bool isPicture = !kind.picture.empty() && hasTextAt(file, at + kind.nameAt, kind.picture);
+    if (length > file.size() - start || isPicture) return {};
     if (hasTextAt(file, at + kind.nameAt, name)) return file.subspan(start, length);
     at = start + (length + kind.evenBy - 1) / kind.evenBy * kind.evenBy + kind.extra;
   }
