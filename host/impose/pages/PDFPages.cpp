@@ -4,6 +4,7 @@
 #include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 
+#include "host/impose/pages/Layers.h"
 #include "host/impose/pictures/Trouble.h"
 #include "platform/text/Quoted.h"
 
@@ -91,12 +92,17 @@ PageLook PDFPages::look(int page) const {
   return {quarterTurns(pages[page]) % 2 == 0 ? size : onItsSide(size)};
 }
 
+// Once, and only when pages are drawn: it changes them.
+void PDFPages::prepare(QPDF& output) {
+  if (isPrepared) return;
+  isPrepared = true;
+  QPDFAcroFormDocumentHelper(pdf).generateAppearancesIfNeeded();
+  QPDFPageDocumentHelper(pdf).flattenAnnotations(an_print);
+  keepLayers(pdf, output);
+}
+
 Drawing PDFPages::draw(int page, QPDF& output) {
-  if (!isFlat) {
-    QPDFAcroFormDocumentHelper(pdf).generateAppearancesIfNeeded();
-    QPDFPageDocumentHelper(pdf).flattenAnnotations(an_print);
-    isFlat = true;
-  }
+  prepare(output);
   const Rect box = shownBox(pages[page]);
   QPDFObjectHandle form = pages[page].getFormXObjectForPage(false);
   form.getDict().replaceKey("/BBox", QPDFObjectHandle::newArray(QPDFObjectHandle::Rectangle(

@@ -10,7 +10,7 @@
 namespace tavrin {
 
 // The pages of a PDF as a reader shows them, with what is filled into forms and with those
-// annotations that are meant for paper.
+// annotations that are meant for paper. All pages are drawn on one output.
 class PDFPages : public PageSource {
  public:
   // Reads the file; throws Trouble.
@@ -21,9 +21,11 @@ class PDFPages : public PageSource {
   Drawing draw(int page, QPDF& output) override;
 
  private:
+  void prepare(QPDF& output);
+
   QPDF pdf;
   std::vector<QPDFPageObjectHelper> pages;
-  bool isFlat = false;
+  bool isPrepared = false;
 };
 
 }  // namespace tavrin

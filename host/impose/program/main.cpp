@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <clocale>
 #include <memory>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -12,6 +13,7 @@
 #include "host/impose/pages/OpenPages.h"
 #include "host/impose/pictures/Trouble.h"
 #include "host/impose/program/DocumentPages.h"
+#include "host/impose/program/FatalSignals.h"
 #include "host/impose/program/ImposeArguments.h"
 #include "host/impose/program/OutputPipe.h"
 #include "host/impose/program/SheetWriter.h"
@@ -70,6 +72,7 @@ int complain(Status status, const std::string& sentence) {
 
 int main(int argc, char** argv) try {
   occupyStandardStreams();
+  endWellOnFatalSignals();
   const QCoreApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");  // numbers in files are the same everywhere
   const auto wish = imposeArguments({argv + 1, argv + argc});
@@ -78,6 +81,8 @@ int main(int argc, char** argv) try {
   return static_cast<int>(Status::done);
 } catch (const Trouble& trouble) {
   return complain(trouble.status(), trouble.what());
+} catch (const std::bad_alloc&) {
+  return complain(Status::damaged, "There is not enough memory for the document.");
 } catch (const std::exception& problem) {
   return complain(Status::damaged, std::string("The document cannot be read: ") + problem.what());
 }
