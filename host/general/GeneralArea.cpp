@@ -8,12 +8,15 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
+#include "host/fields/FieldPopUp.h"
+#include "host/fields/FieldSwitch.h"
+#include "host/fields/SettingTexts.h"
 #include "host/general/PrinterPopUp.h"
 #include "host/general/PrinterStateLine.h"
 #include "host/general/WrappedLabel.h"
 #include "host/panes/PickOneControl.h"
 #include "host/panes/Widgets.h"
-#include "host/printer/MarkedOptions.h"
+#include "host/printer/JobSettings.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/base/ShownText.h"
 #include "ppd/PPDKeywords.h"
@@ -36,6 +39,7 @@ GeneralArea::GeneralArea(PrintTask& theTask, QWidget* parent)
       form(makeForm(this)),
       printerPopUp(makeChild<PrinterPopUp>(task, this)),
       copiesBox(makeChild<QSpinBox>(this)),
+      collate(makeChild<FieldSwitch>(task.fields(), kCollateOption, tr("&Collate"), this)),
       allPages(makeChild<QRadioButton>(tr("&All"), this)),
       somePages(makeChild<QRadioButton>(tr("&Range:"), this)),
       rangeEdit(makeChild<QLineEdit>(this)),
@@ -43,6 +47,7 @@ GeneralArea::GeneralArea(PrintTask& theTask, QWidget* parent)
   addPrinterRows();
   addCopiesRow();
   addPagesRow();
+  addPageSetRow();
   refresh();
   connectPages();
   connect(copiesBox, &QSpinBox::valueChanged, &task.fields(), &JobFields::setCopies);
@@ -61,6 +66,7 @@ void GeneralArea::addCopiesRow() {
   auto* row = makeChild<QWidget>(this);
   QHBoxLayout* line = makeLine(row);
   line->addWidget(copiesBox);
+  line->addWidget(collate);
   line->addStretch();
   addRow(*form, tr("C&opies:"), *row)->setBuddy(copiesBox);
 }
@@ -68,7 +74,6 @@ void GeneralArea::addCopiesRow() {
 void GeneralArea::addPagesRow() {
   rangeEdit->setObjectName("pageRange");
   rangeEdit->setAccessibleName(tr("Page range"));
-  rangeEdit->setPlaceholderText(tr("for example 1-3,5"));
   rangeProblem->setObjectName("pageRangeProblem");
   auto* row = makeChild<QWidget>(this);
   QHBoxLayout* line = makeLine(row);
@@ -79,7 +84,20 @@ void GeneralArea::addPagesRow() {
   form->addRow(nullptr, rangeProblem);
 }
 
+void GeneralArea::addPageSetRow() {
+  const QString name = tr("Odd or Even");
+  auto* row = makeChild<QWidget>(this);
+  auto* pageSet = makeChild<FieldPopUp>(task.fields(), kPageSetOption, name, row);
+  QHBoxLayout* line = makeLine(row);
+  line->addWidget(pageSet, 1);
+  line->addWidget(
+      makeChild<FieldSwitch>(task.fields(), kSheetOrderOption, tr("&Last page first"), row));
+  addRow(*form, tr("O&dd or Even:"), *row)->setBuddy(pageSet);
+  connect(pageSet, &QComboBox::activated, this, &GeneralArea::showRangeProblem);
+}
+
 void GeneralArea::connectPages() {
+  connect(&task.fields(), &JobFields::changed, this, &GeneralArea::showWhatMatters);
   connect(rangeEdit, &QLineEdit::textEdited, this, [this] {
     somePages->setChecked(true);
     takePages();
@@ -107,7 +125,19 @@ void GeneralArea::refresh() {
   const QString range = shownLine(pages.range.toStdString());
   if (rangeEdit->text() != range) rangeEdit->setText(range);
   (pages.all ? allPages : somePages)->setChecked(true);
+  showRangeHint();
   showRangeProblem();
+  showWhatMatters();
+}
+
+// Copies can be collated where there are several.
+void GeneralArea::showWhatMatters() { collate->setVisible(task.fields().matters(kCollateOption)); }
+
+void GeneralArea::showRangeHint() {
+  const int pages = task.fields().documentPages();
+  rangeEdit->setPlaceholderText(pages > 1   ? tr("1-%1", "pages").arg(pages)
+                                : pages > 0 ? QString::number(pages)
+                                            : tr("for example 1-3,5"));
 }
 
 void GeneralArea::focusPageRange() {
@@ -117,19 +147,27 @@ void GeneralArea::focusPageRange() {
 }
 
 void GeneralArea::showRangeProblem() {
-  const Result<std::string> ranges = task.fields().pageRanges();
-  rangeProblem->setText(ranges ? QString() : QString::fromStdString(ranges.reason()));
-  rangeProblem->setVisible(!ranges);
+  const QString problem = task.fields().pagesProblem();
+  rangeProblem->setText(problem);
+  rangeProblem->setVisible(!problem.isEmpty());
 }
 
 void GeneralArea::setMarks(PPDMarks* theMarks) {
   if (papers) form->removeRow(papers);
   papers = nullptr;
   marks = theMarks;
+  leaveToPrinter();
   const ppd_option_t* option = marks ? marks->option(kPageSizeKey) : nullptr;
   if (!option) return;
   papers = makeChild<PickOneControl>(*marks, *option, this);
   addRow(*form, tr("Paper Si&ze:"), *papers);
+}
+
+// What the printer has itself is among its features.
+void GeneralArea::leaveToPrinter() {
+  collate->setDisabled(marks && isPrintersOwn(marks->ppd(), "Collate"));
+  findChild<FieldSwitch*>(kSheetOrderOption)
+      ->setDisabled(marks && isPrintersOwn(marks->ppd(), kSheetOrderOption));
 }
 
 Pane::Lines GeneralArea::summary() const {
@@ -139,6 +177,11 @@ Pane::Lines GeneralArea::summary() const {
   Pane::Lines lines{{tr("Printer"), shownLine(task.printerName())},
                     {tr("Copies"), locale().toString(fields.copies())},
                     {tr("Pages"), all ? tr("All") : shownLine(fields.pages().range.toStdString())}};
+  for (const auto& [name, option] :
+       {std::pair{tr("Odd or Even"), kPageSetOption}, std::pair{tr("Order"), kSheetOrderOption}})
+    lines.emplace_back(name, valueText(option, fields.value(option)));
+  if (fields.matters(kCollateOption))
+    lines.emplace_back(tr("Collate"), valueText(kCollateOption, fields.value(kCollateOption)));
   if (const OptString paper = marks ? marks->choiceText(kPageSizeKey) : std::nullopt)
     lines.emplace_back(tr("Paper Size"), shownLine(*paper));
   return lines;

@@ -4,6 +4,7 @@
 
 #include "host/panes/Pane.h"
 
+class QCheckBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -16,7 +17,7 @@ class PPDMarks;
 class PrintTask;
 class PrinterPopUp;
 
-// What every job has, above the panes: the printer, copies, page range and paper size.
+// What every job has, above the panes: the printer, copies, which pages, and paper size.
 class GeneralArea : public QWidget {
   Q_OBJECT
 
@@ -36,15 +37,20 @@ class GeneralArea : public QWidget {
   void addPrinterRows();
   void addCopiesRow();
   void addPagesRow();
+  void addPageSetRow();
   void connectPages();
   void refresh();
   void takePages();
   void showRangeProblem();
+  void showRangeHint();
+  void showWhatMatters();
+  void leaveToPrinter();
 
   PrintTask& task;
   QFormLayout* form;
   PrinterPopUp* printerPopUp;
   QSpinBox* copiesBox;
+  QCheckBox* collate;
   QRadioButton* allPages;
   QRadioButton* somePages;
   QLineEdit* rangeEdit;

@@ -1,5 +1,7 @@
 #include "host/general/GeneralArea.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -64,6 +66,44 @@ TEST_F(GeneralAreaTest, TheRangeCountsOnlyWhileItIsChosen) {
   all->click();
   EXPECT_TRUE(problem->isHidden());
   EXPECT_EQ(*task.fields().pageRanges(), "");
+}
+
+TEST_F(GeneralAreaTest, SaysWhenTheDocumentHasNoSuchPage) {
+  const auto* problem = area.findChild<QLabel*>("pageRangeProblem");
+  auto* range = area.findChild<QLineEdit*>("pageRange");
+  EXPECT_EQ(range->placeholderText(), "for example 1-3,5");
+  task.fields().setDocumentPages(8);
+  EXPECT_EQ(range->placeholderText(), "1-8");
+  QTest::keyClicks(range, "50");
+  emit range->editingFinished();
+  EXPECT_EQ(problem->text(), "The document has 8 pages; the range “50” holds none of them.");
+  range->clear();
+  QTest::keyClicks(range, "5");
+  EXPECT_TRUE(problem->isHidden());
+  auto* pageSet = area.findChild<QComboBox*>("page-set");
+  pageSet->setCurrentIndex(pageSet->findData("even"));
+  emit pageSet->activated(pageSet->currentIndex());
+  EXPECT_FALSE(problem->isHidden()) << "5 is odd";
+}
+
+TEST_F(GeneralAreaTest, CollatesWhereThereAreSeveralCopies) {
+  auto* collate = area.findChild<QCheckBox*>("sheet-collate");
+  EXPECT_TRUE(collate->isHidden());
+  area.findChild<QSpinBox*>("copies")->setValue(2);
+  EXPECT_FALSE(collate->isHidden());
+  collate->click();
+  EXPECT_EQ(task.fields().value("sheet-collate"), "collated");
+}
+
+TEST_F(GeneralAreaTest, LeavesWhatThePrinterHasItselfToThePrinter) {
+  const PPDPtr ppd = makePPD({{"OutputOrder", "PickOne", "Normal", {"Normal", "Reverse"}},
+                              {"Collate", "Boolean", "True", {"True", "False"}}});
+  PPDMarks marks(*ppd);
+  area.setMarks(&marks);
+  EXPECT_FALSE(area.findChild<QCheckBox*>("outputorder")->isEnabled());
+  EXPECT_FALSE(area.findChild<QCheckBox*>("sheet-collate")->isEnabled());
+  area.setMarks(nullptr);
+  EXPECT_TRUE(area.findChild<QCheckBox*>("outputorder")->isEnabled());
 }
 
 TEST_F(GeneralAreaTest, ShowsThePapersOfThePrinter) {

@@ -56,6 +56,14 @@ const ppd_option_t* twoSidedOption(ppd_file_t& ppd) {
   return nullptr;
 }
 
+OptString shortEdgeChoice(const ppd_option_t& twoSided) {
+  for (const ppd_choice_t& choice : choicesOf(twoSided)) {
+    const std::string_view keyword = choice.choice;
+    if (keyword.ends_with("Tumble") && !keyword.ends_with("NoTumble")) return choice.choice;
+  }
+  return std::nullopt;
+}
+
 bool isInstalledOptions(const std::string& groupKeyword) {
   return equalIgnoringCase(groupKeyword, kInstalledGroup);
 }

@@ -19,6 +19,10 @@ inline constexpr std::array kTwoSidedKeywords{"Duplex", "JCLDuplex", "EFDuplex",
 // The PPD's option for printing on both sides; null where it has none.
 const ppd_option_t* twoSidedOption(ppd_file_t& ppd);
 
+// The choice of such an option for paper that is turned over its short edge; absent where it has
+// none.
+OptString shortEdgeChoice(const ppd_option_t& twoSided);
+
 // Whether the group of this keyword says what is installed in the printer, which is for the
 // administrator to set and does not belong in a job.
 bool isInstalledOptions(const std::string& groupKeyword);

@@ -54,5 +54,12 @@ TEST(MarkedOptions, LeavesOutWhatIsInstalledInThePrinter) {
   EXPECT_EQ(optionValue(markedOptions(*ppd), "Tray2Option"), std::nullopt);
 }
 
+TEST(MarkedOptions, KnowWhichChoiceTurnsThePaperOverTheShortEdge) {
+  const PPDPtr ppd = makePPD({{"Duplex", "PickOne", "None", {"None", "DuplexNoTumble"}},
+                              {"EFDuplex", "PickOne", "False", {"False", "True", "TrueTumble"}}});
+  EXPECT_EQ(shortEdgeChoice(*ppdFindOption(ppd.get(), "Duplex")), std::nullopt);
+  EXPECT_EQ(shortEdgeChoice(*ppdFindOption(ppd.get(), "EFDuplex")), "TrueTumble");
+}
+
 }  // namespace
 }  // namespace tavrin

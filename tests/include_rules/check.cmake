@@ -44,16 +44,20 @@ room(host/preview        platform/text platform/files ppd host/support host/prin
                          host/request host/prepare host/ticket)
 room(host/panels         platform/text platform/files platform/contract ppd host/support
                          host/printer)
-room(host/task           platform/text platform/files ppd host/support host/printer host/server host/document
-                         host/request host/job host/prepare host/preview host/panels)
+room(host/task           platform/text platform/files ppd host/support host/printer host/server
+                         host/document host/request host/job host/prepare host/preview host/panels)
 room(host/sheets         platform/text platform/qt/base ppd host/support host/printer host/document
                          host/request host/prepare host/panels host/preview host/task)
 room(host/panes          platform/text platform/contract platform/qt/base platform/qt/toolkit ppd
                          host/printer host/panels host/task)
-room(host/general        platform/qt/base ppd host/printer host/task host/panes)
-room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base host/document host/preview host/prepare
-                         platform/qt/toolkit ppd
-                         host/printer host/panels host/task host/sheets host/panes host/general)
+room(host/fields         platform/text platform/qt/base ppd host/printer host/request host/task
+                         host/panes)
+room(host/general        platform/text platform/qt/base ppd host/printer host/request host/task
+                         host/panes host/fields)
+room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
+                         platform/qt/toolkit ppd host/document host/prepare host/preview
+                         host/printer host/panels host/task host/sheets host/panes host/fields
+                         host/general)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
                          host/printer host/document host/request host/preview host/task host/dialog)
 room(host/impose/layout  platform/text host/support)
@@ -77,11 +81,8 @@ set(LOOK_Qt "<(Q[A-Z]|Qt|q[a-z]+\\.h)")
 set(MAY_HAVE_Qt "^(platform/qt|host|replay|tests)/")
 set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QLocale|QMarginsF|QMimeDatabase|QObject|QProcess|QRegularExpression|QSizeF|QStandardPaths|QString|QStringList|QTimer|QUrl")
 set(LOOK_widgets "${LOOK_Qt}")
-set(QT_PICTURES "QColorSpace|QImage|QImageReader")
-set(NOT_widgets "<(${QT_CORE}|${QT_PICTURES})>")
-set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|general|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
-set(LOOK_pictures "<(${QT_PICTURES})>")
-set(MAY_HAVE_pictures "^host/impose/(pictures|pages)/|${MAY_HAVE_widgets}")
+set(NOT_widgets "<(${QT_CORE})>")
+set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|fields|general|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_cups "<cups/")
 set(MAY_HAVE_cups "^(ppd|conflict|controller|plugin|host|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_plist "<plist/")
