@@ -1,10 +1,12 @@
 #include "host/printer/MarkedOptions.h"
 
+#include "host/printer/CustomPaper.h"
 #include "host/printer/JobSettings.h"
 #include "host/support/CupsOptions.h"
 #include "host/support/TextLists.h"
 #include "platform/text/IgnoringCase.h"
 #include "platform/text/Quoted.h"
+#include "ppd/PPDKeywords.h"
 #include "ppd/PPDRecords.h"
 
 namespace tavrin {
@@ -20,15 +22,17 @@ void appendUnmarked(const ppd_group_t& group, std::vector<std::string>& keywords
   for (const ppd_group_t& inner : subgroupsOf(group)) appendUnmarked(inner, keywords);
 }
 
-void appendMarked(const ppd_group_t& group, OptionList& options) {
+void appendMarked(const ppd_group_t& group, const OptString& customPaper, OptionList& options) {
   if (isInstalledOptions(group.name)) return;
   for (const ppd_option_t& option : optionsOf(group)) {
     if (isJobSetting(option.keyword)) continue;
     const std::string choices = markedChoices(option);
     // The mark does not hold a value of the person's own; the option that they gave does.
     if (!choices.empty() && !isCustomChoice(choices)) setOption(options, option.keyword, choices);
+    if (std::string_view(option.keyword) == kPageSizeKey && customPaper)
+      setOption(options, kPageSizeKey, *customPaper);
   }
-  for (const ppd_group_t& inner : subgroupsOf(group)) appendMarked(inner, options);
+  for (const ppd_group_t& inner : subgroupsOf(group)) appendMarked(inner, customPaper, options);
 }
 
 // For an option where many choices can be picked; false when one of them is unknown.
@@ -101,7 +105,8 @@ std::string markedChoices(const ppd_option_t& option) {
 
 OptionList markedOptions(ppd_file_t& ppd) {
   OptionList options;
-  for (const ppd_group_t& group : groupsOf(ppd)) appendMarked(group, options);
+  const OptString customPaper = markedCustomPaper(ppd);
+  for (const ppd_group_t& group : groupsOf(ppd)) appendMarked(group, customPaper, options);
   return options;
 }
 

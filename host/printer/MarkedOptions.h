@@ -45,7 +45,8 @@ std::vector<std::string> optionsWithoutMark(const ppd_file_t& ppd);
 std::string markedChoices(const ppd_option_t& option);
 
 // The PPD's marked choices as options, in the order of the file, without what is installed in the
-// printer and without options that are named like settings of a job.
+// printer and without options that are named like settings of a job. Of values of the person's own,
+// the size of custom paper is there; others are not in the marks.
 OptionList markedOptions(ppd_file_t& ppd);
 
 // Marks the choices that options name in a PPD: the start of a dialog from a command line or a

@@ -1,7 +1,9 @@
 #include "host/request/JobOptions.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "host/printer/CustomPaper.h"
 #include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
 #include "ppd/PPDKeywords.h"
@@ -25,13 +27,24 @@ void removeUnmarked(OptionList& options, ppd_file_t& ppd, const OptionList& mark
   });
 }
 
+// The paper as the person wrote it, where that is the one that is marked.
+bool saysTheSame(const OptString& given, const std::string& marked) {
+  const auto givenSize = customPaperSize(given.value_or(""));
+  const auto markedSize = customPaperSize(marked);
+  if (!givenSize || !markedSize) return false;
+  const auto isNear = [](double one, double other) { return std::abs(one - other) < 0.1; };
+  return isNear(givenSize->width, markedSize->width) &&
+         isNear(givenSize->height, markedSize->height);
+}
+
 }  // namespace
 
 OptionList withMarks(OptionList options, ppd_file_t& ppd) {
   const OptionList marked = markedOptions(ppd);
   removeWhatMarksSay(options, marked);
   removeUnmarked(options, ppd, marked);
-  for (const auto& [name, value] : marked) setOption(options, name, value);
+  for (const auto& [name, value] : marked)
+    if (!saysTheSame(optionValue(options, name), value)) setOption(options, name, value);
   return options;
 }
 

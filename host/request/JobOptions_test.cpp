@@ -55,6 +55,18 @@ TEST(JobOptions, LeaveSettingsOfTheJobToThePerson) {
       (OptionList{{"number-up", "2"}, {"raw", "true"}, {"Mirror", "False"}, {"page-ranges", "2"}}));
 }
 
+TEST(JobOptions, HaveThePaperOfThePersonsOwnSize) {
+  const PPDPtr ppd = makePPD({pageSizeOption()}, customPaperAttributes());
+  JobRequest request;
+  request.options = {{"PageSize", "Custom.10x15cm"}};
+  markOptions(*ppd, request.options);
+  EXPECT_EQ(jobOptions(request, ppd.get()), request.options) << "as it was written";
+  markOptions(*ppd, {{"PageSize", "Custom.100x200mm"}});
+  EXPECT_EQ(jobOptions(request, ppd.get()), (OptionList{{"PageSize", "Custom.100x200mm"}}));
+  markOptions(*ppd, {{"PageSize", "A4"}});
+  EXPECT_EQ(jobOptions(request, ppd.get()), (OptionList{{"PageSize", "A4"}}));
+}
+
 TEST(JobOptions, AskForOneCopyWhereAnOptionAsksForMore) {
   JobRequest request;
   request.options = {{"copies", "7"}};

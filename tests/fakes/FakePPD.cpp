@@ -144,6 +144,16 @@ std::vector<PPDOptionText> fullPrinter() {
           sharpeningOption(),  dryTimePopUpOption(), tray2Option("True")};
 }
 
+std::vector<std::string> customPaperAttributes() {
+  return {"*VariablePaperSize: True",
+          "*MaxMediaWidth: \"1000\"",
+          "*MaxMediaHeight: \"1000\"",
+          "*NonUIOrderDependency: 10 AnySetup *CustomPageSize",
+          "*CustomPageSize True/Own Size: \"\"",
+          "*ParamCustomPageSize Width: 1 points 36 1000",
+          "*ParamCustomPageSize Height: 2 points 36 1000"};
+}
+
 PPDPtr officePPD() {
   return makePPD({pageSizeOption(),
                   paperTypeOption(),

@@ -44,6 +44,9 @@ PPDOptionText pageSizeOption();
 // A printer with all of them, the pop-up kind of dry time and the second tray.
 std::vector<PPDOptionText> fullPrinter();
 
+// The attributes of a printer that takes paper of any size, from 36 to 1000 points.
+std::vector<std::string> customPaperAttributes();
+
 // A printer with options that no panel shows: it staples wherever one picks, and prints on both
 // sides.
 PPDPtr officePPD();
