@@ -11,6 +11,7 @@
 #include "host/fields/FieldPopUp.h"
 #include "host/fields/FieldSwitch.h"
 #include "host/fields/SettingTexts.h"
+#include "host/general/PaperSizeBoxes.h"
 #include "host/general/PrinterPopUp.h"
 #include "host/general/PrinterStateLine.h"
 #include "host/general/WrappedLabel.h"
@@ -153,14 +154,34 @@ void GeneralArea::showRangeProblem() {
 }
 
 void GeneralArea::setMarks(PPDMarks* theMarks) {
-  if (papers) form->removeRow(papers);
+  for (QWidget* row : {papers, static_cast<QWidget*>(ownPaper)})
+    if (row) form->removeRow(row);
   papers = nullptr;
+  ownPaper = nullptr;
   marks = theMarks;
   leaveToPrinter();
-  const ppd_option_t* option = marks ? marks->option(kPageSizeKey) : nullptr;
-  if (!option) return;
-  papers = makeChild<PickOneControl>(*marks, *option, this);
+  if (const ppd_option_t* option = marks ? marks->option(kPageSizeKey) : nullptr)
+    addPaperRows(*option);
+}
+
+void GeneralArea::addPaperRows(const ppd_option_t& option) {
+  auto* popUp = makeChild<PickOneControl>(*marks, option, this);
+  papers = popUp;
   addRow(*form, tr("Paper Si&ze:"), *papers);
+  if (!takesCustomPaper(marks->ppd())) return;
+  popUp->offerCustom();
+  ownPaper = makeChild<PaperSizeBoxes>(*marks, this);
+  addRow(*form, tr("E&xact Size:"), *ownPaper);
+  connect(popUp, &PickOneControl::customWanted, this, [this] {
+    ownPaper->begin();
+    ownPaper->setFocus();
+  });
+  connect(marks, &PPDMarks::refreshed, ownPaper, [this] { showOwnPaper(); });
+  showOwnPaper();
+}
+
+void GeneralArea::showOwnPaper() {
+  form->setRowVisible(ownPaper, markedCustomPaper(marks->ppd()).has_value());
 }
 
 // What the printer has itself is among its features.
@@ -183,7 +204,8 @@ Pane::Lines GeneralArea::summary() const {
   if (fields.matters(kCollateOption))
     lines.emplace_back(tr("Collate"), valueText(kCollateOption, fields.value(kCollateOption)));
   if (const OptString paper = marks ? marks->choiceText(kPageSizeKey) : std::nullopt)
-    lines.emplace_back(tr("Paper Size"), shownLine(*paper));
+    lines.emplace_back(tr("Paper Size"),
+                       markedCustomPaper(marks->ppd()) ? ownPaper->summary() : shownLine(*paper));
   return lines;
 }
 

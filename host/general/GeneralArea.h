@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <cups/ppd.h>
 
 #include "host/panes/Pane.h"
 
@@ -13,6 +14,7 @@ class QSpinBox;
 
 namespace tavrin {
 
+class PaperSizeBoxes;
 class PPDMarks;
 class PrintTask;
 class PrinterPopUp;
@@ -45,6 +47,8 @@ class GeneralArea : public QWidget {
   void showRangeHint();
   void showWhatMatters();
   void leaveToPrinter();
+  void addPaperRows(const ppd_option_t& option);
+  void showOwnPaper();
 
   PrintTask& task;
   QFormLayout* form;
@@ -57,6 +61,7 @@ class GeneralArea : public QWidget {
   QLabel* rangeProblem;
   PPDMarks* marks = nullptr;
   QWidget* papers = nullptr;
+  PaperSizeBoxes* ownPaper = nullptr;  // null where the printer takes no such paper
 };
 
 }  // namespace tavrin

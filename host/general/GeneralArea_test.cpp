@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -9,6 +10,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "host/general/PaperSizeBoxes.h"
 #include "host/panes/PickOneControl.h"
 #include "host/task/PrintTask.h"
 #include "tests/fakes/FakePPD.h"
@@ -114,6 +116,27 @@ TEST_F(GeneralAreaTest, ShowsThePapersOfThePrinter) {
   ASSERT_NE(papers, nullptr);
   EXPECT_EQ(papers->currentData().toString().toStdString(), marks.choice("PageSize"));
   area.setMarks(nullptr);
+}
+
+TEST_F(GeneralAreaTest, AsksForTheSizeOfThePersonsOwnPaper) {
+  QLocale::setDefault(QLocale("en_GB"));
+  const PPDPtr ppd = makePPD({pageSizeOption()}, customPaperAttributes());
+  PPDMarks marks(*ppd);
+  area.setMarks(&marks);
+  auto* papers = area.findChild<PickOneControl*>("PageSize");
+  const auto* boxes = area.findChild<PaperSizeBoxes*>();
+  EXPECT_TRUE(boxes->isHidden());
+  emit papers->activated(papers->findData("Custom"));
+  EXPECT_FALSE(boxes->isHidden());
+  area.findChild<QDoubleSpinBox*>("paperWidth")->setValue(100);
+  area.findChild<QDoubleSpinBox*>("paperHeight")->setValue(150);
+  EXPECT_EQ(markedCustomPaper(*ppd), "Custom.100x150mm");
+  EXPECT_EQ(area.summary().back(),
+            (std::pair<QString, QString>("Paper Size", "100.0 mm × 150.0 mm")));
+  marks.choose("PageSize", "A4");
+  EXPECT_TRUE(boxes->isHidden());
+  area.setMarks(nullptr);
+  QLocale::setDefault(QLocale::system());
 }
 
 }  // namespace

@@ -53,6 +53,24 @@ TEST(OptionControl, TellsChoicesThatReadAlikeApart) {
   EXPECT_EQ(papers->itemText(papers->findData("LetterSmall")), "US Letter (LetterSmall)");
 }
 
+TEST(OptionControl, OffersAValueOfThePersonsOwnWhereSomebodyAsksForIt) {
+  const PPDPtr ppd = makePPD({pageSizeOption()}, customPaperAttributes());
+  PPDMarks marks(*ppd);
+  QWidget parent;
+  auto* papers = controlFor<PickOneControl>(marks, "PageSize", parent);
+  EXPECT_EQ(papers->findData("Custom"), -1);
+  papers->offerCustom();
+  const int own = papers->findData("Custom");
+  EXPECT_EQ(papers->itemText(own), "Own Size…");
+  int asked = 0;
+  QObject::connect(papers, &PickOneControl::customWanted, [&] { ++asked; });
+  emit papers->activated(own);
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(marks.choice("PageSize"), "A4") << "nobody has said how large";
+  marks.choose("PageSize", "Custom.10x15cm");
+  EXPECT_EQ(papers->currentText(), "Own Size…");
+}
+
 TEST(OptionControl, ClicksTurnABooleanOnAndOff) {
   const PPDPtr ppd = makePPD({mirrorOption()});
   PPDMarks marks(*ppd);
