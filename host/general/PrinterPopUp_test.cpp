@@ -17,7 +17,7 @@ class PrinterPopUpTest : public testing::Test {
   // The rows of the list, once the printers are there.
   QStringList rows() {
     task.usePrintServer();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return popUp.count() > 0; }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return popUp.count() > 1; }, kPatience));
     QStringList all;
     for (int i = 0; i < popUp.count(); ++i)
       all << popUp.itemText(i) + ": " + popUp.itemData(i, PrinterItems::kDetails).toString();
@@ -34,9 +34,18 @@ TEST_F(PrinterPopUpTest, ShowsPrintersAsPeopleKnowThem) {
   cups.run({"lpadmin", "-p", "tav", "-D", "Photo printer", "-L", "Study"});
   cups.run({"lpoptions", "-p", "tav/iron", "-o", "MediaType=IronOn"});
   EXPECT_EQ(rows(), (QStringList{"Photo printer: tav · Study · Ready",
-                                 "Photo printer (iron): tav · Study · Ready"}));
+                                 "Photo printer (iron): tav · Study · Ready",
+                                 "Save as PDF: A file instead of paper"}));
   EXPECT_EQ(popUp.itemData(0, Qt::AccessibleTextRole), "Photo printer, tav · Study · Ready");
   EXPECT_EQ(popUp.accessibleDescription(), "tav · Study · Ready");
+}
+
+TEST_F(PrinterPopUpTest, OffersAPDFWithoutAnyPrinter) {
+  EXPECT_EQ(popUp.currentIndex(), -1);
+  emit popUp.activated(0);
+  EXPECT_EQ(task.target(), PrintTask::Target::file);
+  EXPECT_EQ(popUp.currentText(), "Save as PDF");
+  EXPECT_TRUE(task.canPrint());
 }
 
 TEST_F(PrinterPopUpTest, TellsNamesakesApart) {

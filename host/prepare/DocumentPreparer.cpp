@@ -33,12 +33,13 @@ QString whyNoPage(const DocumentFacts& document, const OptionList& options) {
   const std::string set = optionValue(options, kPageSetOption).value_or("");
   if (document.pages == 0 || pagesInRanges(ranges, set, document.pages) > 0) return {};
   const QString sentence =
-      document.pages == 1
-          ? DocumentPreparer::tr("“%1” has only one page, and that is not to be printed. Choose "
-                                 "other pages.")
-          : DocumentPreparer::tr("“%1” has %n pages, none of which is to be printed. Choose other "
-                                 "pages.",
-                                 nullptr, document.pages);
+      document.pages == 1 ? DocumentPreparer::tr(
+                                "“%1” has only one page, and that is not to be printed. Choose "
+                                "other pages.")
+                          : DocumentPreparer::tr(
+                                "“%1” has %n pages, none of which is to be printed. Choose other "
+                                "pages.",
+                                nullptr, document.pages);
   return sentence.arg(nameOf(document));
 }
 
@@ -76,15 +77,17 @@ void DocumentPreparer::prepare(const Batch& batch) {
 }
 
 void DocumentPreparer::passOn(const DocumentFacts& document) {
-  done.push_back(
-      {document.document, document.file, document.format, wanted.options, document, nullptr});
+  const OptionList options =
+      isText(document.format) ? withTextMargins(wanted.options, wanted.paper) : wanted.options;
+  done.push_back({document.document, document.file, document.format, options, document, nullptr});
   prepareNext();
 }
 
 void DocumentPreparer::layOutText(const DocumentFacts& text) {
   const std::string title = wanted.title.empty() ? documentName(text.document) : wanted.title;
-  const auto call = filterCall({folder->path(), text.file, text.format, wanted.ppd, title,
-                                optionsOfText(wanted.options), kPDF, kTextFile});
+  const auto call =
+      filterCall({folder->path(), text.file, text.format, wanted.ppd, title,
+                  withTextMargins(optionsOfText(wanted.options), wanted.paper), kPDF, kTextFile});
   if (!call) return complain(text, int(Imposed::cannotWrite));
   run(*call, [=, this](int status) {
     if (status != 0) return complain(text, status == kSlow ? kSlow : int(Imposed::damaged));

@@ -27,6 +27,8 @@ constexpr std::array kPictures{"image/jpeg",
                                "image/x-portable-graymap",
                                "image/x-portable-pixmap"};
 
+constexpr char kTextMargin[] = "36";  // points
+
 bool isOneOf(const std::string& value, std::initializer_list<const char*> others) {
   return std::ranges::any_of(others, [&](auto other) { return equalIgnoringCase(value, other); });
 }
@@ -130,6 +132,13 @@ OptionList optionsOfText(OptionList options) {
     return isForImposer(name) && !equalIgnoringCase(name, kOrientationOption) &&
            !equalIgnoringCase(name, "landscape");
   });
+  return options;
+}
+
+OptionList withTextMargins(OptionList options, const Paper& paper) {
+  if (!paper.margins.isNull()) return options;
+  for (const char* side : {"page-left", "page-right", "page-top", "page-bottom"})
+    if (!optionValue(options, side)) setOption(options, side, kTextMargin);
   return options;
 }
 

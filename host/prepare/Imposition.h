@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/prepare/DocumentFacts.h"
+#include "host/printer/Paper.h"
 #include "host/support/OptionList.h"
 
 // Who lays a document out: the print system's own filters where they do it right, else this
@@ -28,5 +29,8 @@ OptionList optionsOnceImposed(OptionList options);
 
 // The options by which a text becomes a PDF that is then imposed.
 OptionList optionsOfText(OptionList options);
+
+// With margins for a text where the paper has none: letters do not stand at its very edge.
+OptionList withTextMargins(OptionList options, const Paper& paper);
 
 }  // namespace tavrin

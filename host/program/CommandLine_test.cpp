@@ -40,6 +40,20 @@ TEST(CommandLine, WithoutAFileIsForStandardInput) {
   EXPECT_FALSE(line->namesDocument);
 }
 
+TEST(CommandLine, TakesSeveralDocuments) {
+  const auto line = parseCommandLine({"a.pdf", "b.jpg", "-"});
+  ASSERT_TRUE(line);
+  EXPECT_EQ(line->job.document, "a.pdf");
+  EXPECT_EQ(line->furtherDocuments, (std::vector<std::filesystem::path>{"b.jpg", "-"}));
+}
+
+TEST(CommandLine, SavesWithoutADialog) {
+  const auto line = parseCommandLine({"--no-dialog", "--save", "new.pdf", "-d", "tav", "a.pdf"});
+  ASSERT_TRUE(line);
+  EXPECT_TRUE(line->withoutDialog);
+  EXPECT_EQ(line->save, "new.pdf");
+}
+
 TEST(CommandLine, TakesWhateverBytesItIsMadeOf) {
   for (const std::string name : {"caf\xE9", "d\u00FCnn \u65E5\u672C \U0001F5A8", "\x80\xFF\xC3"}) {
     const auto job =
@@ -70,7 +84,9 @@ TEST(CommandLine, IsQuotedInUtf8) {
 TEST(CommandLine, ThatCannotBeIsRefusedWithTheReason) {
   EXPECT_NE(refusal({"--frobnicate"}).find("frobnicate"), std::string::npos);
   EXPECT_NE(refusal({"-d"}).find("d"), std::string::npos);
-  EXPECT_NE(refusal({"a.pdf", "b.pdf"}).find("one document"), std::string::npos);
+  EXPECT_NE(refusal({"-", "b.pdf", "-"}).find("only one of the documents"), std::string::npos);
+  for (const auto& half : {std::vector<std::string>{"--save", "new.pdf"}, {"--no-dialog"}})
+    EXPECT_NE(refusal(half).find("need each other"), std::string::npos);
   for (const char* copies : {"0", "-2", "many", "10000"})
     for (const std::string option : {"-n", "-ocopies="})
       EXPECT_NE(refusal({option + copies, "a.pdf"}).find(copies), std::string::npos);

@@ -52,7 +52,7 @@ TEST(Program, TellsHowItIsUsed) {
 TEST(Program, RefusesWrongUsage) {
   expectRefusal("--frobnicate", 2, "'frobnicate'. See tavrin-print --help.");
   expectRefusal("-n none a.pdf", 2, "none");
-  expectRefusal("a.pdf b.pdf", 2, "one document");
+  expectRefusal("- -", 2, "only one of the documents");
   expectRefusal("--ppd '' a.pdf", 2, "--ppd needs a value.");
   expectRefusal("-d '' a.pdf", 2, "-d needs a value.");
 }
@@ -85,6 +85,29 @@ TEST(Program, SaysThatThereIsNoDisplay) {
   const auto dead = run("--sample", "DISPLAY=:99999 QT_QPA_PLATFORM=xcb");
   EXPECT_EQ(dead.status, 3);
   EXPECT_NE(dead.text.find("tavrin-print: There is no display"), std::string::npos) << dead.text;
+}
+
+TEST(Program, SavesTheSheetsWithoutADisplay) {
+  const test::TemporaryFolder place;
+  const std::string file = (place.path() / "sheets.pdf").string();
+  const std::string command =
+      "--no-dialog --save " + file + " --ppd " SAMPLE_PRINTERS "/tavrin-r420.ppd -o number-up=2 ";
+  const Run saved = run(command + SAMPLE_DOCUMENT " " SAMPLE_DOCUMENT);
+  EXPECT_EQ(saved.status, 0) << saved.text;
+  EXPECT_EQ(saved.text, "The sheets were saved as " + file + ".\n");
+  const std::string sheets = test::textOf(file);
+  EXPECT_TRUE(sheets.starts_with("%PDF-"));
+  expectRefusal(command + SAMPLE_DOCUMENT, 3, "There is a file \"" + file + "\" already");
+  EXPECT_EQ(test::textOf(file), sheets);
+}
+
+TEST(Program, SaysWhyNothingIsSaved) {
+  const test::TemporaryFolder place;
+  const std::string command = "--no-dialog --save " + (place.path() / "new.pdf").string() + " ";
+  expectRefusal(command + "-o page-ranges=9 " SAMPLE_DOCUMENT, 3, "has only one page");
+  expectRefusal(command + place.write("cut.pdf", "%PDF-1.4\ncut off").string(), 3, "damaged");
+  expectRefusal("--no-dialog --save /nowhere/new.pdf " SAMPLE_DOCUMENT, 3, "/nowhere/new.pdf");
+  EXPECT_FALSE(std::filesystem::exists(place.path() / "new.pdf"));
 }
 
 // Where windows would come up: a display that hears who asks for one, and shows none.

@@ -206,7 +206,8 @@ void PreviewArea::describeSheet() {
   turner->showSheet(index, count(), textBeforeNumber(options()),
                     textAfterNumber(count(), options()));
   if (const QString text = contentsText(preview.sheets(), index, options()); !text.isEmpty())
-    contents->setText(text.left(1).toUpper() + text.mid(1));
+    contents->setText(preview.sheets().documents.size() > 1 ? text
+                                                            : text.left(1).toUpper() + text.mid(1));
   view->setAccessibleName(sheetText(preview.sheets(), index, options()));
 }
 
