@@ -92,7 +92,7 @@ TEST(Program, SavesTheSheetsWithoutADisplay) {
   const std::string file = (place.path() / "sheets.pdf").string();
   const std::string command =
       "--no-dialog --save " + file + " --ppd " SAMPLE_PRINTERS "/tavrin-r420.ppd -o number-up=2 ";
-  const Run saved = run(command + SAMPLE_DOCUMENT " " SAMPLE_DOCUMENT);
+  const auto saved = run(command + SAMPLE_DOCUMENT " " SAMPLE_DOCUMENT);
   EXPECT_EQ(saved.status, 0) << saved.text;
   EXPECT_EQ(saved.text, "The sheets were saved as " + file + ".\n");
   const std::string sheets = test::textOf(file);
