@@ -1,15 +1,9 @@
 #include "tests/fakes/FakePDF.h"
 
-#include <vector>
-
 namespace tavrin {
 namespace {
 
 constexpr int kFirstPage = 4;  // objects 1 to 3 are the catalogue, the pages and the font
-
-std::string stream(const std::string& text) {
-  return "<</Length " + std::to_string(text.size()) + ">>stream\n" + text + "\nendstream";
-}
 
 std::string reference(int object) { return std::to_string(object) + " 0 R"; }
 
@@ -24,19 +18,26 @@ std::vector<std::string> objectsOf(int pages) {
   for (int page = 0; page < pages; ++page) {
     objects.push_back("<</Type/Page/Parent 2 0 R/Resources<</Font<</F 3 0 R>>>>/Contents " +
                       reference(kFirstPage + 2 * page + 1) + ">>");
-    objects.push_back(stream("BT /F 200 Tf 60 500 Td (F" + std::to_string(page + 1) +
-                             ") Tj ET 20 20 100 50 re f"));
+    objects.push_back(pdfStream("BT /F 200 Tf 60 500 Td (F" + std::to_string(page + 1) +
+                                ") Tj ET 20 20 100 50 re f"));
   }
   return objects;
 }
 
 }  // namespace
 
-std::string numberedPDF(int pages) {
+std::string pdfStream(const std::string& contents, const std::string& entries) {
+  return "<<" + entries + "/Length " + std::to_string(contents.size()) + ">>stream\n" + contents +
+         "\nendstream";
+}
+
+std::string numberedPDF(int pages) { return pdfOf(objectsOf(pages)); }
+
+std::string pdfOf(const std::vector<std::string>& objects) {
   std::string text = "%PDF-1.4\n";
   std::string places;
   int number = 0;
-  for (const std::string& object : objectsOf(pages)) {
+  for (const std::string& object : objects) {
     const std::string at = std::to_string(text.size());
     places += std::string(10 - at.size(), '0') + at + " 00000 n \n";
     text += std::to_string(++number) + " 0 obj\n" + object + "\nendobj\n";

@@ -1,8 +1,11 @@
 #include "host/impose/pages/PDFPages.h"
 
+#include <cstring>
+
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
 #include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFSystemError.hh>
 
 #include "host/impose/pages/Layers.h"
 #include "host/impose/pictures/Trouble.h"
@@ -62,17 +65,10 @@ Matrix turnedClockwise(int quarters) {
 }
 
 [[noreturn]] void explain(const QPDFExc& problem, const std::filesystem::path& file) {
-  const std::string name = quoted(file.string());
-  switch (problem.getErrorCode()) {
-    case qpdf_e_password:
-      throw Trouble(Status::locked, "The document " + name +
-                                        " wants a password. Save it without one and print that.");
-    case qpdf_e_system:
-      throw Trouble(Status::damaged, "The document " + name +
-                                         " cannot be read: " + problem.getMessageDetail() + ".");
-    default:
-      throw Trouble(Status::damaged, "The document " + name + " is damaged.");
-  }
+  const std::string name = "The document " + quoted(file.string());
+  if (problem.getErrorCode() == qpdf_e_password)
+    throw Trouble(Status::locked, name + " wants a password. Save it without one and print that.");
+  throw Trouble(Status::damaged, name + " is damaged.");
 }
 
 }  // namespace
@@ -83,6 +79,9 @@ PDFPages::PDFPages(const std::filesystem::path& file) try {
   pages = QPDFPageDocumentHelper(pdf).getAllPages();
 } catch (const QPDFExc& problem) {
   explain(problem, file);
+} catch (const QPDFSystemError& problem) {
+  throw Trouble(Status::damaged, "The document " + quoted(file.string()) +
+                                     " cannot be read: " + std::strerror(problem.getErrno()) + ".");
 }
 
 PageLook PDFPages::look(int page) const {

@@ -3,25 +3,24 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <string>
 
 #include "host/impose/pictures/Trouble.h"
 
 namespace tavrin {
 
-namespace {
-
-void check(bool isWell) {
-  if (!isWell)
-    throw Trouble(Status::notWritten,
-                  std::string("The sheets cannot be written: ") + std::strerror(errno) + ".");
-}
-
-}  // namespace
-
 void OutputPipe::write(const unsigned char* data, std::size_t size) {
-  check(std::fwrite(data, 1, size, stdout) == size);
+  if (problem == 0 && std::fwrite(data, 1, size, stdout) != size) problem = errno;
 }
 
-void OutputPipe::finish() { check(std::fflush(stdout) == 0); }
+void OutputPipe::finish() {
+  if (problem == 0 && std::fflush(stdout) != 0) problem = errno;
+}
+
+void OutputPipe::check() const {
+  if (problem != 0)
+    throw Trouble(Status::notWritten,
+                  std::string("The sheets cannot be written: ") + std::strerror(problem) + ".");
+}
 
 }  // namespace tavrin

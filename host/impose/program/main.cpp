@@ -61,6 +61,7 @@ void impose(const ImposeArguments& wish) {
   OutputPipe output;
   writeSheets(sheets, wish.paper.size, pages, output);
   output.finish();
+  output.check();
 }
 
 int complain(Status status, const std::string& sentence) {
