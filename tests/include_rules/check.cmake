@@ -88,7 +88,7 @@ set(MAY_HAVE_cups "^(ppd|conflict|controller|plugin|host|replay|tests)/|_(test|b
 set(LOOK_plist "<plist/")
 set(MAY_HAVE_plist "^platform/files/PropertyList\\.cpp$")
 set(LOOK_qpdf "<qpdf/")
-set(MAY_HAVE_qpdf "^host/impose/(pages|program)/|^tests/")
+set(MAY_HAVE_qpdf "^host/impose/pages/Qpdf\\.h$")
 set(LOOK_heif "<libheif/")
 set(MAY_HAVE_heif "^host/impose/pictures/")
 set(LOOK_nlohmann "<nlohmann/")

@@ -32,6 +32,7 @@ class Imposer {
  private:
   std::vector<Sheet> allOn(const SheetTemplate& places, const std::vector<CellPages>& order) const {
     std::vector<Sheet> result;
+    result.reserve(order.size());
     for (const CellPages& sheet : order) result.push_back(filled(places, sheet));
     return result;
   }

@@ -24,6 +24,7 @@ double borderRoom(Border border) { return linesOf(border) * (lineOf(border) + kA
 std::vector<Frame> framesRound(const Rect& page, Border border) {
   std::vector<Frame> frames;
   const double line = lineOf(border);
+  frames.reserve(linesOf(border));
   for (int index = 0; index < linesOf(border); ++index)
     frames.push_back({shrunk(page, -(line / 2 + index * (line + kApart))), line});
   return frames;

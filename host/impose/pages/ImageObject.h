@@ -3,8 +3,7 @@
 #include <memory>
 #include <string>
 
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFObjectHandle.hh>
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 

@@ -1,8 +1,7 @@
 #include "host/impose/pages/JpegPicture.h"
 
-#include <qpdf/Pipeline.hh>
-
 #include "host/impose/pages/ImageObject.h"
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 

@@ -2,8 +2,7 @@
 
 #include <set>
 
-#include <qpdf/QPDFObjGen.hh>
-#include <qpdf/QPDFObjectHandle.hh>
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 
@@ -15,7 +14,7 @@ std::set<QPDFObjGen> members(QPDFObjectHandle array) {
   return result;
 }
 
-bool isHidden(QPDFObjectHandle layer, QPDFObjectHandle states) {
+bool isHidden(const QPDFObjectHandle& layer, QPDFObjectHandle states) {
   const bool areHidden = states.getKeyIfDict("/BaseState").isNameAndEquals("/OFF");
   const char* exceptions = areHidden ? "/ON" : "/OFF";
   return members(states.getKeyIfDict(exceptions)).contains(layer.getObjGen()) != areHidden;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <qpdf/QPDF.hh>
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 

@@ -2,12 +2,8 @@
 
 #include <cstring>
 
-#include <qpdf/QPDFAcroFormDocumentHelper.hh>
-#include <qpdf/QPDFExc.hh>
-#include <qpdf/QPDFPageDocumentHelper.hh>
-#include <qpdf/QPDFSystemError.hh>
-
 #include "host/impose/pages/Layers.h"
+#include "host/impose/pages/Qpdf.h"
 #include "host/impose/pictures/Trouble.h"
 #include "platform/text/Quoted.h"
 

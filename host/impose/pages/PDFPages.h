@@ -3,9 +3,8 @@
 #include <filesystem>
 #include <vector>
 
-#include <qpdf/QPDFPageObjectHelper.hh>
-
 #include "host/impose/pages/PageSource.h"
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFObjectHandle.hh>
-
 #include "host/impose/layout/Geometry.h"
 #include "host/impose/layout/Placement.h"
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 

@@ -5,7 +5,8 @@
 
 #include <QColorSpace>
 #include <QImage>
-#include <qpdf/Pl_Flate.hh>
+
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 

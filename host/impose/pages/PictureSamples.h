@@ -2,8 +2,7 @@
 
 #include <memory>
 
-#include <qpdf/QPDFObjectHandle.hh>
-
+#include "host/impose/pages/Qpdf.h"
 #include "host/impose/pictures/PictureFrames.h"
 
 namespace tavrin {

@@ -93,7 +93,7 @@ class HeaderReader {
       if (isSound(density)) header.shape.density = density;
     constexpr std::array<unsigned char, 2> end{0xff, kEnd};
     const Bytes rest = bytes.subspan(scan);
-    header.isWhole = !std::ranges::search(rest, end).empty();
+    header.isWhole = std::search(rest.begin(), rest.end(), end.begin(), end.end()) != rest.end();
     return header;
   }
 

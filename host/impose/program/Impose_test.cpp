@@ -6,11 +6,8 @@
 #include <QColorSpace>
 #include <QTransform>
 #include <gtest/gtest.h>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFPageDocumentHelper.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
-#include <qpdf/QPDFWriter.hh>
 
+#include "host/impose/pages/Qpdf.h"
 #include "tests/fakes/FakePDF.h"
 #include "tests/fixtures/FourCorners.h"
 #include "tests/fixtures/TemporaryFolder.h"

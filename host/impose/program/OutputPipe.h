@@ -1,6 +1,6 @@
 #pragma once
 
-#include <qpdf/Pipeline.hh>
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 

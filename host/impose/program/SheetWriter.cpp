@@ -3,11 +3,7 @@
 #include <initializer_list>
 #include <string>
 
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFPageDocumentHelper.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
-#include <qpdf/QPDFWriter.hh>
-#include <qpdf/QUtil.hh>
+#include "host/impose/pages/Qpdf.h"
 
 namespace tavrin {
 
@@ -65,7 +61,7 @@ class SheetWriter {
   }
 
  private:
-  QPDFPageObjectHelper pageOf(QPDFObjectHandle objects, const std::string& contents) {
+  QPDFPageObjectHelper pageOf(const QPDFObjectHandle& objects, const std::string& contents) {
     auto resources = QPDFObjectHandle::newDictionary();
     resources.replaceKey("/XObject", objects);
     auto page = QPDFObjectHandle::newDictionary();

@@ -2,9 +2,8 @@
 
 #include <vector>
 
-#include <qpdf/Pipeline.hh>
-
 #include "host/impose/layout/Imposition.h"
+#include "host/impose/pages/Qpdf.h"
 #include "host/impose/program/DocumentPages.h"
 
 namespace tavrin {
