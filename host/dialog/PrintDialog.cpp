@@ -25,6 +25,7 @@
 #include "host/fields/LayoutPane.h"
 #include "host/general/GeneralArea.h"
 #include "host/panes/Widgets.h"
+#include "host/request/JobInWords.h"
 #include "host/sheets/PreviewArea.h"
 #include "host/sheets/PreviewSwitch.h"
 #include "host/sheets/TaskPreview.h"
@@ -66,7 +67,8 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
       previewSwitch(makeChild<PreviewSwitch>(*preview, *pages, this)),
       taskPreview(std::make_unique<TaskPreview>(task, *preview)),
       layoutPane(makeChild<LayoutPane>(task.fields(), switcher)),
-      summaryPane(makeChild<SummaryPane>([this] { return allLines(); }, switcher)) {
+      summaryPane(makeChild<SummaryPane>([this] { return inWords(); },
+                                         [this] { return allLines(); }, switcher)) {
   setWindowTitle(titleFor(task.request()));
   build();
   connectParts();
@@ -114,6 +116,9 @@ void PrintDialog::connectTask() {
   connect(&task, &PrintTask::sessionEnding, this, &PrintDialog::hideSession);
   connect(&task, &PrintTask::sessionRestarted, switcher, &PaneSwitcher::showAgain);
   connect(&task, &PrintTask::stageChanged, this, &PrintDialog::showStage);
+  connect(&task, &PrintTask::optionsChanged, summaryPane, [this] {
+    if (summaryPane->isVisible()) summaryPane->willShow();
+  });
 }
 
 // The same for all printers, panes and notes: from then on, only the person changes it.
@@ -181,6 +186,11 @@ void PrintDialog::showConflicts() {
                                          "%1. Changing one of them puts it right.")
                                           .arg(texts.join(", ")),
                     Note::Kind::information);
+}
+
+QString PrintDialog::inWords() const {
+  const bool hasPrinter = task.printers().chosen() || !task.hasQueue();
+  return jobInWords(hasPrinter ? task.options() : task.fields().options());
 }
 
 SummaryPane::Sections PrintDialog::allLines() const {

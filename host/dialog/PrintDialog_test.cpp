@@ -146,6 +146,25 @@ TEST_F(PrintDialogTest, SumsUpEveryPane) {
   EXPECT_TRUE(has(lines, "Pages per Sheet: 2"));
   const std::string ironOn = *task.session()->marks().choiceText("MediaType");
   EXPECT_TRUE(has(lines, "Paper Type: " + ironOn));
+  EXPECT_EQ(dialog.findChild<QLabel*>("inWords")->text(),
+            "In words: pages 2 to 3, 3 copies, two on a sheet, mirrored.");
+}
+
+TEST_F(PrintDialogTest, TheSummaryFollowsWhatIsChangedAboveIt) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  turnTo(dialog, "Summary");
+  dialog.findChild<QSpinBox*>("copies")->setValue(3);
+  EXPECT_EQ(dialog.findChild<QLabel*>("inWords")->text(), "In words: all pages, 3 copies.");
+}
+
+TEST_F(PrintDialogTest, SumsUpBeforeThereIsAPrinter) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  summaryOf(dialog);
+  EXPECT_EQ(dialog.findChild<QLabel*>("inWords")->text(), "In words: all pages.");
 }
 
 TEST_F(PrintDialogTest, SumsUpAPanelInTheOrderOfItsControls) {
@@ -409,11 +428,10 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
     EXPECT_TRUE(hasName(*dialog.focusWidget())) << stops.back().toStdString();
   }
   stops.removeAll("");
-  EXPECT_EQ(stops,
-            (QStringList{"printer", "copies", "pageRange", "page-set", "outputorder", "PageSize",
-                         "panes", "orientation-requested", "print-scaling", "position", "number-up",
-                         "booklet", "Duplex", "sheetView", "help", "previewSwitch", "cancel",
-                         "print"}));
+  EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "page-set", "outputorder",
+                                "PageSize", "panes", "orientation-requested", "print-scaling",
+                                "position", "number-up", "booklet", "Duplex", "sheetView", "help",
+                                "previewSwitch", "cancel", "print"}));
 }
 
 TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {

@@ -1,6 +1,7 @@
 #include "host/panes/SummaryPane.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -31,13 +32,18 @@ void addLine(QTreeWidgetItem& heading, const QString& label, const QString& valu
 
 }  // namespace
 
-SummaryPane::SummaryPane(std::function<Sections()> theSections, QWidget* parent)
+SummaryPane::SummaryPane(std::function<QString()> theWords, std::function<Sections()> theSections,
+                         QWidget* parent)
     : Pane(tr("Summary"), parent),
+      inWords(std::move(theWords)),
       sections(std::move(theSections)),
+      sentence(makeTextLabel(this)),
       list(makeChild<QTreeWidget>(this)) {
   auto* column = makeChild<QVBoxLayout>(this);
   column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(sentence);
   column->addWidget(list);
+  sentence->setObjectName("inWords");
   list->setObjectName("summary");
   list->setAccessibleName(tr("Summary of all settings"));
   list->setColumnCount(2);
@@ -51,6 +57,8 @@ SummaryPane::SummaryPane(std::function<Sections()> theSections, QWidget* parent)
 }
 
 void SummaryPane::willShow() {
+  sentence->setText(tr("In words: %1.").arg(inWords()));
+  list->setAccessibleDescription(sentence->text());
   list->clear();
   for (const auto& [name, values] : sections()) {
     if (values.empty()) continue;

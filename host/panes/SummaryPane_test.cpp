@@ -1,6 +1,7 @@
 #include "host/panes/SummaryPane.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTreeWidget>
@@ -17,11 +18,29 @@ QString shownToolTip(const QString& toolTip) {
   return page.toPlainText();
 }
 
+QString noWords() { return {}; }
+
+TEST(SummaryPane, SaysTheJobInWordsForAllSenses) {
+  QString words = "all pages";
+  SummaryPane pane([&] { return words; }, [] { return SummaryPane::Sections(); }, nullptr);
+  pane.willShow();
+  words = "page 2, mirrored";
+  pane.willShow();
+  EXPECT_EQ(pane.findChild<QLabel*>("inWords")->text(), "In words: page 2, mirrored.");
+  EXPECT_EQ(pane.findChild<QTreeWidget*>("summary")->accessibleDescription(),
+            "In words: page 2, mirrored.");
+}
+
 TEST(SummaryPane, ToolTipsShowTheirTextAsItIs) {
   for (const char* text :
        {"Plain", "Black & White", "&amp;", "<b>Bold</b>", "a < b", "two  blanks"}) {
     QWidget window;
-    SummaryPane pane([&] { return SummaryPane::Sections{{"Pane", {{text, text}}}}; }, &window);
+    SummaryPane pane(
+        noWords,
+        [&] {
+          return SummaryPane::Sections{{"Pane", {{text, text}}}};
+        },
+        &window);
     pane.willShow();
     const auto* list = pane.findChild<QTreeWidget*>("summary");
     const QTreeWidgetItem* line = list->topLevelItem(0)->child(0);
@@ -32,7 +51,12 @@ TEST(SummaryPane, ToolTipsShowTheirTextAsItIs) {
 TEST(SummaryPane, ScrollsOnlyWhereThereIsTooLittleRoom) {
   Pane::Lines lines;
   for (int i = 0; i < 30; ++i) lines.emplace_back(QString("Setting %1").arg(i), "On");
-  SummaryPane pane([&] { return SummaryPane::Sections{{"Pane", lines}}; }, nullptr);
+  SummaryPane pane(
+      noWords,
+      [&] {
+        return SummaryPane::Sections{{"Pane", lines}};
+      },
+      nullptr);
   pane.willShow();
   const auto* bar = pane.findChild<QTreeWidget*>("summary")->verticalScrollBar();
   const auto scrollsAt = [&](int height) {
