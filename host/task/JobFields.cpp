@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include <QLocale>
 #include <QStringList>
 
 #include "host/request/JobOptions.h"
 #include "host/request/OptionAliases.h"
 #include "host/request/PageRanges.h"
+#include "host/task/FieldProblems.h"
 
 namespace tavrin {
 namespace {
@@ -17,34 +17,6 @@ constexpr char kUsualCopies[] = "1";
 int possibleCopies(int copies) { return std::clamp(copies, 1, kMostCopies); }
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
-
-// "all, odd or even"
-QString alternatives(const JobSetting& setting) {
-  QStringList values;
-  for (const std::string& value : setting.values)
-    if (!value.empty()) values << shown(value);
-  const QString last = values.takeLast();
-  if (values.isEmpty()) return last;
-  return JobFields::tr("%1 or %2", "values of a setting")
-      .arg(values.join(JobFields::tr(", ", "between values of a setting")), last);
-}
-
-QString problemWith(const JobSetting& setting, const std::string& value) {
-  if (setting.option == kPagesPerSheetOption)
-    return JobFields::tr("A sheet can hold %1 pages, not “%2”.")
-        .arg(alternatives(setting), shown(value));
-  return JobFields::tr("The option “%1” can be %2, not “%3”.")
-      .arg(shown(setting.option), alternatives(setting), shown(value));
-}
-
-QString problemWithScaling(const OptionList& options) {
-  if (const OptString percent = optionValue(options, "scaling"))
-    return JobFields::tr("Pages can be scaled to 1 to %1 percent, not “%2”.")
-        .arg(QString::number(kMostPercent), shown(*percent));
-  return JobFields::tr("The option “%1” can be %2, not “%3”.")
-      .arg(kFitOption, JobFields::tr("auto, fit, fill or none"),
-           shown(optionValue(options, kFitOption).value_or("")));
-}
 
 }  // namespace
 
@@ -102,14 +74,9 @@ QString JobFields::pagesProblem() const {
   if (!ranges) return shown(ranges.reason());
   const std::string& set = value(kPageSetOption);
   if (knownPages == 0 || pagesInRanges(*ranges, set, knownPages) > 0) return {};
-  const QString has = knownPages == 1
-                          ? tr("The document has one page")
-                          : tr("The document has %1 pages").arg(QLocale().toString(knownPages));
-  if (pagesInRanges(*ranges, "all", knownPages) == 0)
-    return tr("%1; the range “%2” holds none of them.", "the document has so many pages")
-        .arg(has, pages().range.simplified());
-  return set == "odd" ? tr("%1; no odd one is among those to print.", "pages").arg(has)
-                      : tr("%1; no even one is among those to print.", "pages").arg(has);
+  const bool inRange = pagesInRanges(*ranges, "all", knownPages) > 0;
+  return inRange ? problemWithPageSet(set, knownPages)
+                 : problemWithRange(pages().range.simplified(), knownPages);
 }
 
 void JobFields::setDocumentPages(int pages) {
