@@ -66,6 +66,7 @@ OptionList inFirstNames(const OptionList& options) {
 const std::vector<std::string>& otherNames() {
   static const std::vector<std::string> names = [] {
     std::vector<std::string> all;
+    all.reserve(kAliases.size());
     for (const Alias& alias : kAliases) all.emplace_back(alias.name);
     return all;
   }();
