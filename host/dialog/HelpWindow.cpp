@@ -27,18 +27,22 @@ constexpr Entry kEntries[] = {
                        "Which printer prints, what it is doing and where it stands. Where a "
                        "printer has saved sets of options, each set is an entry of its own.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Copies, Pages, Paper Size"),
-     QT_TRANSLATE_NOOP("HelpWindow",
-                       "How often, which pages and on which paper. Write pages and ranges with "
-                       "commas between them: 1-3,5 prints pages 1, 2, 3 and 5; 7- prints from "
-                       "page 7 to the end.")},
+     QT_TRANSLATE_NOOP(
+         "HelpWindow",
+         "How often, which pages, in which order and on which paper. Write pages and "
+         "ranges with commas between them: 1-3,5 prints pages 1, 2, 3 and 5; 7- prints "
+         "from page 7 to the end, -4 the first four. Collated copies come out one after "
+         "the other, others page by page.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "The tabs"),
      QT_TRANSLATE_NOOP("HelpWindow",
                        "All other settings, sorted by what they are about. Control and Tab turn to "
                        "the next tab.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Layout"),
-     QT_TRANSLATE_NOOP("HelpWindow",
-                       "How many pages of the document share one sheet, and whether both sides of "
-                       "the paper are printed.")},
+     QT_TRANSLATE_NOOP(
+         "HelpWindow",
+         "How pages lie on the sheets: which way up, how large and where, how many "
+         "together and in which sequence, and whether both sides of the paper are "
+         "printed. A booklet has two pages on each side, to be folded in the middle.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Printer Features"),
      QT_TRANSLATE_NOOP("HelpWindow", "Everything else that this printer can be told.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Print Settings"),
@@ -46,7 +50,9 @@ constexpr Entry kEntries[] = {
                        "The settings that the maker of the printer added to this dialog. While "
                        "they are shown, the help button shows the printer's own help.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "Summary"),
-     QT_TRANSLATE_NOOP("HelpWindow", "All settings in one list, to look over before printing.")},
+     QT_TRANSLATE_NOOP("HelpWindow",
+                       "What will be printed in words, and all settings in one list, to look over "
+                       "before printing.")},
 };
 
 QString helpText() {
