@@ -189,7 +189,7 @@ void PrintDialog::showConflicts() {
 }
 
 QString PrintDialog::inWords() const {
-  const bool hasPrinter = task.printers().chosen() || !task.hasQueue();
+  const bool hasPrinter = task.printers().chosen() || task.target() != PrintTask::Target::queue;
   return jobInWords(hasPrinter ? task.options() : task.fields().options());
 }
 

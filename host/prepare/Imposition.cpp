@@ -82,11 +82,18 @@ bool mustPDFBeImposed(const DocumentFacts& document, const OptionList& options) 
          (choosesPages(options) || isPositioned(options) || !document.isPortrait);
 }
 
+// A picture that is larger than the paper would come on several sheets.
+bool isEnlarged(const OptionList& options) {
+  const int percent = std::atoi(optionValue(options, "scaling").value_or("").c_str());
+  return percent > 100 || isOther(options, "natural-scaling", {}) || isOther(options, "ppi", {});
+}
+
 // The filters take pictures as they are, one on a sheet.
 bool mustPictureBeImposed(const DocumentFacts& document, const OptionList& options) {
   return document.isTurned || document.pages > 1 ||
          std::ranges::find(kPictures, document.format) == kPictures.end() ||
-         hasOrientation(options) || hasSeveralPagesOnASheet(options) || choosesPages(options);
+         hasOrientation(options) || hasSeveralPagesOnASheet(options) || isEnlarged(options) ||
+         (choosesPages(options) && document.pages != 1);
 }
 
 // Nobody has counted the pages of a text.
