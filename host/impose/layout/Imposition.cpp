@@ -58,10 +58,15 @@ class Imposer {
     return result;
   }
 
+  // Rather turned than with an edge where the printer cannot print.
   bool isBetterTurned(const PageLook& page, const SheetTemplate& upright,
                       const SheetTemplate& turned) const {
-    if (fitsAsItIs(page, upright.cells.front(), options)) return false;
-    if (fitsAsItIs(page, turned.cells.front(), options)) return true;
+    const Cell& one = upright.cells.front();
+    const Cell& other = turned.cells.front();
+    if (fitsAsItIs(page, one.area.size(), options)) return false;
+    if (fitsAsItIs(page, other.area.size(), options)) return true;
+    if (fitsAsItIs(page, one.limit.size(), options)) return false;
+    if (fitsAsItIs(page, other.limit.size(), options)) return true;
     return largest(page.size, turned) > largest(page.size, upright) * kBetter;
   }
 

@@ -141,6 +141,11 @@ TEST(ImpositionTest, APageIsTurnedWhereThatMakesItLarger) {
   EXPECT_EQ(alone(page(1600, 1200), {}), "21,30 569,760");
 }
 
+TEST(ImpositionTest, APageIsTurnedWhereItsEdgesWouldNotBePrinted) {
+  EXPECT_EQ(alone(page(590, 400), {}), "95,100 495,690");
+  EXPECT_EQ(alone(page(590, 400), {{"print-scaling", "none"}}), "95,100 495,690");
+}
+
 TEST(ImpositionTest, APageIsNotTurnedWithoutNeed) {
   EXPECT_EQ(alone(page(400, 300), {}), "95,545 495,245") << "it has room as it is";
   EXPECT_EQ(alone(picture(400, 300), {{"print-scaling", "none"}}), "95,545 495,245");

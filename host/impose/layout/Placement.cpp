@@ -57,11 +57,11 @@ bool reachesBeyond(const Rect& rect, const Rect& limit) {
 
 }  // namespace
 
-bool fitsAsItIs(const PageLook& page, const Cell& cell, const LayoutOptions& options) {
+bool fitsAsItIs(const PageLook& page, Size room, const LayoutOptions& options) {
   const bool keepsSize =
       options.scaling == Scaling::actual || (options.scaling == Scaling::usual && !page.isPicture);
   const double share = options.scaling == Scaling::actual ? options.share : 1;
-  return keepsSize && fits(times(actualSize(page, options), share), cell.limit.size());
+  return keepsSize && fits(times(actualSize(page, options), share), room);
 }
 
 Placement placedIn(const Cell& cell, const PageLook& page, const LayoutOptions& options) {

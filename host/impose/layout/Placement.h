@@ -26,8 +26,8 @@ struct Placement {
   std::optional<Rect> clip;  // what shows of it; absent: all
 };
 
-// Whether the page keeps its actual size, and finds room for it.
-bool fitsAsItIs(const PageLook& page, const Cell& cell, const LayoutOptions& options);
+// Whether the page keeps its actual size where there is room for it, and there is.
+bool fitsAsItIs(const PageLook& page, Size room, const LayoutOptions& options);
 
 Placement placedIn(const Cell& cell, const PageLook& page, const LayoutOptions& options);
 
