@@ -60,6 +60,21 @@ Matrix turnedClockwise(int quarters) {
   }
 }
 
+// What the library puts into fields is lost on the way to another document, unless it is made the
+// stream's own.
+void fillIn(QPDF& pdf, const std::vector<QPDFPageObjectHelper>& pages) {
+  QPDFAcroFormDocumentHelper form(pdf);
+  if (!form.getNeedAppearances()) return;
+  form.generateAppearancesIfNeeded();
+  for (const QPDFPageObjectHelper& page : pages)
+    for (QPDFAnnotationObjectHelper& field : form.getWidgetAnnotationsForPage(page)) {
+      QPDFObjectHandle look = field.getAppearanceStream("/N");
+      if (look.isStream())
+        look.replaceStreamData(look.getStreamData(), QPDFObjectHandle::newNull(),
+                               QPDFObjectHandle::newNull());
+    }
+}
+
 [[noreturn]] void explain(const QPDFExc& problem, const std::filesystem::path& file) {
   const std::string name = "The document " + quoted(file.string());
   if (problem.getErrorCode() == qpdf_e_password)
@@ -91,7 +106,7 @@ PageLook PDFPages::look(int page) const {
 void PDFPages::prepare(QPDF& output) {
   if (isPrepared) return;
   isPrepared = true;
-  QPDFAcroFormDocumentHelper(pdf).generateAppearancesIfNeeded();
+  fillIn(pdf, pages);
   QPDFPageDocumentHelper(pdf).flattenAnnotations(an_print);
   keepLayers(pdf, output);
 }

@@ -106,6 +106,22 @@ TEST_F(PDFPagesTest, HaveTheAnnotationsThatAreForPaper) {
   EXPECT_FALSE(drawn("6")) << "hidden";
 }
 
+TEST_F(PDFPagesTest, HaveWhatIsFilledIn) {
+  const std::string field =
+      "<</Type/Annot/Subtype/Widget/FT/Tx/T(name)/V(Ada)/F 4/Rect[20 40 180 60]/DA(/H 12 Tf)/P 3 0 "
+      "R>>";
+  PDFPages pages(document("/MediaBox[0 0 200 90]/Annots[5 0 R]", "",
+                          {field, "<</Type/Font/Subtype/Type1/BaseFont/Helvetica>>"},
+                          "/AcroForm<</Fields[5 0 R]/NeedAppearances true/DA(/H 12 Tf)"
+                          "/DR<</Font<</H 6 0 R>>>>>>"));
+  output.emptyPDF();
+  pages.draw(0, output);
+  std::string all;
+  for (QPDFObjectHandle& object : output.getAllObjects())
+    if (object.isStream()) all += contentsOf({object, {}});
+  EXPECT_NE(all.find("(Ada) Tj"), std::string::npos) << all;
+}
+
 TEST_F(PDFPagesTest, KeepTheirLayersHidden) {
   output.emptyPDF();
   PDFPages one(document("/MediaBox[0 0 90 90]", "", {"<</Type/OCG/Name(a)>>", "<</Type/OCG>>"},
