@@ -35,8 +35,9 @@ class JobSequence : public QObject {
   // The paper has been turned.
   void printBacks();
 
-  // The documents that have been sent, from the first one, also when the sequence ended early.
-  std::size_t sent() const { return sentDocuments; }
+  // How many documents have been sent, from the first one, also when the sequence ended early;
+  // after that, none.
+  std::size_t takeSent() { return std::exchange(sentDocuments, 0); }
   // How many there are in all; 0 while they are prepared.
   std::size_t count() const { return documents.size(); }
 

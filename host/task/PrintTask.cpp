@@ -24,11 +24,6 @@ constexpr std::chrono::milliseconds kFirstRest(60);
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 
-std::string inOneText(std::vector<std::string> sentences) {
-  std::erase(sentences, "");
-  return joined(sentences, " ");
-}
-
 std::string leftAlone(const ppd_file_t& ppd) {
   const std::vector<std::string> keywords = optionsLeftAlone(ppd);
   if (keywords.empty()) return {};
@@ -42,12 +37,6 @@ constexpr char kPDFDestination[] = "a file";
 
 bool isLetterCountry() { return QLocale().measurementSystem() == QLocale::ImperialUSSystem; }
 
-bool namesPaper(const OptionList& options) {
-  for (const char* name : {kPageSizeKey, "PageRegion", kPaperOption})
-    if (optionValue(options, name)) return true;
-  return false;
-}
-
 std::string nameOf(const ppd_file_t& ppd) {
   return ppd.nickname ? ppd.nickname : ppd.modelname ? ppd.modelname : "";
 }
@@ -56,13 +45,13 @@ std::string nameOf(const ppd_file_t& ppd) {
 
 PrintTask::PrintTask(JobRequest request, QObject* parent)
     : QObject(parent), asked(std::move(request)) {
-  suggestFields();
+  settings.choose("", startOptions());
   connectSearch();
   connectDocuments();
   connectSequence();
   connect(&jobFields, &JobFields::changed, this, &PrintTask::optionsChanged);
   connect(&jobFields, &JobFields::pagesPerSheetChanged, this, [this](int pages) {
-    if (current) current->setPagesPerSheet(pages);
+    if (session()) session()->setPagesPerSheet(pages);
   });
 }
 
@@ -106,7 +95,7 @@ void PrintTask::connectSearch() {
 
 void PrintTask::usePrintServer() {
   if (isSending()) return;
-  keepSettings();
+  settings.keep();
   where = Target::queue;
   endSession();
   tell({});
@@ -118,6 +107,7 @@ void PrintTask::usePrinterWithoutQueue(const SharedPPD& ppd, std::filesystem::pa
   output = std::move(folder);
   folderPPD = ppd;
   where = Target::folder;
+  settings.choose("", startOptions());
   beginSession(ppd);
 }
 
@@ -125,6 +115,7 @@ void PrintTask::useFolder() {
   if (isSending() || now == Stage::done || !folderPPD || where == Target::folder) return;
   leavePrinter();
   where = Target::folder;
+  settings.choose("", startOptions());
   beginSession(folderPPD);
   emit printersChanged();
 }
@@ -135,15 +126,14 @@ void PrintTask::usePDF() {
   if (!ppd) return warn(ppd.reason());
   leavePrinter();
   where = Target::file;
-  destination = kPDFDestination;
   search.chooseNone();
-  suggestFields();
+  settings.choose(kPDFDestination, startOptions());
   beginSession(std::move(*ppd));
 }
 
 // Whatever is chosen next.
 void PrintTask::leavePrinter() {
-  keepSettings();
+  settings.keep();
   endSession();
   queueOfSession.clear();
   destination.clear();
@@ -177,8 +167,8 @@ void PrintTask::choosePrinter(std::size_t place) {
   if (isSending() || now == Stage::done || place >= printers().entries().size()) return;
   // Choosing the chosen printer changes nothing, except that settings that could not be read are
   // asked for again.
-  if (printers().chosenIndex() == place && (current || now == Stage::reading)) return;
-  const std::string problem = keepSettings();
+  if (printers().chosenIndex() == place && (session() || now == Stage::reading)) return;
+  const std::string problem = settings.keep();
   where = Target::queue;
   search.choose(place);
   readChosenPrinter();
@@ -188,9 +178,10 @@ void PrintTask::choosePrinter(std::size_t place) {
 void PrintTask::readChosenPrinter() {
   tell({});
   destination = destinationName(*printers().chosen());
-  if (current && queueOfSession == printers().chosen()->name) return restartSession();
-  endSession();
-  suggestFields();
+  const bool isSameQueue = session() && queueOfSession == printers().chosen()->name;
+  if (!isSameQueue) endSession();
+  settings.choose(destination, startOptions());
+  if (isSameQueue) return restartSession();
   enter(Stage::reading);
   tell({tr("Reading the printer's settings…").toStdString()});
   queueOfSession = printers().chosen()->name;
@@ -198,7 +189,7 @@ void PrintTask::readChosenPrinter() {
 }
 
 void PrintTask::takePPD(const SharedPPD& ppd) {
-  if (now == Stage::reading || (canPrint() && !current)) beginSession(ppd);
+  if (now == Stage::reading || (canPrint() && !session())) beginSession(ppd);
 }
 
 // A printer without a PPD still prints; only its own settings cannot be shown.
@@ -207,7 +198,7 @@ void PrintTask::goWithoutPPD(const QString& reason) {
   const QString sentence =
       tr("%1 The document can be printed all the same, with the printer's usual settings.")
           .arg(reason);
-  warn(inOneText({sentence.toStdString(), layoutProblem}));
+  warn(inOneText({sentence.toStdString(), settings.fieldProblem()}));
   enter(Stage::ready);
 }
 
@@ -222,35 +213,26 @@ std::string PrintTask::folderPrinterName() const { return folderPPD ? nameOf(*fo
 // --- The chosen printer's settings ---
 
 void PrintTask::beginSession(const SharedPPD& ppd) {
-  current = std::make_unique<PrinterSession>(ppd);
-  const std::string problems = markPrinter();  // the panels look at the marks as they come up
-  tell({inOneText({problems, leftAlone(*ppd), current->loadPanels()})});
-  connect(&current->marks(), &PPDMarks::refreshed, this, &PrintTask::optionsChanged);
+  const std::string problems = settings.begin(ppd);  // the panels look at the marks as they come up
+  tell({inOneText({problems, leftAlone(*ppd), session()->loadPanels()})});
+  connect(&session()->marks(), &PPDMarks::refreshed, this, &PrintTask::optionsChanged);
   enter(Stage::ready);
-  suggestPaper();
+  takePaper();
   emit sessionBegun();
 }
 
 // Another instance of the same printer.
 void PrintTask::restartSession() {
-  warn(markPrinter());
+  warn(settings.restart());
   enter(Stage::ready);
-  suggestPaper();
+  takePaper();
   emit sessionRestarted();
 }
 
 void PrintTask::endSession() {
-  if (!current) return;
+  if (!session()) return;
   emit sessionEnding();
-  current.reset();
-}
-
-std::string PrintTask::keepSettings() {
-  if (!current) return {};
-  std::string problem = current->takePanelChoices();
-  kept[destination] = {withMarks(startOptions(), current->ppd()),
-                       optionsWithoutMark(current->ppd())};
-  return problem;
+  settings.end();
 }
 
 // What lp would send: the printer's saved options, the program's over them.
@@ -261,30 +243,6 @@ OptionList PrintTask::startOptions() const {
   if (where == Target::file && isLetterCountry() && !namesPaper(options))
     setOption(options, kPageSizeKey, "Letter");
   return options;
-}
-
-// What the printer has itself by the name of a field is a choice of its PPD.
-void PrintTask::suggestFields() {
-  OptionList options = startOptions();
-  if (current)
-    std::erase_if(options, [this](const auto& option) {
-      return isPrintersOwn(current->ppd(), option.first);
-    });
-  layoutProblem = jobFields.suggest(asked, options).toStdString();
-}
-
-std::string PrintTask::markPrinter() {
-  suggestFields();
-  current->setPagesPerSheet(jobFields.pagesPerSheet());
-  const auto before = kept.find(destination);
-  std::vector<std::string> problems =
-      before == kept.end() ? current->markAnew(startOptions())
-                           : current->markAnew(before->second.options, before->second.unmarked);
-  problems.push_back(layoutProblem);
-  usualPaper.reset();
-  if (before == kept.end() && !namesPaper(startOptions()))
-    usualPaper = current->marks().choice(kPageSizeKey);
-  return inOneText(problems);
 }
 
 // --- The documents ---
@@ -305,25 +263,16 @@ void PrintTask::takeDocuments() {
   const std::vector<DocumentFacts>& all = papers.all();
   jobFields.setDocumentPages(all.size() == 1 ? all.front().pages : 0);
   jobFields.setSeveralPictures(all.size() > 1 && arePictures(all));
-  suggestPaper();
+  takePaper();
   emit documentsChanged();
   if (waiting) std::exchange(waiting, {})();
 }
 
-// A document's paper, where the printer has it and nobody has asked for another one.
-void PrintTask::suggestPaper() {
-  if (!current || !papers.areKnown() || !usualPaper) return;
-  PPDMarks& marks = current->marks();
-  const bool isUsual = marks.choice(kPageSizeKey) == usualPaper;
-  usualPaper.reset();
-  const DocumentFacts& first = papers.all().front();
-  const OptString paper = paperOfSize(current->ppd(), {first.width, first.height});
-  if (!isUsual || !isPDF(first.format) || !paper || marks.isMarked(kPageSizeKey, *paper)) return;
-  marks.choose(kPageSizeKey, *paper);
-  if (said.text.empty() && !isSending())
-    say(tr("The paper size is %1, as in the document.")
-            .arg(shown(marks.choiceText(kPageSizeKey).value_or("")))
-            .toStdString());
+void PrintTask::takePaper() {
+  if (!papers.areKnown()) return;
+  const OptString paper = settings.takePaper(papers.all().front());
+  if (paper && said.text.empty() && !isSending())
+    say(tr("The paper size is %1, as in the document.").arg(shown(*paper)).toStdString());
 }
 
 // --- The job ---
@@ -359,7 +308,7 @@ void PrintTask::doOnceKnown(std::function<void()> work) {
   if (!canPrint()) return;
   if (const Result<std::string> ranges = jobFields.pageRanges(); !ranges)
     return warn(ranges.reason());
-  if (const std::string problem = current ? current->takePanelChoices() : ""; !problem.empty())
+  if (const std::string problem = session() ? session()->takePanelChoices() : ""; !problem.empty())
     return warn(problem);
   tell({});
   enter(Stage::printing);
@@ -378,16 +327,17 @@ void PrintTask::send() {
 
 OptionList PrintTask::options() const {
   const Result<std::string> ranges = jobFields.pageRanges();
-  return jobOptions(finishedRequest(ranges ? *ranges : ""), current ? &current->ppd() : nullptr);
+  return jobOptions(finishedRequest(ranges ? *ranges : ""),
+                    session() ? &session()->ppd() : nullptr);
 }
 
 Preparation PrintTask::preparation() const {
   Preparation wanted{papers.all()};
   wanted.options = options();
   wanted.title = asked.title;
-  if (!current) return wanted;
-  wanted.ppd = sourceOf(current->sharedPPD());
-  wanted.paper = markedPaper(current->ppd());
+  if (!session()) return wanted;
+  wanted.ppd = sourceOf(session()->sharedPPD());
+  wanted.paper = markedPaper(session()->ppd());
   wanted.wholeSheets = needsTwoPasses(wanted.options);
   return wanted;
 }
@@ -395,7 +345,7 @@ Preparation PrintTask::preparation() const {
 // A printer that turns the paper itself has an option of its own for that.
 bool PrintTask::needsTwoPasses(const OptionList& options) const {
   const std::string sides = optionValue(options, kSidesOption).value_or("");
-  return sides.starts_with("two-sided") && current && !twoSidedOption(current->ppd());
+  return sides.starts_with("two-sided") && session() && !twoSidedOption(session()->ppd());
 }
 
 JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
@@ -405,10 +355,7 @@ JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
   finished.instance = printer ? printer->instance : "";
   finished.copies = jobFields.copies();
   finished.pageRanges = ranges;
-  finished.options = startOptions();
-  // The fields have taken these.
-  for (const std::string& name : JobFields::optionNames()) removeOption(finished.options, name);
-  for (const auto& [name, value] : jobFields.options()) setOption(finished.options, name, value);
+  finished.options = settings.options();
   return finished;
 }
 
@@ -437,7 +384,7 @@ void PrintTask::finish(const JobReport& job) {
 
 // What was sent is not sent again.
 QString PrintTask::whatWasSent() {
-  const std::size_t sent = sequence.sent();
+  const std::size_t sent = sequence.takeSent();
   const std::size_t all = papers.all().size();
   if (sent == 0 || sent == all) return {};
   papers.dropFirst(sent);

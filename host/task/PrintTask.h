@@ -2,20 +2,18 @@
 
 #include <filesystem>
 #include <functional>
-#include <map>
-#include <memory>
 #include <optional>
 #include <string>
 
 #include <QObject>
 
-#include "host/panels/PrinterSession.h"
 #include "host/prepare/Documents.h"
 #include "host/preview/SheetsSaver.h"
 #include "host/task/JobFields.h"
 #include "host/task/JobReport.h"
 #include "host/task/JobSequence.h"
 #include "host/task/PrinterSearch.h"
+#include "host/task/PrinterSettings.h"
 
 namespace tavrin {
 
@@ -126,7 +124,7 @@ class PrintTask : public QObject {
   JobFields& fields() { return jobFields; }
   const JobFields& fields() const { return jobFields; }
   // The chosen printer's settings; null while there are none.
-  PrinterSession* session() const { return current.get(); }
+  PrinterSession* session() const { return settings.session(); }
   // The options that the job would have now; of all pages where the page range is wrong.
   OptionList options() const;
   // All that decides how the sheets will look.
@@ -157,12 +155,6 @@ class PrintTask : public QObject {
   void progressed(const tavrin::Progress& progress);
 
  private:
-  // The settings of a printer that was left.
-  struct Kept {
-    OptionList options;
-    std::vector<std::string> unmarked;  // options in which nothing was chosen at all
-  };
-
   QString stillOnItsWay() const;
   void connectSearch();
   void connectDocuments();
@@ -180,13 +172,10 @@ class PrintTask : public QObject {
   void beginSession(const SharedPPD& ppd);
   void restartSession();
   void endSession();
-  std::string keepSettings();
   OptionList startOptions() const;
-  void suggestFields();
-  std::string markPrinter();
 
   void takeDocuments();
-  void suggestPaper();
+  void takePaper();
   JobRequest finishedRequest(const std::string& ranges) const;
   bool needsTwoPasses(const OptionList& options) const;
   void doOnceKnown(std::function<void()> work);
@@ -204,15 +193,12 @@ class PrintTask : public QObject {
   Stage now = Stage::idle;
   Notice said;
   JobFields jobFields;
-  std::string layoutProblem;  // of the suggested fields; empty for none
+  PrinterSettings settings{asked, jobFields};
   std::string queueOfSession;
-  std::string destination;           // the queue or instance whose settings are shown
-  std::map<std::string, Kept> kept;  // of the destinations that were left
-  std::unique_ptr<PrinterSession> current;
+  std::string destination;  // the queue or instance whose settings are shown
   PrinterSearch search;
   Documents papers;
   JobSequence sequence;
-  OptString usualPaper;  // marked as long as nobody asks for another one; else absent
   SheetsSaver saver;
   bool isSaving = false;          // what is on its way is a file
   std::function<void()> waiting;  // what to do when the documents are known; empty for nothing
