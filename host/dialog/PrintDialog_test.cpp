@@ -98,6 +98,15 @@ class PrintDialogTest : public testing::Test {
   test::TemporaryFolder place;
 };
 
+// The panel has the mirror on for such paper; the preview must not wait for a click to know it.
+TEST_F(PrintDialogTest, BeginsWithWhatThePanelHasSet) {
+  JobRequest request = job();
+  request.options = {{"MediaType", "IronOn"}};
+  PrintTask task(request);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  EXPECT_EQ(optionValue(task.options(), "Mirror"), "True");
+}
+
 TEST_F(PrintDialogTest, ShowsThePanelOfThePrinter) {
   PrintTask task(job());
   PrintDialog dialog(task);

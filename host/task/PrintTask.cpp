@@ -214,7 +214,9 @@ std::string PrintTask::folderPrinterName() const { return folderPPD ? nameOf(*fo
 
 void PrintTask::beginSession(const SharedPPD& ppd) {
   const std::string problems = settings.begin(ppd);  // the panels look at the marks as they come up
-  tell({inOneText({problems, leftAlone(*ppd), session()->loadPanels()})});
+  std::vector<std::string> sentences{problems, leftAlone(*ppd), session()->loadPanels()};
+  sentences.push_back(session()->takePanelChoices());
+  tell({inOneText(sentences)});
   connect(&session()->marks(), &PPDMarks::refreshed, this, &PrintTask::optionsChanged);
   enter(Stage::ready);
   takePaper();
@@ -223,7 +225,8 @@ void PrintTask::beginSession(const SharedPPD& ppd) {
 
 // Another instance of the same printer.
 void PrintTask::restartSession() {
-  warn(settings.restart());
+  const std::string problems = settings.restart();
+  warn(inOneText({problems, session()->takePanelChoices()}));
   enter(Stage::ready);
   takePaper();
   emit sessionRestarted();
