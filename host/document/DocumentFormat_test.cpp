@@ -31,7 +31,10 @@ TEST(DocumentFormat, OfPicturesIsNamedAsThePrintSystemNamesIt) {
 
 TEST(DocumentFormat, OfCamerasAndTheWebIsKnownToo) {
   EXPECT_EQ(formatOf(std::string_view("RIFF\x24\0\0\0WEBPVP8 ", 16)), "image/webp");
-  EXPECT_EQ(formatOf(std::string_view("\0\0\0\x18" "ftypheic\0\0\0\0", 16)), "image/heif");
+  EXPECT_EQ(formatOf(std::string_view("\0\0\0\x18"
+                                      "ftypheic\0\0\0\0",
+                                      16)),
+            "image/heif");
   EXPECT_EQ(formatOf(std::string_view("\0\0\0\x20"
                                       "ftypavif\0\0\0\0",
                                       16)),
