@@ -11,6 +11,7 @@
 #include "host/printer/MarkedOptions.h"
 #include "host/printer/PPDLoader.h"
 #include "host/printer/Paper.h"
+#include "host/printer/SheetSequence.h"
 #include "host/request/JobOptions.h"
 #include "host/support/TextLists.h"
 #include "platform/files/ProgramFolder.h"
@@ -284,14 +285,14 @@ void PrintTask::connectSequence() {
   connect(&sequence, &JobSequence::progressed, this, &PrintTask::progressed);
   connect(&sequence, &JobSequence::paperToBeTurned, this, [this] { enter(Stage::turning); });
   connect(&sequence, &JobSequence::finished, this, &PrintTask::finish);
-  connect(&sequence, &JobSequence::cancelled, this, &PrintTask::giveBack);
+  connect(&sequence, &JobSequence::cancelled, this, [this] { giveBack(bareFronts()); });
   connect(&sequence, &JobSequence::nothingLeft, this, &PrintTask::refuse);
   connect(&sequence, &JobSequence::folderRefused, this,
           [this](const QString& reason) { fail(reason, WayOut::chooseFolder); });
   connect(&sequence, &JobSequence::failed, this, [this](const QString& reason) { fail(reason); });
   connect(&saver, &SheetsSaver::saved, this,
           [this](const std::filesystem::path& file) { finish(reportOnFile(file)); });
-  connect(&saver, &SheetsSaver::cancelled, this, &PrintTask::giveBack);
+  connect(&saver, &SheetsSaver::cancelled, this, [this] { giveBack(); });
   connect(&saver, &SheetsSaver::nothingLeft, this, &PrintTask::refuse);
   connect(&saver, &SheetsSaver::failed, this, [this](const QString& reason) { fail(reason); });
 }
@@ -325,7 +326,21 @@ void PrintTask::send() {
   const Preparation wanted = preparation();
   isSaving = false;
   sequence.start({wanted, finishedRequest(ranges ? *ranges : ""),
-                  where == Target::folder ? output : "", wanted.wholeSheets});
+                  where == Target::folder ? output : "", wanted.wholeSheets,
+                  session() && comesLastSheetFirst(session()->ppd(), wanted.options)});
+}
+
+PrintTask::Work PrintTask::work() const {
+  using Kind = Work::Kind;
+  using Step = JobSequence::Step;
+  if (waiting) return {Kind::preparing, 1, papers.all().size()};
+  if (isSaving) return {Kind::saving, 1, papers.all().size()};
+  const Step step = sequence.step();
+  if (step == Step::preparing) return {Kind::preparing, 1, papers.all().size()};
+  const Kind kind = step == Step::sending         ? Kind::sending
+                    : step == Step::sendingFronts ? Kind::sendingFronts
+                                                  : Kind::sendingBacks;
+  return {kind, sequence.sent() + 1, sequence.count()};
 }
 
 OptionList PrintTask::options() const {
@@ -362,10 +377,11 @@ JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
   return finished;
 }
 
-void PrintTask::printBacks() {
+void PrintTask::printBacks(JobSequence::BackOrder order) {
   if (now != Stage::turning) return;
+  tell({});
   enter(Stage::printing);
-  sequence.printBacks();
+  sequence.printBacks(order);
 }
 
 void PrintTask::cancel() {
@@ -395,9 +411,20 @@ QString PrintTask::whatWasSent() {
   return tr(" %1 of %2 documents were sent before; Print sends the others.").arg(sent).arg(all);
 }
 
-void PrintTask::giveBack() {
+// Empty where there are none.
+QString PrintTask::bareFronts() const {
+  if (!sequence.hasBareFronts()) return {};
+  const DocumentFacts& document = papers.all()[sequence.sent()];
+  return tr("The fronts of “%1” were printed, its backs were not.")
+      .arg(shown(nameInWords(document.document)));
+}
+
+void PrintTask::giveBack(const QString& bareFronts) {
   enter(Stage::ready);
-  const QString sentence = tr("Printing was cancelled. The settings are as they were.");
+  reportText = bareFronts.toStdString();
+  const QString sentence = bareFronts.isEmpty()
+                               ? tr("Printing was cancelled. The settings are as they were.")
+                               : tr("Printing was cancelled. %1").arg(bareFronts);
   say((sentence + whatWasSent()).toStdString());
 }
 
@@ -407,6 +434,10 @@ void PrintTask::refuse(const QString& reason) {
 }
 
 void PrintTask::fail(const QString& reason, WayOut wayOut) {
+  if (sequence.isWaitingForPaper()) {
+    enter(Stage::turning);
+    return warn(reason.toStdString());
+  }
   end = Outcome::failed;
   reportText = (reason + whatWasSent()).toStdString();
   enter(Stage::failed);

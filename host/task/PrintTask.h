@@ -54,6 +54,13 @@ class PrintTask : public QObject {
     folder,  // a folder for each job, for a printer that has no queue
     file,    // a PDF of the sheets; this one is always there
   };
+  // What is being done while the stage is printing.
+  struct Work {
+    enum class Kind { preparing, sending, sendingFronts, sendingBacks, saving };
+    Kind kind = Kind::preparing;
+    std::size_t document = 1;   // which one is sent, or has its paper turned, from 1
+    std::size_t documents = 1;  // of how many
+  };
   // A sentence for the person; empty when there is nothing to say.
   struct Notice {
     std::string text;
@@ -90,8 +97,9 @@ class PrintTask : public QObject {
   void print();
   // The same, but saves the sheets as one PDF, whatever the target.
   void saveAs(const std::filesystem::path& file, SheetsSaver::Existing existing);
-  // The paper has been turned: prints its backs.
-  void printBacks();
+  // The paper has been turned: prints its backs. Where they cannot be sent, the paper is still
+  // turned, and the notice says why.
+  void printBacks(JobSequence::BackOrder order = JobSequence::BackOrder::same);
   // Takes back a job that is on its way; the stage is takingBack until that is done.
   void cancel();
   // The person leaves now: the report says why nothing was printed, where there is a reason.
@@ -107,6 +115,7 @@ class PrintTask : public QObject {
     return now == Stage::printing || now == Stage::turning || now == Stage::takingBack;
   }
   const Notice& notice() const { return said; }
+  Work work() const;
 
   const JobRequest& request() const { return asked; }
   // What is known of the documents.
@@ -152,6 +161,7 @@ class PrintTask : public QObject {
   void optionsChanged();
   // There are other documents, or more is known of them.
   void documentsChanged();
+  // How far the work has come, or that there is other work.
   void progressed(const tavrin::Progress& progress);
 
  private:
@@ -182,8 +192,9 @@ class PrintTask : public QObject {
   void send();
   void refuse(const QString& reason);
   QString whatWasSent();
+  QString bareFronts() const;
   void finish(const JobReport& job);
-  void giveBack();
+  void giveBack(const QString& bareFronts = {});
   void fail(const QString& reason, WayOut wayOut = WayOut::none);
 
   JobRequest asked;

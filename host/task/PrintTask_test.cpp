@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/printer/PPDLoader.h"
+#include "tests/fakes/FakePDF.h"
 #include "tests/fakes/FakePPD.h"
 #include "tests/fakes/FakePanel.h"
 #include "tests/fixtures/EventLoopTest.h"
@@ -197,6 +198,111 @@ TEST_F(PrintTaskTest, SaysWhichDocumentsWereSentBeforeOneFailed) {
   ASSERT_TRUE(reaches(task, Stage::done));
   EXPECT_FALSE(std::filesystem::exists(place.path() / "jobs" / "card.pdf-2"));
   EXPECT_TRUE(std::filesystem::exists(place.path() / "jobs" / "last.txt"));
+}
+
+// Both sides of the paper on a printer that prints on one: somebody turns it between two jobs.
+class TwoPassTest : public PrintTaskTest {
+ protected:
+  JobRequest twoSided(const std::string& document) const {
+    JobRequest job;
+    job.document = place.write("card.pdf", document);
+    job.options = {{"sides", "two-sided-long-edge"}};
+    return job;
+  }
+  std::string ticket(const std::string& folder) const {
+    return test::textOf(place.path() / "jobs" / folder / "ticket.json");
+  }
+  static void expectOption(const std::string& ticket, const char* option) {
+    EXPECT_NE(ticket.find(option), std::string::npos) << option << ticket;
+  }
+  void printFronts(PrintTask& task) {
+    task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+    task.print();
+    ASSERT_TRUE(reaches(task, Stage::turning)) << task.notice().text;
+  }
+};
+
+TEST_F(TwoPassTest, WaitsForThePaperToBeTurned) {
+  PrintTask task(twoSided(numberedPDF(3)));
+  follow(task);
+  printFronts(task);
+  EXPECT_EQ(task.work().kind, PrintTask::Work::Kind::sendingBacks);
+  expectOption(ticket("card.pdf"), R"("sides": "one-sided")");
+  EXPECT_FALSE(fs::exists(place.path() / "jobs" / "card.pdf-2"));
+  task.printBacks();
+  ASSERT_TRUE(reaches(task, Stage::done));
+  EXPECT_EQ(stages,
+            (Stages{Stage::ready, Stage::printing, Stage::turning, Stage::printing, Stage::done}));
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::printed);
+  EXPECT_EQ(ticket("card.pdf-2").find("outputorder"), std::string::npos);
+}
+
+TEST_F(TwoPassTest, PrintsTheBacksTheOtherWayRound) {
+  PrintTask task(twoSided(numberedPDF(3)));
+  printFronts(task);
+  task.printBacks(JobSequence::BackOrder::reversed);
+  ASSERT_TRUE(reaches(task, Stage::done));
+  expectOption(ticket("card.pdf-2"), R"("outputorder": "reverse")");
+}
+
+TEST_F(TwoPassTest, TheOtherWayRoundIsForwardsWhereTheFrontsCameBackwards) {
+  JobRequest job = twoSided(numberedPDF(3));
+  job.options.emplace_back("outputorder", "reverse");
+  PrintTask task(job);
+  printFronts(task);
+  task.printBacks(JobSequence::BackOrder::reversed);
+  ASSERT_TRUE(reaches(task, Stage::done));
+  expectOption(ticket("card.pdf"), R"("outputorder": "reverse")");
+  expectOption(ticket("card.pdf-2"), R"("outputorder": "normal")");
+}
+
+TEST_F(TwoPassTest, TurnsNoPaperForADocumentWithoutABack) {
+  PrintTask task(twoSided(numberedPDF(1)));
+  follow(task);
+  task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+  task.print();
+  ASSERT_TRUE(reaches(task, Stage::done)) << task.notice().text;
+  EXPECT_EQ(stages, (Stages{Stage::ready, Stage::printing, Stage::done}));
+}
+
+TEST_F(TwoPassTest, TurnsThePaperOfEachDocument) {
+  PrintTask task(twoSided(numberedPDF(2)));
+  task.addDocuments({place.write("more.pdf", numberedPDF(2))});
+  printFronts(task);
+  EXPECT_EQ(task.work().document, 1u);
+  EXPECT_EQ(task.work().documents, 2u);
+  task.printBacks();
+  ASSERT_TRUE(reaches(task, Stage::turning));
+  EXPECT_EQ(task.work().document, 2u);
+  task.printBacks();
+  ASSERT_TRUE(reaches(task, Stage::done));
+}
+
+TEST_F(TwoPassTest, TellsThatTheFrontsArePrintedWhereTheBacksAreNot) {
+  PrintTask task(twoSided(numberedPDF(2)));
+  printFronts(task);
+  task.cancel();
+  ASSERT_TRUE(reaches(task, Stage::ready));
+  EXPECT_EQ(task.notice().text,
+            "Printing was cancelled. The fronts of “card.pdf” were printed, its backs were not.");
+  task.leave();
+  EXPECT_EQ(task.outcome(), PrintTask::Outcome::cancelled);
+  EXPECT_EQ(task.report(), "The fronts of “card.pdf” were printed, its backs were not.");
+}
+
+TEST_F(TwoPassTest, TriesTheBacksAgainWithoutTheFronts) {
+  PrintTask task(twoSided(numberedPDF(2)));
+  printFronts(task);
+  fs::remove_all(place.path() / "jobs");
+  place.write("jobs", "in the way");
+  task.printBacks();
+  ASSERT_TRUE(reaches(task, Stage::turning));
+  EXPECT_TRUE(task.notice().isWarning);
+  fs::remove(place.path() / "jobs");
+  task.printBacks();
+  ASSERT_TRUE(reaches(task, Stage::done));
+  EXPECT_TRUE(fs::exists(place.path() / "jobs" / "card.pdf")) << "the backs";
+  EXPECT_FALSE(fs::exists(place.path() / "jobs" / "card.pdf-2"));
 }
 
 TEST_F(PrintTaskTest, WhoLeavesTooEarlyHearsOfTheJob) {
