@@ -5,9 +5,11 @@
 
 namespace tavrin {
 
-void announce(QLabel& label) {
-  label.setAccessibleName(label.text());
-  QAccessibleEvent event(&label, QAccessible::Alert);
+void announce(QLabel& label) { announce(label, label.text()); }
+
+void announce(QWidget& widget, const QString& words) {
+  widget.setAccessibleName(words);
+  QAccessibleEvent event(&widget, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
 }
 

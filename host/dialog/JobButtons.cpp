@@ -13,6 +13,28 @@ namespace {
 
 constexpr int kSteps = 1000;
 
+QString sendingText(const PrintTask::Work& work) {
+  using Kind = PrintTask::Work::Kind;
+  const bool isOne = work.documents == 1;
+  const QString text = work.kind == Kind::sendingFronts
+                           ? (isOne ? JobButtons::tr("Sending the fronts…")
+                                    : JobButtons::tr("Sending the fronts of document %1 of %2…"))
+                       : work.kind == Kind::sendingBacks
+                           ? (isOne ? JobButtons::tr("Sending the backs…")
+                                    : JobButtons::tr("Sending the backs of document %1 of %2…"))
+                           : (isOne ? JobButtons::tr("Sending the document…")
+                                    : JobButtons::tr("Sending document %1 of %2…"));
+  return isOne ? text : text.arg(work.document).arg(work.documents);
+}
+
+QString workText(const PrintTask::Work& work) {
+  using Kind = PrintTask::Work::Kind;
+  if (work.kind == Kind::saving) return JobButtons::tr("Saving the PDF…");
+  if (work.kind != Kind::preparing) return sendingText(work);
+  return work.documents == 1 ? JobButtons::tr("Preparing the document…")
+                             : JobButtons::tr("Preparing the documents…");
+}
+
 }  // namespace
 
 JobButtons::JobButtons(PrintTask& theTask, QWidget* parent)
@@ -63,22 +85,28 @@ void JobButtons::addBesideHelp(QPushButton* button) {
   line->insertWidget(1, button);
 }
 
+QString JobButtons::printText() const {
+  if (task.stage() == PrintTask::Stage::done) return tr("&Done");
+  if (task.stage() == PrintTask::Stage::turning) return tr("&Print Backs");
+  return task.target() == PrintTask::Target::file ? tr("&Save…") : tr("&Print");
+}
+
 void JobButtons::showStage() {
   const bool isDone = task.stage() == PrintTask::Stage::done;
+  const bool isTurning = task.stage() == PrintTask::Stage::turning;
   for (QWidget* widget : std::initializer_list<QWidget*>{progressText, progressBar})
-    widget->setVisible(task.isSending());
+    widget->setVisible(task.isSending() && !isTurning);
   cancel->setVisible(!isDone);
-  const bool isFile = task.target() == PrintTask::Target::file;
-  print->setText(isDone ? tr("&Done") : isFile ? tr("&Save…") : tr("&Print"));
-  print->setEnabled(isDone || task.canPrint());
-  if (isDone) print->setFocus();
+  print->setText(printText());
+  print->setEnabled(isDone || isTurning || task.canPrint());
+  if (isDone || isTurning) print->setFocus();
   showProgress({});
 }
 
 // Where the size of the job is unknown, the bar only moves to and fro.
 void JobButtons::showProgress(const Progress& progress) {
   const bool isTakenBack = task.stage() == PrintTask::Stage::takingBack;
-  const QString text = isTakenBack ? tr("Taking the job back…") : tr("Sending the document…");
+  const QString text = isTakenBack ? tr("Taking the job back…") : workText(task.work());
   const bool isMeasured = !isTakenBack && progress.total > 0;
   progressText->setText(text);
   progressBar->setAccessibleName(text);

@@ -31,6 +31,7 @@ class JobButtons : public QWidget {
 
  private:
   void addButtons();
+  QString printText() const;
   void showStage();
   void showProgress(const Progress& progress);
 

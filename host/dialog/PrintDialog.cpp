@@ -22,6 +22,7 @@
 #include "host/dialog/SessionPanes.h"
 #include "host/dialog/SettingsColumn.h"
 #include "host/dialog/TaskNote.h"
+#include "host/dialog/TurnPage.h"
 #include "host/fields/LayoutPane.h"
 #include "host/general/GeneralArea.h"
 #include "host/panes/Widgets.h"
@@ -206,7 +207,19 @@ SummaryPane::Sections PrintDialog::allLines() const {
 
 void PrintDialog::showStage() {
   content->setEnabled(!task.isSending());
-  if (task.stage() == PrintTask::Stage::done) showResult();
+  if (task.stage() == PrintTask::Stage::done) return showResult();
+  if (task.stage() == PrintTask::Stage::turning) return showTurning();
+  pages->setCurrentWidget(column);
+}
+
+// Stays, once it has come up, and the settings come back between two documents.
+void PrintDialog::showTurning() {
+  if (!turnPage) {
+    turnPage = makeChild<TurnPage>(task, pages);
+    pages->addWidget(turnPage);
+  }
+  pages->setCurrentWidget(turnPage);
+  orderTabs({turnPage, preview, note, buttons});
 }
 
 // The settings have done their work; a stack keeps the window as large as it was.
@@ -226,6 +239,7 @@ void PrintDialog::showHelp() {
 }
 
 void PrintDialog::print() {
+  if (task.stage() == PrintTask::Stage::turning) return task.printBacks(turnPage->backOrder());
   if (QtToolkit* toolkit = QtToolkit::installed()) toolkit->settle();
   if (!isVisible()) return;  // it was left meanwhile
   if (!task.fields().pageRanges()) return general->focusPageRange();
@@ -243,7 +257,9 @@ void PrintDialog::save() {
 
 void PrintDialog::reject() {
   if (task.stage() == PrintTask::Stage::done) return accept();
-  if (task.stage() == PrintTask::Stage::printing) return task.cancel();
+  const bool isCancelled =
+      task.stage() == PrintTask::Stage::printing || task.stage() == PrintTask::Stage::turning;
+  if (isCancelled) return task.cancel();
   leave();
 }
 

@@ -24,6 +24,7 @@ class SessionPanes;
 class SettingsColumn;
 class TaskNote;
 class TaskPreview;
+class TurnPage;
 
 // The Print dialog: shows a task, and passes on to it what the person does. It can be shown at
 // once, whatever the task is still waiting for.
@@ -62,6 +63,7 @@ class PrintDialog : public QDialog {
   void showSession();
   void hideSession();
   void showStage();
+  void showTurning();
   void showResult();
   void showConflicts();
   void showHelp();
@@ -87,6 +89,7 @@ class PrintDialog : public QDialog {
   LayoutPane* layoutPane;
   SummaryPane* summaryPane;
   std::unique_ptr<SessionPanes> sessionPanes;
+  TurnPage* turnPage = nullptr;  // null before paper had to be turned
   HelpWindow* help = nullptr;
 };
 

@@ -11,6 +11,7 @@
 #include <QStyle>
 
 #include "host/dialog/Announcement.h"
+#include "host/dialog/Headline.h"
 #include "host/dialog/ShownSentence.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
@@ -18,8 +19,6 @@
 
 namespace tavrin {
 namespace {
-
-constexpr double kHeadlineScale = 1.4;  // of the usual text
 
 // A text that the person may want to copy, with the mouse or without one.
 QLabel* makeSelectable(const QString& text, QWidget* parent) {
@@ -58,7 +57,9 @@ void ResultPage::build() {
   grid->setSpacing(gap);
   grid->setColumnStretch(1, 1);
   grid->addWidget(makeIcon(report.isWarning), 0, 0);
-  grid->addWidget(makeHeadline(report.headline), 0, 1);
+  QLabel* headline = makeHeadline(report.headline, content);
+  headline->setObjectName("resultHeadline");
+  grid->addWidget(headline, 0, 1);
   grid->addWidget(text, 1, 1);
   grid->addWidget(makeDetails(), 2, 1);
   if (!report.folder.empty()) grid->addWidget(makeFolderButton(), 3, 1, Qt::AlignLeading);
@@ -72,17 +73,6 @@ QWidget* ResultPage::makeIcon(bool isWarning) {
   const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
   icon->setPixmap(style()->standardIcon(picture).pixmap(size));
   return icon;
-}
-
-QWidget* ResultPage::makeHeadline(const QString& words) {
-  QLabel* headline = makeTextLabel(content);
-  headline->setObjectName("resultHeadline");
-  QFont large = font();
-  large.setPointSizeF(large.pointSizeF() * kHeadlineScale);
-  large.setBold(true);
-  headline->setFont(large);
-  headline->setText(words);
-  return headline;
 }
 
 QWidget* ResultPage::makeDetails() {

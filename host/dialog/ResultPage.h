@@ -31,7 +31,6 @@ class ResultPage : public QScrollArea {
  private:
   void build();
   QWidget* makeIcon(bool isWarning);
-  QWidget* makeHeadline(const QString& words);
   QWidget* makeDetails();
   QWidget* makeFolderButton();
   void openFolder();

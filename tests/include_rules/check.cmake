@@ -55,8 +55,8 @@ room(host/fields         platform/text platform/qt/base ppd host/printer host/re
 room(host/general        platform/text platform/qt/base ppd host/printer host/request host/task
                          host/panes host/fields)
 room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
-                         platform/qt/toolkit ppd host/document host/prepare host/preview
-                         host/printer host/request host/panels host/task host/sheets host/panes
+                         platform/qt/toolkit ppd host/document host/request host/prepare
+                         host/preview host/printer host/panels host/task host/sheets host/panes
                          host/fields host/general)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
                          host/printer host/document host/request host/preview host/task host/dialog)
