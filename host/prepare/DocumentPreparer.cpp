@@ -45,6 +45,8 @@ QString whyNoPage(const DocumentFacts& document, const OptionList& options) {
 
 DocumentPreparer::DocumentPreparer(Preparation preparation, QObject* parent)
     : QObject(parent), wanted(std::move(preparation)) {
+  if (const OptString format = optionValue(wanted.options, kFormatOption))
+    for (DocumentFacts& document : wanted.documents) document.format = *format;
   if (goTogether(wanted.documents, wanted.options))
     batches.push_back(wanted.documents);
   else
@@ -61,8 +63,7 @@ void DocumentPreparer::prepareNext() {
 }
 
 void DocumentPreparer::prepare(const Batch& batch) {
-  DocumentFacts first = batch.front();
-  if (const OptString format = optionValue(wanted.options, kFormatOption)) first.format = *format;
+  const DocumentFacts& first = batch.front();
   const bool canBeLaidOut = isPDF(first.format) || isPicture(first.format) || isText(first.format);
   if (batch.size() == 1) {
     if (const QString why = whyNoPage(first, wanted.options); !why.isEmpty())

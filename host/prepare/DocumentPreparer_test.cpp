@@ -158,6 +158,15 @@ TEST_F(DocumentPreparerTest, LeavesEverythingToAPrinterThatTakesDocumentsAsTheyA
   EXPECT_EQ(only(wanted).options, (OptionList{{"scaling", "50"}}));
 }
 
+TEST_F(DocumentPreparerTest, TakesADocumentForWhatThePersonSaysThatItIs) {
+  const OptionList options{{"scaling", "50"}, {"document-format", "application/pdf"}};
+  Preparation wanted = wish({pdf("a.pdf", 3)}, options);
+  wanted.documents.front().format = "application/octet-stream";
+  const PreparedDocument sheets = only(wanted);
+  EXPECT_EQ(test::textsOf(sheets.file), (Pages{"F1", "F2", "F3"}));
+  EXPECT_EQ(optionValue(sheets.options, "document-format"), std::nullopt);
+}
+
 TEST_F(DocumentPreparerTest, SaysThatNoPageIsLeft) {
   EXPECT_EQ(complaint(wish({pdf("a.pdf", 3)}, {{"page-ranges", "4-9"}})),
             "“a.pdf” has 3 pages, none of which is to be printed. Choose other pages.");
