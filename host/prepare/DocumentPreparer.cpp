@@ -81,7 +81,7 @@ void DocumentPreparer::passOn(const DocumentFacts& document) {
   const OptionList options =
       isText(document.format) ? withTextMargins(wanted.options, wanted.paper) : wanted.options;
   done.push_back({document.document, document.file, document.format, options, document, nullptr});
-  prepareNext();
+  start();  // by way of the event loop, as there may be very many
 }
 
 void DocumentPreparer::layOutText(const DocumentFacts& text) {

@@ -167,6 +167,12 @@ TEST_F(DocumentPreparerTest, TakesADocumentForWhatThePersonSaysThatItIs) {
   EXPECT_EQ(optionValue(sheets.options, "document-format"), std::nullopt);
 }
 
+TEST_F(DocumentPreparerTest, PassesOnAnyNumberOfDocuments) {
+  Preparation wanted = wish({pdf("a.pdf", 1)});
+  wanted.documents.resize(20'000, wanted.documents.front());
+  EXPECT_EQ(prepared(wanted).size(), 20'000U);
+}
+
 TEST_F(DocumentPreparerTest, SaysThatNoPageIsLeft) {
   EXPECT_EQ(complaint(wish({pdf("a.pdf", 3)}, {{"page-ranges", "4-9"}})),
             "“a.pdf” has 3 pages, none of which is to be printed. Choose other pages.");
