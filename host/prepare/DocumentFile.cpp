@@ -26,7 +26,9 @@ Cancellable<Done> copy(Document& document, const fs::path& file, const CancelFla
   std::uint64_t room = kLargestCopy;
   const auto take = [&](std::span<const char> piece) -> Cancellable<Done> {
     if (piece.size() > room)
-      return Failure{"The document is too large for a preview. It can be printed all the same."};
+      return Failure{
+          "A document as large as this one is shown and laid out only where it is a file. Save it "
+          "as a file first, or print it without settings for its pages."};
     room -= piece.size();
     if (!stream.write(piece.data(), static_cast<std::streamsize>(piece.size())))
       return Failure{kNoRoom};
@@ -51,7 +53,9 @@ Cancellable<Found> find(const fs::path& path, const HiddenFolder* folder,
   // What the preview takes out of a pipe that has a name would be missing in the job.
   std::error_code none;
   if (path != kStandardInput && fs::is_fifo(path, none))
-    return Failure{"There is no preview of a document that can be read only once."};
+    return Failure{
+        "A document that can be read only once is neither shown nor laid out here. Save it as a "
+        "file first, or print it without settings for its pages."};
   auto document = Document::open(path, cancel);
   if (!document) return document.why();
   if (!folder) return Failure{kNoRoom};

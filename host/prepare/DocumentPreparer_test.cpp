@@ -206,6 +206,18 @@ TEST_F(DocumentPreparerTest, SaysWhyADocumentCannotBeLaidOut) {
   EXPECT_FALSE(isNothing);
 }
 
+TEST_F(DocumentPreparerTest, SaysWhyADocumentCannotBeRead) {
+  const fs::path pipe = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  Preparation once = wish({pipe});
+  EXPECT_EQ(only(once).document, pipe) << "it is the job that reads it";
+  once.documents.front().format = "application/pdf";
+  once.options = {{"scaling", "50"}};
+  EXPECT_EQ(complaint(once),
+            "A document that can be read only once is neither shown nor laid out here. Save it as "
+            "a file first, or print it without settings for its pages.");
+}
+
 TEST_F(DocumentPreparerTest, SaysThatADocumentIsGone) {
   const Preparation wanted = wish({pdf("a.pdf", 3)}, {{"scaling", "50"}});
   fs::remove(place.path() / "a.pdf");

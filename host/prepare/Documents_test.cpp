@@ -127,6 +127,21 @@ TEST_F(DocumentsTest, ADamagedDocumentMayStillBePrinted) {
   EXPECT_EQ(documents.all().front().problem, "");
 }
 
+// It comes once, and that is for the job.
+TEST_F(DocumentsTest, TakesNothingOutOfANamedPipe) {
+  const fs::path pipe = place.path() / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const int both = open(pipe.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+  ASSERT_EQ(write(both, "Dear Ada", 8), 8);
+  EXPECT_EQ(
+      problemOf(pipe),
+      "A document that can be read only once is neither shown nor laid out here. Save it as a "
+      "file first, or print it without settings for its pages.");
+  std::string there(9, ' ');
+  EXPECT_EQ(read(both, there.data(), there.size()), 8);
+  close(both);
+}
+
 TEST_F(DocumentsTest, LeavesNothingWhenItGoesInTheMiddle) {
   const fs::path temporary = place.path() / "temporary";
   fs::create_directory(temporary);
