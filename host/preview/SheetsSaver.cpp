@@ -96,11 +96,13 @@ void SheetsSaver::unite(const Sheets& sheets) {
 }
 
 void SheetsSaver::write(const fs::path& pdf) {
+  isWriting = true;
   background.run([=, this, file = target, existing = whatIsThere](const CancelFlag& cancel,
                                                                   const Background::Send& send) {
     const auto end = copyTo(pdf, file, existing, cancel);
     send([=, this] {
       made = {};
+      isWriting = false;
       if (end) return emit saved(file);
       if (end.cancelled()) return emit cancelled();
       emit failed(QString::fromStdString(end.reason()));
@@ -109,11 +111,11 @@ void SheetsSaver::write(const fs::path& pdf) {
 }
 
 void SheetsSaver::cancel() {
-  const bool isWriting = !made.documents.empty() && !command;
-  background.cancel();
+  if (isWriting) return background.cancel();
   maker.reset();
   command.reset();
-  if (!isWriting) QMetaObject::invokeMethod(this, &SheetsSaver::cancelled, Qt::QueuedConnection);
+  made = {};
+  QMetaObject::invokeMethod(this, &SheetsSaver::cancelled, Qt::QueuedConnection);
 }
 
 void SheetsSaver::fail(const QString& reason) {

@@ -43,6 +43,7 @@ class SheetsSaver : public QObject {
   Sheets made;  // holds the files that are being written
   std::shared_ptr<const HiddenFolder> folder;
   std::unique_ptr<LimitedCommand> command;
+  bool isWriting = false;  // the background will answer
   Background background;
 };
 

@@ -184,5 +184,41 @@ TEST_F(SheetsSaverTest, GivesUpWhileItMakesTheSheets) {
   EXPECT_EQ(names(), Names());
 }
 
+TEST_F(SheetsSaverTest, GivesUpWhileItPutsTheSheetsTogether) {
+  const fs::path temporary = place.path() / "temporary";
+  fs::create_directory(temporary);
+  const auto isUniting = [&] {
+    return std::ranges::any_of(fs::directory_iterator(temporary), [](const auto& folder) {
+      return fs::exists(folder.path() / "said");
+    });
+  };
+  const Preparation several = sheetsOf({1, 2});
+  setenv("TMPDIR", temporary.c_str(), 1);
+  start(several);
+  EXPECT_TRUE(eventually(isUniting));
+  saver.cancel();
+  EXPECT_EQ(end(), "cancelled ");
+  unsetenv("TMPDIR");
+  start(sheetsOf({1}));
+  saver.cancel();
+  EXPECT_EQ(end(), "cancelled ") << "the next one can be cancelled, too";
+  EXPECT_EQ(names(), Names());
+}
+
+// It may be too late by then.
+TEST_F(SheetsSaverTest, AnswersOnceWhereItGivesUpWhileItWrites) {
+  for (const std::vector<int>& documents : {std::vector{2}, std::vector{1, 1}}) {
+    start(sheetsOf(documents));
+    while (diary.empty() && names().empty()) QCoreApplication::processEvents();
+    if (diary.empty()) saver.cancel();
+    const bool isSaved = end() == "saved ";
+    EXPECT_EQ(diary, isSaved ? "saved " : "cancelled ");
+    EXPECT_EQ(names(), isSaved ? Names{"sheets.pdf"} : Names());
+    start(sheetsOf({1}), Existing::isReplaced);
+    EXPECT_EQ(end(), "saved ") << "the answers of the one before have all come";
+    fs::remove(file);
+  }
+}
+
 }  // namespace
 }  // namespace tavrin
