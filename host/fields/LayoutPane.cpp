@@ -34,10 +34,10 @@ void LayoutPane::addRows() {
   addScalingRow();
   addPopUp(kPositionOption, tr("Position"), tr("Pos&ition:"));
   addPopUp(kPagesPerSheetOption, tr("Pages per Sheet"), tr("Pages per &Sheet:"));
+  addSwitch(kBookletOption, tr("Booklet"), tr("Boo&klet"));
   addPopUp(kOrderOnSheetOption, tr("Sequence"), tr("Se&quence:"));
   addPopUp(kBorderOption, tr("Border"), tr("&Border:"));
   addSwitch(kTogetherOption, tr("Pictures Together"), tr("Pict&ures together on sheets"));
-  addSwitch(kBookletOption, tr("Booklet"), tr("Boo&klet"));
   connect(findChild<FieldSwitch*>(kBookletOption), &FieldSwitch::clicked, this,
           &LayoutPane::followBooklet);
 }

@@ -34,7 +34,6 @@ ScalingControl::ScalingControl(JobFields& theFields, const QString& name, QWidge
   percent->setAccessibleName(tr("Size in percent"));
   percent->setRange(1, kMostPercent);
   percent->setSuffix(tr(" %", "behind a number"));
-  percent->setKeyboardTracking(false);
   layOut();
   refresh();
   connectParts();

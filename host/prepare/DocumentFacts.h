@@ -16,8 +16,9 @@ struct DocumentFacts {
   // The first page as a reader shows it, in points; 0 where nobody knows.
   double width = 0;
   double height = 0;
-  bool isPortrait = true;    // no page is wider than high
-  bool isTurned = false;     // a picture that its camera wants turned
+  bool isPortrait = true;                        // no page is wider than high
+  bool isStoredOtherwise = false;                // a reader turns the picture, or cuts the pages
+  std::filesystem::file_time_type changed = {};  // when, as far as it is known
   std::string problem = {};  // why commands cannot read it, in a sentence; empty when they can
 
   bool operator==(const DocumentFacts&) const = default;

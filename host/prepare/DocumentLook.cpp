@@ -54,7 +54,7 @@ void DocumentLook::read() {
     facts.width = length(seen, "width");
     facts.height = length(seen, "height");
     facts.isPortrait = seen.value("portrait", true);
-    facts.isTurned = seen.value("turned", false);
+    facts.isStoredOtherwise = seen.value("storedOtherwise", false);
   } catch (const nlohmann::json::exception&) {
     // It answers with what it was made to answer with; anything else tells nothing.
   }

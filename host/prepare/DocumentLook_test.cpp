@@ -50,7 +50,7 @@ TEST_F(DocumentLookTest, CountsAndMeasuresThePagesOfAPDF) {
   EXPECT_EQ(facts.width, 612);
   EXPECT_EQ(facts.height, 792);
   EXPECT_TRUE(facts.isPortrait);
-  EXPECT_FALSE(facts.isTurned);
+  EXPECT_FALSE(facts.isStoredOtherwise);
 }
 
 TEST_F(DocumentLookTest, NoticesAPageThatIsWiderThanHigh) {
@@ -65,10 +65,10 @@ TEST_F(DocumentLookTest, SeesAPictureAsItsCameraWants) {
   const DocumentFacts stored = seen("image/jpeg", test::jpegStoredAs(1, wide));
   EXPECT_EQ(stored.pages, 1);
   EXPECT_FALSE(stored.isPortrait);
-  EXPECT_FALSE(stored.isTurned);
+  EXPECT_FALSE(stored.isStoredOtherwise);
   const DocumentFacts turned = seen("image/jpeg", test::jpegStoredAs(6, wide));
   EXPECT_TRUE(turned.isPortrait);
-  EXPECT_TRUE(turned.isTurned);
+  EXPECT_TRUE(turned.isStoredOtherwise);
   EXPECT_GT(turned.height, turned.width);
 }
 

@@ -68,7 +68,8 @@ void DocumentPreparer::prepare(const Batch& batch) {
   if (batch.size() == 1) {
     if (const QString why = whyNoPage(first, wanted.options); !why.isEmpty())
       return emit nothingLeft(why);
-    const bool mustBe = mustBeImposed(first, wanted.options) || wanted.wholeSheets;
+    const bool mustBe = mustBeImposed(first, wanted.options) || wanted.wholeSheets ||
+                        (wanted.keepsPictures && isPicture(first.format));
     if (wanted.ppd.empty() || !canBeLaidOut || !mustBe) return passOn(first);
   }
   if (!first.problem.empty()) return fail(shown(first.problem));

@@ -23,6 +23,8 @@ struct Preparation {
   OptionList options = {};   // of the job, all of them
   std::string title = {};    // of the job, which some filters print; empty: each document's name
   bool wholeSheets = false;  // an even number of sides for each document
+  // Pictures stay as they are stored: for a file that somebody keeps, not for a printer.
+  bool keepsPictures = false;
 
   bool operator==(const Preparation&) const = default;
 };

@@ -1,5 +1,7 @@
 #include "host/prepare/DocumentPreparer.h"
 
+#include "host/prepare/Imposition.h"
+
 #include <optional>
 #include <sys/stat.h>
 
@@ -94,7 +96,7 @@ TEST_F(DocumentPreparerTest, PutsTheChosenPagesOfAPDFOnSheets) {
   EXPECT_EQ(test::textsOf(sheets.file), (Pages{"F2 F3", "F4 F5"}));
   EXPECT_EQ(sheets.document, place.path() / "a.pdf") << "which has given it its name";
   EXPECT_EQ(sheets.format, "application/pdf");
-  EXPECT_EQ(sheets.options, (OptionList{{"number-up", "1"}, {"print-scaling", "none"}}));
+  EXPECT_EQ(sheets.options, optionsOnceImposed({}));
   EXPECT_EQ(sheets.facts.pages, 8) << "the person's document";
   ASSERT_TRUE(sheets.folder);
   EXPECT_EQ(sheets.file.parent_path(), sheets.folder->path());

@@ -1,6 +1,21 @@
 #include "host/prepare/Documents.h"
 
+#include <algorithm>
+
 namespace tavrin {
+
+namespace {
+
+// Standard input has no such time, and does not change.
+std::filesystem::file_time_type timeOfChange(const DocumentFacts& facts) {
+  std::error_code none;
+  return facts.document == kStandardInput ? std::filesystem::file_time_type()
+                                          : std::filesystem::last_write_time(facts.document, none);
+}
+
+bool hasChanged(const DocumentFacts& facts) { return timeOfChange(facts) != facts.changed; }
+
+}  // namespace
 
 void Documents::add(const std::vector<std::filesystem::path>& documents) {
   const bool wasDone = isLooking && areKnown();
@@ -12,6 +27,13 @@ void Documents::dropFirst(std::size_t count) {
   facts.erase(facts.begin(), facts.begin() + static_cast<std::ptrdiff_t>(count));
   files.erase(files.begin(), files.begin() + static_cast<std::ptrdiff_t>(count));
   known -= count;
+}
+
+void Documents::lookAgain() {
+  if (!areKnown() || std::ranges::none_of(facts, hasChanged)) return;
+  files.clear();
+  known = 0;
+  lookAtNext();
 }
 
 void Documents::look() {
@@ -41,7 +63,8 @@ void Documents::lookAtNext() {
 }
 
 void Documents::take(const DocumentFacts& seen) {
-  facts[known++] = seen;
+  DocumentFacts& taken = facts[known++] = seen;
+  taken.changed = timeOfChange(taken);
   lookAtNext();
 }
 

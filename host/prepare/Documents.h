@@ -24,6 +24,8 @@ class Documents : public QObject {
   void add(const std::vector<std::filesystem::path>& documents);
   // Forgets the first ones; they have all been looked at.
   void dropFirst(std::size_t count);
+  // Looks at all of them again if one has changed since it was looked at.
+  void lookAgain();
   // Looks at them, one after the other; does nothing when that has begun.
   void look();
 

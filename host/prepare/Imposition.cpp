@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <utility>
 
 #include "host/request/JobOptions.h"
 #include "platform/text/IgnoringCase.h"
+#include "ppd/PPDKeywords.h"
 
 namespace tavrin {
 
@@ -26,6 +28,13 @@ constexpr std::array kPictures{"image/jpeg",
                                "image/x-portable-bitmap",
                                "image/x-portable-graymap",
                                "image/x-portable-pixmap"};
+
+// A queue's defaults must not lay the sheets out again.
+constexpr std::array kNothingToDo{
+    std::pair{kPageRangesOption, "1-"},   std::pair{kPageSetOption, "all"},
+    std::pair{kPagesPerSheetOption, "1"}, std::pair{kBorderOption, "none"},
+    std::pair{kBookletOption, "false"},   std::pair{kOrientationOption, "3"},
+    std::pair{kFitOption, "none"},        std::pair{kPositionOption, "center"}};
 
 constexpr char kTextMargin[] = "36";  // points
 
@@ -48,8 +57,21 @@ bool hasSeveralPagesOnASheet(const OptionList& options) {
   return isOther(options, kPagesPerSheetOption, {"1"}) || isBooklet(options);
 }
 
+bool hasPageRange(const OptionList& options) { return isOther(options, kPageRangesOption, {}); }
+
+bool hasPageSet(const OptionList& options) { return isOther(options, kPageSetOption, {"all"}); }
+
 bool choosesPages(const OptionList& options) {
-  return isOther(options, kPageRangesOption, {}) || isOther(options, kPageSetOption, {"all"});
+  return hasPageRange(options) || hasPageSet(options);
+}
+
+bool hasBorder(const OptionList& options) { return isOther(options, kBorderOption, {"none"}); }
+
+// The filters cut paper of the person's own size down to a picture.
+bool isOnOwnPaper(const OptionList& options) {
+  for (const char* name : {kPageSizeKey, kPaperOption})
+    if (optionValue(options, name).value_or("").starts_with("Custom.")) return true;
+  return false;
 }
 
 bool hasOrientation(const OptionList& options) {
@@ -76,7 +98,10 @@ bool isPositionedAndFitted(const OptionList& options) {
 
 // The filters count sheets, and lose the order of pages that are wider than high.
 bool mustPDFBeImposed(const DocumentFacts& document, const OptionList& options) {
+  if (document.isStoredOtherwise) return true;
   if (isScaled(options) || isPositionedAndFitted(options)) return true;
+  // The filters pick every second of the pages that a range has left.
+  if (hasPageRange(options) && hasPageSet(options)) return true;
   if (hasOrientation(options) && !isPortraitAnyway(document, options)) return true;
   return hasSeveralPagesOnASheet(options) &&
          (choosesPages(options) || isPositioned(options) || !document.isPortrait);
@@ -90,9 +115,10 @@ bool isEnlarged(const OptionList& options) {
 
 // The filters take pictures as they are, one on a sheet.
 bool mustPictureBeImposed(const DocumentFacts& document, const OptionList& options) {
-  return document.isTurned || document.pages > 1 ||
+  return document.isStoredOtherwise || document.pages > 1 ||
          std::ranges::find(kPictures, document.format) == kPictures.end() ||
          hasOrientation(options) || hasSeveralPagesOnASheet(options) || isEnlarged(options) ||
+         hasBorder(options) || isOnOwnPaper(options) ||
          (choosesPages(options) && document.pages != 1);
 }
 
@@ -127,9 +153,8 @@ bool isForImposer(const std::string& name) {
 
 OptionList optionsOnceImposed(OptionList options) {
   std::erase_if(options, [](const auto& option) { return isForImposer(option.first); });
-  removeOption(options, kFormatOption);
-  setOption(options, kPagesPerSheetOption, "1");
-  setOption(options, kFitOption, "none");
+  for (const char* done : {kFormatOption, kTogetherOption}) removeOption(options, done);
+  for (const auto& [name, value] : kNothingToDo) setOption(options, name, value);
   return options;
 }
 

@@ -109,7 +109,7 @@ TEST(Imposition, BringsPicturesIntoAFormatThatTheFiltersRead) {
 
 TEST(Imposition, TurnsPicturesAsTheirCameraWants) {
   DocumentFacts turned = picture();
-  turned.isTurned = true;
+  turned.isStoredOtherwise = true;
   EXPECT_TRUE(mustBeImposed(turned, {}));
 }
 
@@ -155,11 +155,18 @@ TEST(Imposition, WhatIsDoneIsNotDoneAgain) {
                            {"document-format", "image/jpeg"},
                            {"outputorder", "reverse"},
                            {"copies", "2"}};
+  // What a queue does by default is not done either.
   EXPECT_EQ(optionsOnceImposed(options), (OptionList{{"Mirror", "True"},
                                                      {"outputorder", "reverse"},
                                                      {"copies", "2"},
+                                                     {"page-ranges", "1-"},
+                                                     {"page-set", "all"},
                                                      {"number-up", "1"},
-                                                     {"print-scaling", "none"}}));
+                                                     {"page-border", "none"},
+                                                     {"booklet", "false"},
+                                                     {"orientation-requested", "3"},
+                                                     {"print-scaling", "none"},
+                                                     {"position", "center"}}));
 }
 
 TEST(Imposition, ATextIsWrittenInItsOrientationFirst) {

@@ -99,13 +99,18 @@ void LimitedCommand::connectProcess() {
     killAll();  // what it has left behind
     if (how == QProcess::NormalExit) exitStatus = status;
     const bool isWell = how == QProcess::NormalExit && status == 0;
-    emit ended(isSlow ? End::slow : isWell ? End::well : End::failed);
+    end(isSlow ? End::slow : isWell ? End::well : End::failed);
   };
   const auto tellFailure = [this](QProcess::ProcessError error) {
-    if (error == QProcess::FailedToStart) emit ended(End::failed);
+    if (error == QProcess::FailedToStart) end(End::failed);
   };
   connect(&process, &QProcess::finished, this, tellEnd, Qt::QueuedConnection);
   connect(&process, &QProcess::errorOccurred, this, tellFailure, Qt::QueuedConnection);
+}
+
+// A process that cannot be started may say so twice.
+void LimitedCommand::end(End how) {
+  if (!std::exchange(hasEnded, true)) emit ended(how);
 }
 
 LimitedCommand::~LimitedCommand() {

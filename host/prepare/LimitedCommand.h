@@ -57,12 +57,14 @@ class LimitedCommand : public QObject {
   static constexpr int kNoStatus = 128;
 
   void connectProcess();
+  void end(End end);
   void killAll();
 
   QProcess process;
   QTimer clock;
   pid_t group = 0;  // of its processes, while they are at work
   bool isSlow = false;
+  bool hasEnded = false;
   int exitStatus = kNoStatus;
 };
 

@@ -140,7 +140,7 @@ TEST_F(PreviewTest, SaysWhenNothingComesOut) {
 TEST_F(PreviewTest, SaysWhyThereIsNoPicture) {
   document = place.write("broken.pdf", "%PDF-1.4\nno more");
   EXPECT_EQ(outcome(job()),
-            "The document could not be laid out for a preview: it is damaged, or too large.");
+            "“broken.pdf” could not be laid out: it is damaged, protected, or too large.");
 }
 
 TEST_F(PreviewTest, ShowsWhatAPrinterGetsBehindWordsInItsOwnLanguage) {
@@ -164,7 +164,7 @@ TEST_F(PreviewTest, SaysThatTheDocumentHasGone) {
   fs::remove(document);
   preview.show(job({{"number-up", "4"}}));
   EXPECT_TRUE(reaches(Stage::failed));
-  EXPECT_EQ(preview.problem().toStdString(), "The document is no longer there.");
+  EXPECT_EQ(preview.problem().toStdString(), "The document “pages.pdf” is no longer there.");
 }
 
 TEST_F(PreviewTest, RunsNoPrograms) {

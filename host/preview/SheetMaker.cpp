@@ -105,14 +105,14 @@ void SheetMaker::lookAtSheets() {
 }
 
 void SheetMaker::complain(LimitedCommand::End end) {
+  const QString name = QString::fromStdString(nameInWords(document().document));
   std::error_code none;
   if (!std::filesystem::exists(document().file, none))
-    return emit failed(tr("The document is no longer there."));
-  emit failed(end == LimitedCommand::End::slow
-                  ? tr("Laying the document out takes too long for a preview. It can be printed "
-                       "all the same.")
-                  : tr("The document could not be laid out for a preview: it is damaged, or too "
-                       "large."));
+    return emit failed(tr("The document “%1” is no longer there.").arg(name));
+  emit failed((end == LimitedCommand::End::slow
+                   ? tr("Laying “%1” out takes too long here. The print server may still print it.")
+                   : tr("“%1” could not be laid out: it is damaged, protected, or too large."))
+                  .arg(name));
 }
 
 }  // namespace tavrin

@@ -44,7 +44,10 @@ bool copyInto(DurableFile& copy, const FileDescriptor& original, const CancelFla
 // A name that is taken stays its file's, whoever made it and however short a time ago.
 bool publish(const fs::path& copy, const fs::path& target, Existing existing) {
   if (existing == Existing::isReplaced) return rename(copy.c_str(), target.c_str()) == 0;
-  return renameat2(AT_FDCWD, copy.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0;
+  if (renameat2(AT_FDCWD, copy.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0)
+    return true;
+  // Some file systems of other computers do not know that; a second name does the same there.
+  return errno == EINVAL && link(copy.c_str(), target.c_str()) == 0;
 }
 
 Cancellable<Done> copyTo(const fs::path& pdf, const fs::path& target, Existing existing,

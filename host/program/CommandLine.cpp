@@ -92,6 +92,8 @@ std::string disagreement(const QCommandLineParser& parser) {
     return "--output needs --ppd or --sample: other jobs go to a print queue.";
   if (parser.isSet(kSave) && parser.isSet(kOutput))
     return "Only one of --save and --output can be given.";
+  if (parser.isSet(kSave) && parser.positionalArguments().isEmpty())
+    return "--save needs a document: name a file, or - for standard input.";
   if (parser.isSet(kSave) != parser.isSet(kNoDialog))
     return "--no-dialog and --save FILE need each other. To print without a dialog, use lp.";
   return {};

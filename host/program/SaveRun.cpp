@@ -18,7 +18,9 @@ void SaveRun::follow() {
     case PrintTask::Stage::ready:
       if (std::exchange(isAsked, true)) return emit ended();
       complain();
-      return task.saveAs(file, SheetsSaver::Existing::stays);
+      task.saveAs(file, SheetsSaver::Existing::stays);
+      if (task.canPrint()) emit ended();  // the settings are not possible
+      return;
     case PrintTask::Stage::noPrinters:
     case PrintTask::Stage::choosing:
     case PrintTask::Stage::failed:

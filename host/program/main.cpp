@@ -120,11 +120,13 @@ int runWithoutDialog(const CommandLine& line, const SharedPPD& ppd) {
   PrintTask task(line.job);
   task.addDocuments(line.furtherDocuments);
   begin(task, line, ppd);
+  const EndSignals endSignals([] { QCoreApplication::quit(); });
   SaveRun run(task, line.save);
   QObject::connect(&run, &SaveRun::ended, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
   QCoreApplication::exec();
   if (task.outcome() != PrintTask::Outcome::cancelled) return report(task);
-  return complain(kNotPrinted, shownLines(task.notice().text).toStdString());
+  const std::string why = task.notice().text;
+  return complain(kNotPrinted, why.empty() ? "Nothing was saved." : shownLines(why).toStdString());
 }
 
 // Qt's remarks about a screen that is none are of no use to anybody.

@@ -44,6 +44,7 @@ void JobFields::tellSuggestion(int pagesPerSheetBefore) {
 
 void JobFields::setCopies(int copies) {
   copiesField = {possibleCopies(copies), true};
+  followChoices();
   emit changed();
 }
 
@@ -84,7 +85,9 @@ void JobFields::setDocumentPages(int pages) {
 }
 
 void JobFields::setSeveralPictures(bool several) {
-  if (std::exchange(severalPictures, several) != several) tellSuggestion(pagesPerSheet());
+  if (std::exchange(severalPictures, several) == several) return;
+  followChoices();
+  tellSuggestion(pagesPerSheet());
 }
 
 // --- Settings of the table ---
@@ -103,7 +106,19 @@ void JobFields::setValue(const std::string& option, const std::string& value) {
   if (!meant) return;
   const int before = pagesPerSheet();
   settings[option] = {*meant, true};
+  followChoices();
   tellChoice(before);
+}
+
+// What goes with what was chosen: a person who wants copies wants sets, and several on a sheet
+// means several pictures. What options ask for, or the person has set, is left alone.
+void JobFields::followChoices() {
+  const auto follow = [this](const char* option, bool isWanted, const char* value) {
+    if (optionValue(given, option)) return;
+    take(settings[option], isWanted ? std::string(value) : findJobSetting(option)->usual());
+  };
+  follow(kCollateOption, copiesField.byHand && copies() > 1, kCollated);
+  follow(kTogetherOption, severalPictures && pagesPerSheet() > 1, kTogether);
 }
 
 bool JobFields::suggestValue(const std::string& option, const std::string& value) {
@@ -180,6 +195,7 @@ QString JobFields::suggest(const JobRequest& request, const OptionList& options)
   given = inFirstNames(options);
   suggestPages(request, given);
   const QStringList problems = suggestSettings(given);
+  followChoices();
   tellSuggestion(before);
   return problems.join(' ');
 }

@@ -99,6 +99,7 @@ class JobFields : public QObject {
 
   template <class T>
   static void take(Field<T>& field, T value);
+  void followChoices();
   void tellSuggestion(int pagesPerSheetBefore);
   void tellChoice(int pagesPerSheetBefore);
   const Setting& setting(const std::string& option) const;

@@ -114,7 +114,7 @@ TEST_F(JobSequenceTest, SendsWhatHasBeenMadeReady) {
   run(order({pdf("a.pdf", 8)}, {{"number-up", "2"}, {"page-ranges", "2-5"}}), "finished");
   EXPECT_EQ(test::textsOf(output / "a.pdf" / "a.pdf"), (Pages{"F2 F3", "F4 F5"}));
   EXPECT_EQ(optionOf("a.pdf", "number-up"), "1");
-  EXPECT_EQ(optionOf("a.pdf", "page-ranges"), "");
+  EXPECT_EQ(optionOf("a.pdf", "page-ranges"), "1-") << "all of the sheets";
   EXPECT_EQ(report.folder, output / "a.pdf");
 }
 

@@ -51,6 +51,10 @@ PrintTask::PrintTask(JobRequest request, QObject* parent)
   connectDocuments();
   connectSequence();
   connect(&jobFields, &JobFields::changed, this, &PrintTask::optionsChanged);
+  // What was wrong with the settings may be right with others.
+  connect(this, &PrintTask::optionsChanged, this, [this] {
+    if (std::exchange(isRefused, false) && canPrint()) tell({});
+  });
   connect(&jobFields, &JobFields::pagesPerSheetChanged, this, [this](int pages) {
     if (session()) session()->setPagesPerSheet(pages);
   });
@@ -316,6 +320,7 @@ void PrintTask::doOnceKnown(std::function<void()> work) {
     return warn(problem);
   tell({});
   enter(Stage::printing);
+  papers.lookAgain();
   if (papers.areKnown()) return work();
   waiting = std::move(work);
   papers.look();
@@ -357,6 +362,7 @@ Preparation PrintTask::preparation() const {
   wanted.ppd = sourceOf(session()->sharedPPD());
   wanted.paper = markedPaper(session()->ppd());
   wanted.wholeSheets = needsTwoPasses(wanted.options);
+  wanted.keepsPictures = where == Target::file;
   return wanted;
 }
 
@@ -431,6 +437,7 @@ void PrintTask::giveBack(const QString& bareFronts) {
 void PrintTask::refuse(const QString& reason) {
   enter(Stage::ready);
   warn(reason.toStdString());
+  isRefused = true;
 }
 
 void PrintTask::fail(const QString& reason, WayOut wayOut) {

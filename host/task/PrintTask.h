@@ -212,6 +212,7 @@ class PrintTask : public QObject {
   JobSequence sequence;
   SheetsSaver saver;
   bool isSaving = false;          // what is on its way is a file
+  bool isRefused = false;         // what the notice says is about the settings
   std::function<void()> waiting;  // what to do when the documents are known; empty for nothing
   Outcome end = Outcome::cancelled;
   std::optional<JobReport> arrivedJob;

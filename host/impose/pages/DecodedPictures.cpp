@@ -5,9 +5,9 @@
 
 namespace tavrin {
 
-bool DecodedPictures::isTurned() const {
+bool DecodedPictures::isStoredOtherwise() const {
   for (int frame = 0; frame < frames->count(); ++frame)
-    if (frames->shape(frame).isTurned()) return true;
+    if (frames->shape(frame).isStoredOtherwise()) return true;
   return false;
 }
 

@@ -16,7 +16,7 @@ class DecodedPictures : public PageSource {
 
   int count() const override { return frames->count(); }
   PageLook look(int page) const override { return frames->shape(page).look(); }
-  bool isTurned() const override;
+  bool isStoredOtherwise() const override;
   Drawing draw(int page, QPDF& output) override;
 
  private:

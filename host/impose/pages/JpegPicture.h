@@ -17,7 +17,7 @@ class JpegPicture : public PageSource {
 
   int count() const override { return 1; }
   PageLook look(int) const override { return header.shape.look(); }
-  bool isTurned() const override { return header.shape.isTurned(); }
+  bool isStoredOtherwise() const override { return header.shape.isStoredOtherwise(); }
   Drawing draw(int page, QPDF& output) override;
 
  private:

@@ -1,5 +1,6 @@
 #include "host/impose/pages/PDFPages.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "host/impose/pages/Layers.h"
@@ -12,6 +13,7 @@ namespace tavrin {
 namespace {
 
 constexpr Rect kUsualBox{0, 0, 612, 792};
+constexpr double kCrop = 1;             // points; less is rounding
 constexpr double kLargestLength = 1e6;  // points
 
 bool isSound(const Rect& box) {
@@ -26,11 +28,21 @@ Rect boxOf(QPDFObjectHandle array, const Rect& fallback) {
   return isSound(box) ? box : fallback;
 }
 
+Rect mediaBox(QPDFPageObjectHelper page) {
+  return boxOf(page.getAttribute("/MediaBox", false), kUsualBox);
+}
+
 // What readers show: the crop box as far as there is paper.
 Rect shownBox(QPDFPageObjectHelper page) {
-  const Rect media = boxOf(page.getAttribute("/MediaBox", false), kUsualBox);
+  const Rect media = mediaBox(page);
   const Rect both = common(media, boxOf(page.getAttribute("/CropBox", false), media));
   return isSound(both) ? both : media;
+}
+
+bool isCropped(const QPDFPageObjectHelper& page) {
+  const Size shown = shownBox(page).size();
+  const Size whole = mediaBox(page).size();
+  return whole.width - shown.width > kCrop || whole.height - shown.height > kCrop;
 }
 
 // Clockwise, as the page has it.
@@ -87,6 +99,9 @@ void fillIn(QPDF& pdf, const std::vector<QPDFPageObjectHelper>& pages) {
 PDFPages::PDFPages(const std::filesystem::path& file) try {
   pdf.setSuppressWarnings(true);
   pdf.processFile(file.c_str());
+  if (!pdf.allowPrintLowRes())
+    throw Trouble(Status::locked, "The document " + quoted(file.string()) +
+                                      " must not be printed, as whoever made it wants it.");
   pages = QPDFPageDocumentHelper(pdf).getAllPages();
 } catch (const QPDFExc& problem) {
   explain(problem, file);
@@ -101,6 +116,8 @@ PageLook PDFPages::look(int page) const {
   const Size size{box.width * unit, box.height * unit};
   return {quarterTurns(pages[page]) % 2 == 0 ? size : onItsSide(size)};
 }
+
+bool PDFPages::isStoredOtherwise() const { return std::ranges::any_of(pages, isCropped); }
 
 // Once, and only when pages are drawn: it changes them.
 void PDFPages::prepare(QPDF& output) {

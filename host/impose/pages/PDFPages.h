@@ -17,6 +17,7 @@ class PDFPages : public PageSource {
 
   int count() const override { return static_cast<int>(pages.size()); }
   PageLook look(int page) const override;
+  bool isStoredOtherwise() const override;
   Drawing draw(int page, QPDF& output) override;
 
  private:

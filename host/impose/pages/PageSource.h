@@ -19,8 +19,9 @@ class PageSource {
 
   virtual int count() const = 0;
   virtual PageLook look(int page) const = 0;
-  // Whether the pages are pictures that are stored in another position than they are shown in.
-  virtual bool isTurned() const { return false; }
+  // Whether the pages are stored otherwise than a reader shows them: a picture in another position,
+  // a page with more around it.
+  virtual bool isStoredOtherwise() const { return false; }
   // Makes the page part of the output. The source must live until the output is written.
   virtual Drawing draw(int page, QPDF& output) = 0;
 };

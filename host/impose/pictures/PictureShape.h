@@ -13,7 +13,7 @@ struct PictureShape {
   int orientation = 1;  // from 1 to 8, as in Exif
   Density density;      // as stored
 
-  bool isTurned() const { return orientation != 1; }
+  bool isStoredOtherwise() const { return orientation != 1; }
   PageLook look() const;
   // Takes the stored picture, as the unit square, to the one that is shown.
   Matrix matrix() const;

@@ -233,12 +233,15 @@ TEST_F(ImposeTest, ChoosesPagesThroughAllDocuments) {
 TEST_F(ImposeTest, LooksAtADocument) {
   ASSERT_EQ(run("--look" + pdf("a.pdf", numberedPDF(3))), 0);
   EXPECT_EQ(output(),
-            "{\"pages\":3,\"width\":612.0,\"height\":792.0,\"portrait\":true,\"turned\":false}\n");
+            "{\"pages\":3,\"width\":612.0,\"height\":792.0,\"portrait\":true,\"storedOtherwise\":"
+            "false}\n");
   const QImage wide = fourCorners(400, 200);
   ASSERT_EQ(run("--look" + image("a.jpg", test::jpegStoredAs(6, wide))), 0);
-  EXPECT_NE(output().find("\"portrait\":true,\"turned\":true"), std::string::npos) << output();
+  EXPECT_NE(output().find("\"portrait\":true,\"storedOtherwise\":true"), std::string::npos)
+      << output();
   ASSERT_EQ(run("--look" + image("a.jpg", test::encoded(wide, "jpeg"))), 0);
-  EXPECT_NE(output().find("\"portrait\":false,\"turned\":false"), std::string::npos) << output();
+  EXPECT_NE(output().find("\"portrait\":false,\"storedOtherwise\":false"), std::string::npos)
+      << output();
 }
 
 std::string locked(const std::string& password) {

@@ -31,7 +31,7 @@ std::unique_ptr<PageSource> open(const NamedDocument& document) {
 
 std::string description(const NamedDocument& document) {
   auto source = open(document);
-  const bool isTurned = source->isTurned();
+  const bool isStoredOtherwise = source->isStoredOtherwise();
   DocumentPages pages;
   pages.add(std::move(source));
   const auto isPortrait = [](const PageLook& page) { return page.size.height >= page.size.width; };
@@ -41,7 +41,7 @@ std::string description(const NamedDocument& document) {
   text["width"] = size.width;
   text["height"] = size.height;
   text["portrait"] = std::ranges::all_of(pages.looks(), isPortrait);
-  text["turned"] = isTurned;
+  text["storedOtherwise"] = isStoredOtherwise;
   return text.dump() + "\n";
 }
 
