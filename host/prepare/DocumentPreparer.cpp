@@ -1,5 +1,6 @@
 #include "host/prepare/DocumentPreparer.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "host/document/DocumentName.h"
@@ -25,6 +26,15 @@ constexpr LimitedCommand::Limits kImposerLimits{std::chrono::seconds(120), std::
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 QString nameOf(const DocumentFacts& document) { return shown(nameInWords(document.document)); }
+
+// The first one, with the pages of all.
+DocumentFacts inOne(const std::vector<DocumentFacts>& documents) {
+  DocumentFacts all = documents.front();
+  const auto isKnown = [](const DocumentFacts& document) { return document.pages > 0; };
+  for (std::size_t next = 1; next < documents.size(); ++next) all.pages += documents[next].pages;
+  if (!std::ranges::all_of(documents, isKnown)) all.pages = 0;
+  return all;
+}
 
 }  // namespace
 
@@ -110,11 +120,13 @@ void DocumentPreparer::impose(const Batch& batch) {
 }
 
 void DocumentPreparer::take(int status) {
-  const DocumentFacts& first = batches[done.size()].front();
+  const Batch& batch = batches[done.size()];
+  const DocumentFacts& first = batch.front();
   if (status != 0)
     return complain(first, hasRoom(folder->path()) ? status : int(Imposed::cannotWrite));
   done.push_back({first.document, folder->path() / kPreparedFile, kPDF,
-                  optionsOnceImposed(wanted.options), first, std::exchange(folder, nullptr)});
+                  optionsOnceImposed(wanted.options), inOne(batch),
+                  std::exchange(folder, nullptr)});
   prepareNext();
 }
 

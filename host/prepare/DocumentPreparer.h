@@ -35,7 +35,7 @@ struct PreparedDocument {
   std::filesystem::path file;      // what commands read of it; empty where there is none
   std::string format;              // of the file
   OptionList options;              // that it is sent with
-  DocumentFacts facts = {};        // of the person's document
+  DocumentFacts facts = {};        // of the person's document; of several, the pages of all
   // Holds the file where the document has been changed; null where it goes as it is.
   std::shared_ptr<const HiddenFolder> folder = {};
 };

@@ -145,6 +145,7 @@ TEST_F(DocumentPreparerTest, PicturesGoTogetherOnSheets) {
                 {{"multiple-document-handling", "single-document"}, {"number-up", "2"}}));
   EXPECT_EQ(sheets.document.filename(), "a.ppm");
   EXPECT_EQ(test::textsOf(sheets.file), (Pages{"", ""})) << "two of three, and one";
+  EXPECT_EQ(sheets.facts.pages, 3);
 }
 
 TEST_F(DocumentPreparerTest, FillsTheLastSheetWhereItHasTwoSides) {
