@@ -23,6 +23,17 @@ void Documents::add(const std::vector<std::filesystem::path>& documents) {
   if (wasDone) lookAtNext();
 }
 
+void Documents::remove(std::size_t place) {
+  if (place >= facts.size()) return;
+  const auto offset = static_cast<std::ptrdiff_t>(place);
+  const bool isLookedAt = place == known && place < files.size();
+  facts.erase(facts.begin() + offset);
+  if (isLookedAt) current.reset();
+  if (place < files.size()) files.erase(files.begin() + offset);
+  if (place < known) --known;
+  if (isLookedAt && !areKnown()) lookAtNext();
+}
+
 void Documents::dropFirst(std::size_t count) {
   facts.erase(facts.begin(), facts.begin() + static_cast<std::ptrdiff_t>(count));
   files.erase(files.begin(), files.begin() + static_cast<std::ptrdiff_t>(count));

@@ -22,6 +22,9 @@ class Documents : public QObject {
 
   // Appends some; they are looked at, too, if the others are.
   void add(const std::vector<std::filesystem::path>& documents);
+  // Forgets the one in that place, whether or not it has been looked at; becameKnown does not come
+  // where all others have been. Does nothing where there is none.
+  void remove(std::size_t place);
   // Forgets the first ones; they have all been looked at.
   void dropFirst(std::size_t count);
   // Looks at all of them again if one has changed since it was looked at.

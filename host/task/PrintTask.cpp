@@ -262,10 +262,20 @@ void PrintTask::connectDocuments() {
 }
 
 void PrintTask::addDocuments(const std::vector<std::filesystem::path>& more) {
-  if (isSending() || now == Stage::done) return;
+  if (!canTakeDocuments()) return;
   papers.add(more);
   emit documentsChanged();
 }
+
+void PrintTask::removeDocument(std::size_t place) {
+  if (!canTakeDocuments() || papers.all().size() == 1) return;
+  papers.remove(place);
+  followFirstDocument();
+  papers.areKnown() ? takeDocuments() : emit documentsChanged();
+}
+
+// The request is about a document that is still to be printed.
+void PrintTask::followFirstDocument() { asked.document = papers.all().front().document; }
 
 void PrintTask::takeDocuments() {
   const std::vector<DocumentFacts>& all = papers.all();
@@ -413,6 +423,7 @@ QString PrintTask::whatWasSent() {
   const std::size_t all = papers.all().size();
   if (sent == 0 || sent == all) return {};
   papers.dropFirst(sent);
+  followFirstDocument();
   emit documentsChanged();
   return tr(" %1 of %2 documents were sent before; Print sends the others.").arg(sent).arg(all);
 }

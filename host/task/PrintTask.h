@@ -87,6 +87,9 @@ class PrintTask : public QObject {
   // More documents to print, with the same settings; a job each, or one for all where they are
   // pictures that go together. Does nothing while a job is sent and once it is done.
   void addDocuments(const std::vector<std::filesystem::path>& more);
+  // Takes one out, by its place among documents(); but not the last that is left. Does nothing
+  // while a job is sent and once it is done.
+  void removeDocument(std::size_t place);
   // The person's choice, by its place in the list of printers. The settings of the printer that is
   // left are kept, and come back with it. Does nothing while a job is sent and once it is done.
   void choosePrinter(std::size_t place);
@@ -118,6 +121,8 @@ class PrintTask : public QObject {
   Work work() const;
 
   const JobRequest& request() const { return asked; }
+  // Whether documents can be added and removed now.
+  bool canTakeDocuments() const { return !isSending() && now != Stage::done; }
   // What is known of the documents.
   Documents& documents() { return papers; }
   const Documents& documents() const { return papers; }
@@ -185,6 +190,7 @@ class PrintTask : public QObject {
   OptionList startOptions() const;
 
   void takeDocuments();
+  void followFirstDocument();
   void takePaper();
   JobRequest finishedRequest(const std::string& ranges) const;
   bool needsTwoPasses(const OptionList& options) const;

@@ -180,6 +180,51 @@ TEST_F(PrintTaskTest, SendsEachDocumentWithTheSameSettings) {
   }
 }
 
+std::vector<std::string> namesOf(const PrintTask& task) {
+  std::vector<std::string> names;
+  for (const DocumentFacts& document : task.documents().all())
+    names.push_back(document.document.filename().string());
+  return names;
+}
+
+TEST_F(PrintTaskTest, TakesADocumentOut) {
+  PrintTask task(request());
+  task.addDocuments({place.write("more.pdf", numberedPDF(2)), place.write("last.txt", "Bye.")});
+  task.usePrinterWithoutQueue(printer(), place.path());
+  ASSERT_TRUE(areKnown(task));
+  task.removeDocument(2);
+  EXPECT_EQ(namesOf(task), (std::vector<std::string>{"card.pdf", "more.pdf"}));
+  EXPECT_EQ(task.fields().documentPages(), 0) << "of several documents";
+  task.removeDocument(0);
+  EXPECT_EQ(task.fields().documentPages(), 2);
+  EXPECT_EQ(jobTitle(task.request()), "more.pdf");
+  task.removeDocument(0);
+  EXPECT_EQ(namesOf(task), std::vector<std::string>{"more.pdf"}) << "one stays";
+}
+
+// The first one is being looked at by then.
+TEST_F(PrintTaskTest, TakesADocumentOutThatIsBeingLookedAt) {
+  PrintTask task(request());
+  task.addDocuments({place.write("more.pdf", numberedPDF(2)), place.write("last.txt", "Bye.")});
+  task.documents().look();
+  task.removeDocument(0);
+  task.removeDocument(1);
+  EXPECT_EQ(namesOf(task), std::vector<std::string>{"more.pdf"});
+  ASSERT_TRUE(areKnown(task));
+  EXPECT_EQ(task.documents().all().front().pages, 2);
+}
+
+TEST_F(PrintTaskTest, KeepsItsDocumentsWhileTheyAreSent) {
+  PrintTask task(request());
+  task.addDocuments({place.write("more.pdf", numberedPDF(2))});
+  task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+  task.print();
+  task.removeDocument(0);
+  task.addDocuments({place.write("last.txt", "Bye.")});
+  EXPECT_EQ(namesOf(task), (std::vector<std::string>{"card.pdf", "more.pdf"}));
+  ASSERT_TRUE(reaches(task, Stage::done));
+}
+
 // What was sent stays sent; Print goes on with the others.
 TEST_F(PrintTaskTest, SaysWhichDocumentsWereSentBeforeOneFailed) {
   PrintTask task(request());
