@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -27,6 +28,7 @@
 #include "host/sheets/PreviewArea.h"
 #include "platform/files/FileDescriptor.h"
 #include "platform/qt/toolkit/QtToolkit.h"
+#include "tests/fakes/FakePDF.h"
 #include "tests/servers/FaultyServer.h"
 #include "tests/servers/PrivateCupsd.h"
 
@@ -441,6 +443,64 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
                                 "PageSize", "panes", "orientation-requested", "print-scaling",
                                 "position", "number-up", "booklet", "Duplex", "sheetView", "help",
                                 "previewSwitch", "cancel", "print"}));
+}
+
+// On a printer that cannot turn the paper, between the two passes.
+class TurningDialogTest : public PrintDialogTest {
+ protected:
+  TurningDialogTest() {
+    task.usePrinterWithoutQueue(samplePPD("tavrin-s120.ppd"), place.path() / "jobs");
+    dialog.show();
+    press(dialog, "print");
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return task.stage() == PrintTask::Stage::turning; }, kPatience));
+    QCoreApplication::processEvents();
+  }
+  JobRequest bothSides() const {
+    JobRequest request;
+    request.document = place.write("card.pdf", numberedPDF(3));
+    request.options = {{"sides", "two-sided-long-edge"}};
+    return request;
+  }
+  QWidget* page() { return dialog.findChild<QWidget*>("turnPage"); }
+
+  PrintTask task{bothSides()};
+  PrintDialog dialog{task};
+};
+
+TEST_F(TurningDialogTest, SaysHowToTurnThePaperInPlaceOfTheSettings) {
+  EXPECT_TRUE(page()->isVisible());
+  EXPECT_FALSE(dialog.findChild<QWidget*>("copies")->isVisible());
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "print");
+  EXPECT_EQ(dialog.findChild<QPushButton*>("print")->text(), "&Print Backs");
+  EXPECT_EQ(mnemonicsIn(*page()).count('P'), 0) << "that is the button's";
+}
+
+TEST_F(TurningDialogTest, ReturnPrintsTheBacks) {
+  QTest::keyClick(&dialog, Qt::Key_Return);
+  EXPECT_FALSE(page()->isVisible());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return task.arrived() != nullptr; }, kPatience));
+  EXPECT_TRUE(fs::exists(place.path() / "jobs" / "card.pdf-2"));
+}
+
+TEST_F(TurningDialogTest, TheBacksComeInTheOrderThatThePersonWants) {
+  dialog.findChild<QCheckBox*>("backsReversed")->click();
+  press(dialog, "print");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return task.arrived() != nullptr; }, kPatience));
+  const auto ticket =
+      nlohmann::json::parse(test::textOf(place.path() / "jobs" / "card.pdf-2" / "ticket.json"));
+  EXPECT_EQ(ticket.at("options").at("outputorder"), "reverse");
+}
+
+TEST_F(TurningDialogTest, EscapeLeavesItAtTheFronts) {
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return task.canPrint(); }, kPatience));
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_TRUE(dialog.findChild<QWidget*>("copies")->isVisible());
+  EXPECT_TRUE(dialog.findChild<Note*>("note")->text().contains("its backs were not"));
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(task.report(), "The fronts of “card.pdf” were printed, its backs were not.");
 }
 
 TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {
