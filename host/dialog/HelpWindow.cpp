@@ -33,6 +33,16 @@ constexpr Entry kEntries[] = {
          "ranges with commas between them: 1-3,5 prints pages 1, 2, 3 and 5; 7- prints "
          "from page 7 to the end, -4 the first four. Collated copies come out one after "
          "the other, others page by page.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "Several documents"),
+     QT_TRANSLATE_NOOP(
+         "HelpWindow",
+         "Drop files on the window, or press Control and O, to print more documents with the same "
+         "settings. Where there are several, a button above the printer lists them.")},
+    {QT_TRANSLATE_NOOP("HelpWindow", "Both sides by hand"),
+     QT_TRANSLATE_NOOP(
+         "HelpWindow",
+         "On a printer that cannot turn the paper, you do: first the fronts are printed, then the "
+         "dialog says how to turn the stack, then the backs are printed.")},
     {QT_TRANSLATE_NOOP("HelpWindow", "The tabs"),
      QT_TRANSLATE_NOOP("HelpWindow",
                        "All other settings, sorted by what they are about. Control and Tab turn to "

@@ -13,6 +13,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "host/dialog/AddedDocuments.h"
+#include "host/dialog/DocumentDrops.h"
+#include "host/dialog/DocumentsRow.h"
 #include "host/dialog/HelpWindow.h"
 #include "host/dialog/JobButtons.h"
 #include "host/dialog/Note.h"
@@ -44,7 +47,10 @@ constexpr QSize kWindowFrame(16, 48);
 // How long a program that is to end waits for a job to be taken back.
 constexpr std::chrono::milliseconds kLongestEnd(1500);
 
-QString titleFor(const JobRequest& request) {
+QString titleFor(const PrintTask& task) {
+  if (task.documents().all().size() > 1)
+    return PrintDialog::tr("Print %1").arg(documentsInWords(task));
+  const JobRequest& request = task.request();
   const bool isNamed = !request.title.empty() || request.document != kStandardInput;
   return isNamed ? PrintDialog::tr("Print “%1”").arg(shownLine(jobTitle(request)))
                  : PrintDialog::tr("Print");
@@ -60,6 +66,7 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
       pages(makeChild<QStackedWidget>(this)),
       column(makeChild<SettingsColumn>(pages)),
       content(column->widget()),
+      documents(makeChild<DocumentsRow>(task, content)),
       general(makeChild<GeneralArea>(task, content)),
       switcher(makeChild<PaneSwitcher>(content)),
       conflictNote(makeChild<Note>(this)),
@@ -70,12 +77,12 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
       layoutPane(makeChild<LayoutPane>(task.fields(), switcher)),
       summaryPane(makeChild<SummaryPane>([this] { return inWords(); },
                                          [this] { return allLines(); }, switcher)) {
-  setWindowTitle(titleFor(task.request()));
   build();
   connectParts();
   connectTask();
   if (task.session()) showSession();
   showStage();
+  showTitle();
 }
 
 PrintDialog::~PrintDialog() = default;
@@ -83,6 +90,7 @@ PrintDialog::~PrintDialog() = default;
 void PrintDialog::build() {
   auto* inside = makeChild<QVBoxLayout>(content);
   inside->setContentsMargins(0, 0, 0, 0);
+  inside->addWidget(documents);
   inside->addWidget(general);
   inside->addSpacing(fontMetrics().height() / 2);
   inside->addWidget(switcher);
@@ -110,6 +118,11 @@ void PrintDialog::connectParts() {
   connect(previewSwitch, &PreviewSwitch::wantedChanged, this, &PrintDialog::makeRoomForPreview);
   auto* helpKey = makeChild<QShortcut>(QKeySequence(QKeySequence::HelpContents), this);
   connect(helpKey, &QShortcut::activated, this, &PrintDialog::showHelp);
+  auto* addKey = makeChild<QShortcut>(QKeySequence(QKeySequence::Open), this);
+  connect(addKey, &QShortcut::activated, this, [this] {
+    if (task.canTakeDocuments()) askForDocuments(task, this);
+  });
+  makeChild<DocumentDrops>(task, *this);
 }
 
 void PrintDialog::connectTask() {
@@ -117,6 +130,7 @@ void PrintDialog::connectTask() {
   connect(&task, &PrintTask::sessionEnding, this, &PrintDialog::hideSession);
   connect(&task, &PrintTask::sessionRestarted, switcher, &PaneSwitcher::showAgain);
   connect(&task, &PrintTask::stageChanged, this, &PrintDialog::showStage);
+  connect(&task, &PrintTask::documentsChanged, this, &PrintDialog::showTitle);
   connect(&task, &PrintTask::optionsChanged, summaryPane, [this] {
     if (summaryPane->isVisible()) summaryPane->willShow();
   });
@@ -204,6 +218,8 @@ SummaryPane::Sections PrintDialog::allLines() const {
 }
 
 // --- What is said, and what the person wants ---
+
+void PrintDialog::showTitle() { setWindowTitle(titleFor(task)); }
 
 void PrintDialog::showStage() {
   content->setEnabled(!task.isSending());

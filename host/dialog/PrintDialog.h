@@ -12,6 +12,7 @@ class QStackedWidget;
 
 namespace tavrin {
 
+class DocumentsRow;
 class GeneralArea;
 class HelpWindow;
 class JobButtons;
@@ -62,6 +63,7 @@ class PrintDialog : public QDialog {
 
   void showSession();
   void hideSession();
+  void showTitle();
   void showStage();
   void showTurning();
   void showResult();
@@ -79,6 +81,7 @@ class PrintDialog : public QDialog {
   QStackedWidget* pages;  // the settings, and then the result
   SettingsColumn* column;
   QWidget* content;
+  DocumentsRow* documents;
   GeneralArea* general;
   PaneSwitcher* switcher;
   Note* conflictNote;

@@ -265,6 +265,7 @@ TEST_F(PrintDialogTest, StaysAsItIsWhateverItShows) {
 
 TEST_F(PrintDialogTest, EveryLetterLeadsToOneControl) {
   PrintTask task(job());
+  task.addDocuments({SAMPLE_DOCUMENT});
   PrintDialog dialog(task);
   task.usePrinterWithoutQueue(samplePPD(), place.path());
   QString letters = mnemonicsIn(dialog);
@@ -501,6 +502,39 @@ TEST_F(TurningDialogTest, EscapeLeavesItAtTheFronts) {
   QTest::keyClick(&dialog, Qt::Key_Escape);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(task.report(), "The fronts of “card.pdf” were printed, its backs were not.");
+}
+
+TEST_F(PrintDialogTest, SaysHowManyDocumentsThereAre) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  EXPECT_EQ(dialog.windowTitle(), "Print “sample.pdf”");
+  task.addDocuments({place.write("a.txt", "a"), place.write("b.txt", "b")});
+  EXPECT_EQ(dialog.windowTitle(), "Print 3 documents");
+  task.removeDocument(0);
+  task.removeDocument(0);
+  EXPECT_EQ(dialog.windowTitle(), "Print “b.txt”");
+}
+
+TEST_F(PrintDialogTest, ControlAndOAddDocuments) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  dialog.show();
+  dialog.activateWindow();  // keys of a window work where it is the active one
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  QTest::keyClick(&dialog, Qt::Key_O, Qt::ControlModifier);
+  auto* chooser = dialog.findChild<QFileDialog*>();
+  ASSERT_NE(chooser, nullptr);
+  EXPECT_EQ(chooser->fileMode(), QFileDialog::ExistingFiles);
+}
+
+TEST_F(PrintDialogTest, BeginsAtThePrinter) {
+  PrintTask task(job());
+  PrintDialog dialog(task);
+  task.usePrinterWithoutQueue(samplePPD(), place.path());
+  dialog.show();
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "printer");
 }
 
 TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {

@@ -10,6 +10,7 @@
 #include <QShowEvent>
 #include <QStyle>
 
+#include "host/dialog/AddedDocuments.h"
 #include "host/dialog/Announcement.h"
 #include "host/dialog/Headline.h"
 #include "host/dialog/ShownSentence.h"
@@ -79,9 +80,13 @@ QWidget* ResultPage::makeDetails() {
   auto* details = makeChild<QWidget>(content);
   QFormLayout* form = makeForm(details);
   const auto add = [&](const QString& label, const QString& value) {
-    addRow(*form, label, *makeSelectable(value, details));
+    QLabel* shown = makeSelectable(value, details);
+    addRow(*form, label, *shown);
+    return shown;
   };
-  add(tr("Document:"), shownLine(titleInWords(task.request())));
+  const bool isOne = task.documents().all().size() == 1;
+  QLabel* what = add(isOne ? tr("Document:") : tr("Documents:"), documentsInWords(task));
+  if (!isOne) what->setToolTip(toolTipFor(documentNames(task)));
   add(tr("Printer:"), shownLine(task.printerName()));
   add(tr("Copies:"), locale().toString(task.fields().copies()));
   return details;

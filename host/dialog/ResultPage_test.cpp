@@ -56,6 +56,16 @@ TEST_F(ResultPageTest, SaysWhereTheJobIsAndWhatItWas) {
                          "Copies: 3"}));
 }
 
+TEST_F(ResultPageTest, SaysHowManyDocumentsItWas) {
+  task.addDocuments({place.write("letter.txt", "Dear Ada")});
+  printIntoAFolder();
+  const ResultPage page(task, nullptr);
+  EXPECT_EQ(rows(page).front(), "Documents: 2 documents");
+  const auto* form = page.findChild<QFormLayout*>();
+  const QString toolTip = form->itemAt(0, QFormLayout::FieldRole)->widget()->toolTip();
+  EXPECT_TRUE(toolTip.contains("card.pdf\nletter.txt")) << toolTip.toStdString();
+}
+
 TEST_F(ResultPageTest, OpensTheFolderOfTheJob) {
   printIntoAFolder();
   QUrl opened;
