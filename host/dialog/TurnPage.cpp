@@ -55,9 +55,9 @@ void TurnPage::build() {
   addAcross(document);
   addSteps(*grid);
   addAcross(picture);
-  addAcross(makeText(tr("Then print the backs. If you cancel, it is left at the "
-                        "fronts, which stay printed."),
-                     content));
+  addAcross(makeText(
+      tr("Then print the backs. If you cancel, the fronts stay printed and the backs blank."),
+      content));
   reversed->setObjectName("backsReversed");
   addAcross(reversed);
   addAcross(makeText(tr("This is for a printer from which the backs came out on the "
