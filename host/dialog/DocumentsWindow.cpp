@@ -44,7 +44,9 @@ void DocumentsWindow::build() {
   add->setObjectName("addDocuments");
   remove->setObjectName("removeDocuments");
   for (QPushButton* button : {add, remove}) button->setAutoDefault(false);
-  auto* buttons = makeChild<QDialogButtonBox>(QDialogButtonBox::Close, this);
+  auto* buttons = makeChild<QDialogButtonBox>(this);
+  // The box's own Close would be the only button with an icon.
+  buttons->addButton(tr("&Close"), QDialogButtonBox::RejectRole);
   buttons->addButton(add, QDialogButtonBox::ActionRole);
   buttons->addButton(remove, QDialogButtonBox::ActionRole);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
