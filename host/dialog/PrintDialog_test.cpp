@@ -168,7 +168,8 @@ TEST_F(PrintDialogTest, TheSummaryFollowsWhatIsChangedAboveIt) {
   dialog.show();
   turnTo(dialog, "Summary");
   dialog.findChild<QSpinBox*>("copies")->setValue(3);
-  EXPECT_EQ(dialog.findChild<QLabel*>("inWords")->text(), "In words: all pages, 3 copies.");
+  EXPECT_EQ(dialog.findChild<QLabel*>("inWords")->text(),
+            "In words: all pages, 3 copies, collated.");
 }
 
 TEST_F(PrintDialogTest, SumsUpBeforeThereIsAPrinter) {
@@ -439,6 +440,8 @@ TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {
     stops << dialog.focusWidget()->objectName();
     EXPECT_TRUE(hasName(*dialog.focusWidget())) << stops.back().toStdString();
   }
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "printer") << "and round";
   stops.removeAll("");
   EXPECT_EQ(stops, (QStringList{"printer", "copies", "pageRange", "page-set", "outputorder",
                                 "PageSize", "panes", "orientation-requested", "print-scaling",

@@ -51,7 +51,8 @@ void LayoutPane::addPopUp(const char* option, const QString& name, const QString
 void LayoutPane::addScalingRow() {
   const QString name = tr("Size on Sheet");
   scaling = makeChild<ScalingControl>(fields, name, this);
-  addRow(*form, tr("Size on S&heet:"), *scaling);
+  // A proxy for the focus would tear the ring of the Tab key.
+  addRow(*form, tr("Size on S&heet:"), *scaling)->setBuddy(scaling->findChild<QComboBox*>());
   rows.push_back({kFitOption, name, scaling});
 }
 

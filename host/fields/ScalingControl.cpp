@@ -41,7 +41,6 @@ ScalingControl::ScalingControl(JobFields& theFields, const QString& name, QWidge
 
 void ScalingControl::layOut() {
   letPopUpShrink(*ways);
-  setFocusProxy(ways);
   auto* line = makeChild<QHBoxLayout>(this);
   line->setContentsMargins(0, 0, 0, 0);
   line->addWidget(ways, 1);

@@ -171,11 +171,9 @@ void GeneralArea::addPaperRows(const ppd_option_t& option) {
   if (!takesCustomPaper(marks->ppd())) return;
   popUp->offerCustom();
   ownPaper = makeChild<PaperSizeBoxes>(*marks, this);
-  addRow(*form, tr("E&xact Size:"), *ownPaper);
-  connect(popUp, &PickOneControl::customWanted, this, [this] {
-    ownPaper->begin();
-    ownPaper->setFocus();
-  });
+  addRow(*form, tr("E&xact Size:"), *ownPaper)
+      ->setBuddy(ownPaper->findChild<QWidget*>("paperWidth"));
+  connect(popUp, &PickOneControl::customWanted, this, [this] { ownPaper->begin(); });
   connect(marks, &PPDMarks::refreshed, ownPaper, [this] { showOwnPaper(); });
   showOwnPaper();
 }

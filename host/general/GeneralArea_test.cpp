@@ -93,8 +93,11 @@ TEST_F(GeneralAreaTest, CollatesWhereThereAreSeveralCopies) {
   EXPECT_TRUE(collate->isHidden());
   area.findChild<QSpinBox*>("copies")->setValue(2);
   EXPECT_FALSE(collate->isHidden());
+  EXPECT_TRUE(collate->isChecked()) << "a person wants sets";
   collate->click();
-  EXPECT_EQ(task.fields().value("sheet-collate"), "collated");
+  EXPECT_EQ(task.fields().value("sheet-collate"), "uncollated");
+  area.findChild<QSpinBox*>("copies")->setValue(3);
+  EXPECT_EQ(task.fields().value("sheet-collate"), "uncollated") << "but this one does not";
 }
 
 TEST_F(GeneralAreaTest, LeavesWhatThePrinterHasItselfToThePrinter) {

@@ -31,7 +31,6 @@ PaperSizeBoxes::PaperSizeBoxes(PPDMarks& theMarks, QWidget* parent)
       unit(unitOfCountry()),
       width(addBox("paperWidth", tr("Width of the paper"))),
       height(addBox("paperHeight", tr("Height of the paper"))) {
-  setFocusProxy(width);
   auto* line = makeChild<QHBoxLayout>(this);
   line->setContentsMargins(0, 0, 0, 0);
   line->addWidget(width);

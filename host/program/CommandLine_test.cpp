@@ -85,8 +85,10 @@ TEST(CommandLine, ThatCannotBeIsRefusedWithTheReason) {
   EXPECT_NE(refusal({"--frobnicate"}).find("frobnicate"), std::string::npos);
   EXPECT_NE(refusal({"-d"}).find("d"), std::string::npos);
   EXPECT_NE(refusal({"-", "b.pdf", "-"}).find("only one of the documents"), std::string::npos);
-  for (const auto& half : {std::vector<std::string>{"--save", "new.pdf"}, {"--no-dialog"}})
+  for (const auto& half : {std::vector<std::string>{"--save", "new.pdf", "a.pdf"}, {"--no-dialog"}})
     EXPECT_NE(refusal(half).find("need each other"), std::string::npos);
+  EXPECT_NE(refusal({"--no-dialog", "--save", "new.pdf"}).find("needs a document"),
+            std::string::npos);
   for (const char* copies : {"0", "-2", "many", "10000"})
     for (const std::string option : {"-n", "-ocopies="})
       EXPECT_NE(refusal({option + copies, "a.pdf"}).find(copies), std::string::npos);

@@ -79,6 +79,7 @@ OptionList PrinterSettings::options() const {
   // The fields have taken these.
   for (const std::string& name : JobFields::optionNames()) removeOption(all, name);
   for (const auto& [name, value] : fields.options()) setOption(all, name, value);
+  if (current && isPrintersOwn(current->ppd(), "Collate")) removeOption(all, kCollateOption);
   return all;
 }
 
