@@ -1,10 +1,9 @@
 #include "host/prepare/DocumentPreparer.h"
 
-#include "host/prepare/Imposition.h"
-
 #include <optional>
 #include <sys/stat.h>
 
+#include "host/prepare/Imposition.h"
 #include "tests/fakes/FakePDF.h"
 #include "tests/fixtures/EventLoopTest.h"
 #include "tests/fixtures/PDFTexts.h"
