@@ -11,7 +11,8 @@ namespace tavrin {
 
 namespace {
 
-constexpr LimitedCommand::Limits kLookLimits{std::chrono::seconds(20), 1 << 30, 1 << 20};
+constexpr LimitedCommand::Limits kLookLimits{std::chrono::seconds(20), imposerMemory(1 << 30),
+                                             1 << 20};
 
 // Numbers that no paper has are as good as none.
 double length(const nlohmann::json& seen, const char* name) {

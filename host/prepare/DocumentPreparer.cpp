@@ -21,8 +21,8 @@ constexpr char kTextFile[] = "text.pdf";
 constexpr int kSlow = -1;  // beside the exit statuses
 
 // A picture that must be decoded takes four bytes for each of its dots.
-constexpr LimitedCommand::Limits kImposerLimits{std::chrono::seconds(120), std::uint64_t(3) << 30,
-                                                std::uint64_t(4) << 30};
+constexpr LimitedCommand::Limits kImposerLimits{
+    std::chrono::seconds(120), imposerMemory(std::uint64_t(3) << 30), std::uint64_t(4) << 30};
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 QString nameOf(const DocumentFacts& document) { return shown(nameInWords(document.document)); }

@@ -16,8 +16,8 @@ namespace {
 
 constexpr char kPickedFile[] = "side.pdf";
 
-constexpr LimitedCommand::Limits kPickerLimits{std::chrono::seconds(60), std::uint64_t(3) << 30,
-                                               std::uint64_t(4) << 30};
+constexpr LimitedCommand::Limits kPickerLimits{
+    std::chrono::seconds(60), imposerMemory(std::uint64_t(3) << 30), std::uint64_t(4) << 30};
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 
