@@ -19,9 +19,9 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "host/dialog/Note.h"
-#include "host/dialog/ShownSentence.h"
 #include "host/general/PrinterPopUp.h"
+#include "host/notes/Note.h"
+#include "host/notes/ShownSentence.h"
 #include "host/panes/FeaturesPane.h"
 #include "host/panes/Mnemonics.h"
 #include "host/printer/PPDLoader.h"

@@ -1,6 +1,6 @@
 #include "host/program/ProblemWindow.h"
 
-#include "host/dialog/ShownSentence.h"
+#include "host/notes/ShownSentence.h"
 
 namespace tavrin {
 

@@ -54,12 +54,12 @@ room(host/fields         platform/text platform/qt/base ppd host/printer host/re
                          host/panes)
 room(host/general        platform/text platform/qt/base ppd host/printer host/request host/task
                          host/panes host/fields)
-room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
-                         platform/qt/toolkit ppd host/document host/request host/prepare
-                         host/preview host/printer host/panels host/task host/sheets host/panes
-                         host/fields host/general)
+room(host/notes platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general)
+room(host/documents platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general host/notes)
+room(host/pages platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general host/notes host/documents)
+room(host/dialog platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general host/notes host/documents host/pages)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
-                         host/printer host/document host/request host/preview host/task host/dialog)
+                         host/printer host/document host/request host/preview host/task host/dialog host/notes)
 room(host/impose/layout  platform/text host/support)
 room(host/impose/pictures platform/text host/impose/layout)
 room(host/impose/pages   platform/text host/impose/layout host/impose/pictures)
@@ -83,7 +83,7 @@ set(QT_CORE "QByteArray|QCoreApplication|QDir|QFile|QLocale|QMarginsF|QMimeDatab
 set(LOOK_widgets "${LOOK_Qt}")
 set(QT_PICTURES "QColorSpace|QImage|QImageReader")
 set(NOT_widgets "<(${QT_CORE}|${QT_PICTURES})>")
-set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|fields|general|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
+set(MAY_HAVE_widgets "^(platform/qt|host/(sheets|panes|fields|general|notes|documents|pages|dialog|program)|replay|tests)/|_(test|benchmark)\\.cpp$")
 set(LOOK_pictures "<(${QT_PICTURES})>")
 set(MAY_HAVE_pictures "^host/impose/(pictures|pages)/|${MAY_HAVE_widgets}")
 set(LOOK_cups "<cups/")

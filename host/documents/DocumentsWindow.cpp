@@ -1,4 +1,4 @@
-#include "host/dialog/DocumentsWindow.h"
+#include "host/documents/DocumentsWindow.h"
 
 #include <algorithm>
 #include <functional>
@@ -11,8 +11,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "host/dialog/AddedDocuments.h"
 #include "host/document/DocumentName.h"
+#include "host/documents/AddedDocuments.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/base/ShownText.h"

@@ -1,4 +1,4 @@
-#include "host/dialog/ResultPage.h"
+#include "host/pages/ResultPage.h"
 
 #include <QFormLayout>
 #include <QLabel>

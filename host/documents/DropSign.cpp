@@ -1,4 +1,4 @@
-#include "host/dialog/DropSign.h"
+#include "host/documents/DropSign.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "host/dialog/DocumentDrops.h"
+#include "host/documents/DocumentDrops.h"
 
 #include <QDialog>
 #include <QDropEvent>

@@ -1,10 +1,10 @@
-#include "host/dialog/DocumentsRow.h"
+#include "host/documents/DocumentsRow.h"
 
 #include <QFormLayout>
 #include <QToolButton>
 
-#include "host/dialog/AddedDocuments.h"
-#include "host/dialog/DocumentsWindow.h"
+#include "host/documents/AddedDocuments.h"
+#include "host/documents/DocumentsWindow.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
 

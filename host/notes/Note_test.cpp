@@ -1,4 +1,4 @@
-#include "host/dialog/Note.h"
+#include "host/notes/Note.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/dialog/ShownSentence.h"
+#include "host/notes/ShownSentence.h"
 
 #include <QRegularExpression>
 

@@ -1,4 +1,4 @@
-#include "host/dialog/AddedDocuments.h"
+#include "host/documents/AddedDocuments.h"
 
 #include <algorithm>
 

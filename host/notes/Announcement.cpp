@@ -1,4 +1,4 @@
-#include "host/dialog/Announcement.h"
+#include "host/notes/Announcement.h"
 
 #include <QAccessible>
 #include <QLabel>

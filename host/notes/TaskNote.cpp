@@ -1,9 +1,9 @@
-#include "host/dialog/TaskNote.h"
+#include "host/notes/TaskNote.h"
 
 #include <QFile>
 #include <QFileDialog>
 
-#include "host/dialog/ShownSentence.h"
+#include "host/notes/ShownSentence.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
 

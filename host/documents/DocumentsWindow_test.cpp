@@ -1,4 +1,4 @@
-#include "host/dialog/DocumentsWindow.h"
+#include "host/documents/DocumentsWindow.h"
 
 #include <QFileDialog>
 #include <QListWidget>
@@ -7,7 +7,7 @@
 #include <QToolButton>
 #include <gtest/gtest.h>
 
-#include "host/dialog/DocumentsRow.h"
+#include "host/documents/DocumentsRow.h"
 #include "host/task/PrintTask.h"
 #include "tests/fixtures/TemporaryFolder.h"
 

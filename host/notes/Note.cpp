@@ -1,11 +1,11 @@
-#include "host/dialog/Note.h"
+#include "host/notes/Note.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 
-#include "host/dialog/Announcement.h"
+#include "host/notes/Announcement.h"
 #include "host/panes/Widgets.h"
 
 namespace tavrin {

@@ -1,4 +1,4 @@
-#include "host/dialog/TurnPicture.h"
+#include "host/pages/TurnPicture.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/dialog/Note.h"
+#include "host/notes/Note.h"
 
 namespace tavrin {
 

@@ -1,14 +1,14 @@
-#include "host/dialog/TurnPage.h"
+#include "host/pages/TurnPage.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QShowEvent>
 
-#include "host/dialog/Announcement.h"
-#include "host/dialog/Headline.h"
-#include "host/dialog/TurnPicture.h"
 #include "host/document/DocumentName.h"
+#include "host/notes/Announcement.h"
+#include "host/notes/Headline.h"
+#include "host/pages/TurnPicture.h"
 #include "host/panes/Widgets.h"
 #include "host/printer/Paper.h"
 #include "host/request/JobSetting.h"

@@ -1,4 +1,4 @@
-#include "host/dialog/ResultPage.h"
+#include "host/pages/ResultPage.h"
 
 #include <QDesktopServices>
 #include <QFile>
@@ -10,10 +10,10 @@
 #include <QShowEvent>
 #include <QStyle>
 
-#include "host/dialog/AddedDocuments.h"
-#include "host/dialog/Announcement.h"
-#include "host/dialog/Headline.h"
-#include "host/dialog/ShownSentence.h"
+#include "host/documents/AddedDocuments.h"
+#include "host/notes/Announcement.h"
+#include "host/notes/Headline.h"
+#include "host/notes/ShownSentence.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/base/ShownText.h"

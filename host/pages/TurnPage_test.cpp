@@ -1,4 +1,4 @@
-#include "host/dialog/TurnPage.h"
+#include "host/pages/TurnPage.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -6,7 +6,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "host/dialog/TurnPicture.h"
+#include "host/pages/TurnPicture.h"
 #include "tests/fakes/FakePDF.h"
 #include "tests/fakes/FakePPD.h"
 #include "tests/fixtures/TemporaryFolder.h"

@@ -1,4 +1,4 @@
-#include "host/dialog/Headline.h"
+#include "host/notes/Headline.h"
 
 #include <QLabel>
 

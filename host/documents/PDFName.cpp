@@ -1,4 +1,4 @@
-#include "host/dialog/PDFName.h"
+#include "host/documents/PDFName.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>

@@ -1,4 +1,4 @@
-#include "host/dialog/DocumentDrops.h"
+#include "host/documents/DocumentDrops.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "host/dialog/AddedDocuments.h"
-#include "host/dialog/DropSign.h"
+#include "host/documents/AddedDocuments.h"
+#include "host/documents/DropSign.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/base/MakeChild.h"
 
