@@ -83,10 +83,18 @@ void JobSequence::send(const std::filesystem::path& prepared) {
   request.document = documents[sentDocuments].document;
   request.options = documents[sentDocuments].options;
   request.prepared = prepared;
+  if (request.title.empty()) request.title = titleOfSeveral(currentFacts()).toStdString();
   if (order.output.empty())
     runner.submit(request, passOptions());
   else
     runner.writeFolder(order.output, request, passOptions());
+}
+
+// A person with twelve pictures in the queue sees more than the name of the first one.
+QString JobSequence::titleOfSeveral(const std::vector<DocumentFacts>& facts) {
+  if (facts.size() == 1) return {};
+  const QString first = QString::fromStdString(nameInWords(facts.front().document));
+  return tr("%1 and %n more", nullptr, static_cast<int>(facts.size() - 1)).arg(first);
 }
 
 // Each pass is printed on one side of the paper.

@@ -77,6 +77,7 @@ class JobSequence : public QObject {
   void sendPass();
   void pickSide();
   void send(const std::filesystem::path& prepared);
+  static QString titleOfSeveral(const std::vector<DocumentFacts>& facts);
   OptionList passOptions() const;
   std::vector<DocumentFacts> currentFacts() const;
   void giveUp();

@@ -4,6 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "host/request/JobSetting.h"
 #include "tests/fakes/FakePDF.h"
 #include "tests/fixtures/EventLoopTest.h"
 #include "tests/fixtures/PDFTexts.h"
@@ -116,6 +117,14 @@ TEST_F(JobSequenceTest, SendsWhatHasBeenMadeReady) {
   EXPECT_EQ(optionOf("a.pdf", "number-up"), "1");
   EXPECT_EQ(optionOf("a.pdf", "page-ranges"), "1-") << "all of the sheets";
   EXPECT_EQ(report.folder, output / "a.pdf");
+}
+
+TEST_F(JobSequenceTest, NamesAJobOfSeveralPicturesSo) {
+  const std::string dot = std::string("P6 1 1 255\n") + "abc";
+  const std::vector<fs::path> pictures{place.write("a.ppm", dot), place.write("b.ppm", dot),
+                                       place.write("c.ppm", dot)};
+  run(order(pictures, {{kTogetherOption, kTogether}, {"number-up", "4"}}), "finished");
+  ASSERT_EQ(folders(), Names{"a.ppm and 2 more"});
 }
 
 TEST_F(JobSequenceTest, PrintsFrontsThenBacks) {
