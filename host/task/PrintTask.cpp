@@ -10,8 +10,6 @@
 #include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
 #include "host/printer/PPDLoader.h"
-#include "host/printer/Paper.h"
-#include "host/printer/SheetSequence.h"
 #include "host/request/JobOptions.h"
 #include "host/support/TextLists.h"
 #include "platform/files/ProgramFolder.h"
@@ -49,7 +47,7 @@ PrintTask::PrintTask(JobRequest request, QObject* parent)
   settings.choose("", startOptions());
   connectSearch();
   connectDocuments();
-  connectSequence();
+  connectRun();
   connect(&jobFields, &JobFields::changed, this, &PrintTask::optionsChanged);
   // What was wrong with the settings may be right with others.
   connect(this, &PrintTask::optionsChanged, this, [this] {
@@ -80,7 +78,7 @@ void PrintTask::leave() {
 }
 
 QString PrintTask::stillOnItsWay() const {
-  if (isSaving) return tr("The PDF may have been saved all the same.");
+  if (run.isSaving()) return tr("The PDF may have been saved all the same.");
   return where == Target::queue
              ? tr("The job may still be on its way. See whether it is in the queue: lpstat -o")
              : tr("The job may have been written all the same. See whether it is in the "
@@ -165,7 +163,8 @@ void PrintTask::chooseFirstPrinter() {
 void PrintTask::noPrinters(const QString& reason) {
   if (where == Target::file) return;
   enter(Stage::noPrinters);
-  tell({reason.toStdString(), true, WayOut::lookAgain});
+  const QString sentence = tr("%1 Until then, “Save as PDF” is there all the same.").arg(reason);
+  tell({sentence.toStdString(), true, WayOut::lookAgain});
 }
 
 void PrintTask::choosePrinter(std::size_t place) {
@@ -283,7 +282,7 @@ void PrintTask::takeDocuments() {
   jobFields.setSeveralPictures(all.size() > 1 && arePictures(all));
   takePaper();
   emit documentsChanged();
-  if (waiting) std::exchange(waiting, {})();
+  run.documentsKnown();
 }
 
 void PrintTask::takePaper() {
@@ -295,119 +294,59 @@ void PrintTask::takePaper() {
 
 // --- The job ---
 
-void PrintTask::connectSequence() {
-  connect(&sequence, &JobSequence::progressed, this, &PrintTask::progressed);
-  connect(&sequence, &JobSequence::paperToBeTurned, this, [this] { enter(Stage::turning); });
-  connect(&sequence, &JobSequence::finished, this, &PrintTask::finish);
-  connect(&sequence, &JobSequence::cancelled, this, [this] { giveBack(bareFronts()); });
-  connect(&sequence, &JobSequence::nothingLeft, this, &PrintTask::refuse);
-  connect(&sequence, &JobSequence::folderRefused, this,
-          [this](const QString& reason) { fail(reason, WayOut::chooseFolder); });
-  connect(&sequence, &JobSequence::failed, this, [this](const QString& reason) { fail(reason); });
-  connect(&saver, &SheetsSaver::saved, this,
-          [this](const std::filesystem::path& file) { finish(reportOnFile(file)); });
-  connect(&saver, &SheetsSaver::cancelled, this, [this] { giveBack(); });
-  connect(&saver, &SheetsSaver::nothingLeft, this, &PrintTask::refuse);
-  connect(&saver, &SheetsSaver::failed, this, [this](const QString& reason) { fail(reason); });
-}
-
-void PrintTask::print() {
-  if (where != Target::file) doOnceKnown([this] { send(); });
-}
-
-void PrintTask::saveAs(const std::filesystem::path& file, SheetsSaver::Existing existing) {
-  doOnceKnown([=, this] {
-    isSaving = true;
-    saver.save(preparation(), file, existing);
+void PrintTask::connectRun() {
+  connect(&run, &PrintRun::progressed, this, &PrintTask::progressed);
+  connect(&run, &PrintRun::paperToBeTurned, this, [this] { enter(Stage::turning); });
+  connect(&run, &PrintRun::finished, this, &PrintTask::finish);
+  connect(&run, &PrintRun::cancelled, this, &PrintTask::giveBack);
+  connect(&run, &PrintRun::nothingLeft, this, &PrintTask::refuse);
+  connect(&run, &PrintRun::failed, this,
+          [this](const QString& reason, const QString& rest) { fail(reason + rest); });
+  connect(&run, &PrintRun::folderRefused, this, [this](const QString& reason, const QString& rest) {
+    fail(reason + rest, WayOut::chooseFolder);
+  });
+  connect(&run, &PrintRun::documentsTaken, this, [this] {
+    followFirstDocument();
+    emit documentsChanged();
   });
 }
 
-void PrintTask::doOnceKnown(std::function<void()> work) {
-  if (!canPrint()) return;
-  if (const Result<std::string> ranges = jobFields.pageRanges(); !ranges)
-    return warn(ranges.reason());
-  if (const std::string problem = session() ? session()->takePanelChoices() : ""; !problem.empty())
-    return warn(problem);
+void PrintTask::print() {
+  if (where == Target::file || !begin()) return;
+  run.send([this] { return draft.order(where == Target::folder ? output : ""); });
+}
+
+void PrintTask::saveAs(const std::filesystem::path& file, SheetsSaver::Existing existing) {
+  if (begin()) run.save([this] { return preparation(); }, file, existing);
+}
+
+// Whether nothing is wrong with the settings.
+bool PrintTask::begin() {
+  if (!canPrint()) return false;
+  const Result<std::string> ranges = jobFields.pageRanges();
+  const std::string problem = !ranges     ? ranges.reason()
+                              : session() ? session()->takePanelChoices()
+                                          : "";
+  if (!problem.empty()) {
+    warn(problem);
+    return false;
+  }
   tell({});
   enter(Stage::printing);
-  papers.lookAgain();
-  if (papers.areKnown()) return work();
-  waiting = std::move(work);
-  papers.look();
-}
-
-void PrintTask::send() {
-  const Result<std::string> ranges = jobFields.pageRanges();
-  const Preparation wanted = preparation();
-  isSaving = false;
-  sequence.start({wanted, finishedRequest(ranges ? *ranges : ""),
-                  where == Target::folder ? output : "", wanted.wholeSheets,
-                  session() && comesLastSheetFirst(session()->ppd(), wanted.options)});
-}
-
-PrintTask::Work PrintTask::work() const {
-  using Kind = Work::Kind;
-  using Step = JobSequence::Step;
-  if (waiting) return {Kind::preparing, 1, papers.all().size()};
-  if (isSaving) return {Kind::saving, 1, papers.all().size()};
-  const Step step = sequence.step();
-  if (step == Step::preparing) return {Kind::preparing, 1, papers.all().size()};
-  const Kind kind = step == Step::sending         ? Kind::sending
-                    : step == Step::sendingFronts ? Kind::sendingFronts
-                                                  : Kind::sendingBacks;
-  return {kind, sequence.sent() + 1, sequence.count()};
-}
-
-OptionList PrintTask::options() const {
-  const Result<std::string> ranges = jobFields.pageRanges();
-  return jobOptions(finishedRequest(ranges ? *ranges : ""),
-                    session() ? &session()->ppd() : nullptr);
-}
-
-Preparation PrintTask::preparation() const {
-  Preparation wanted{papers.all()};
-  wanted.options = options();
-  wanted.title = asked.title;
-  if (!session()) return wanted;
-  wanted.ppd = sourceOf(session()->sharedPPD());
-  wanted.paper = markedPaper(session()->ppd());
-  wanted.wholeSheets = needsTwoPasses(wanted.options);
-  wanted.keepsPictures = where == Target::file;
-  return wanted;
-}
-
-// A printer that turns the paper itself has an option of its own for that.
-bool PrintTask::needsTwoPasses(const OptionList& options) const {
-  const std::string sides = optionValue(options, kSidesOption).value_or("");
-  return sides.starts_with("two-sided") && session() && !twoSidedOption(session()->ppd());
-}
-
-JobRequest PrintTask::finishedRequest(const std::string& ranges) const {
-  JobRequest finished = asked;
-  const Printer* printer = printers().chosen();
-  finished.printer = printer ? printer->name : "";
-  finished.instance = printer ? printer->instance : "";
-  finished.copies = jobFields.copies();
-  finished.pageRanges = ranges;
-  finished.options = settings.options();
-  return finished;
+  return true;
 }
 
 void PrintTask::printBacks(JobSequence::BackOrder order) {
   if (now != Stage::turning) return;
   tell({});
   enter(Stage::printing);
-  sequence.printBacks(order);
+  run.printBacks(order);
 }
 
 void PrintTask::cancel() {
   if (now != Stage::printing && now != Stage::turning) return;
   enter(Stage::takingBack);
-  if (waiting) {
-    waiting = {};
-    return giveBack();
-  }
-  isSaving ? saver.cancel() : sequence.cancel();
+  run.cancel();
 }
 
 void PrintTask::finish(const JobReport& job) {
@@ -417,32 +356,13 @@ void PrintTask::finish(const JobReport& job) {
   enter(Stage::done);
 }
 
-// What was sent is not sent again.
-QString PrintTask::whatWasSent() {
-  const std::size_t sent = sequence.takeSent();
-  const std::size_t all = papers.all().size();
-  if (sent == 0 || sent == all) return {};
-  papers.dropFirst(sent);
-  followFirstDocument();
-  emit documentsChanged();
-  return tr(" %1 of %2 documents were sent before; Print sends the others.").arg(sent).arg(all);
-}
-
-// Empty where there are none.
-QString PrintTask::bareFronts() const {
-  if (!sequence.hasBareFronts()) return {};
-  const DocumentFacts& document = papers.all()[sequence.sent()];
-  return tr("The fronts of “%1” were printed, its backs were not.")
-      .arg(shown(nameInWords(document.document)));
-}
-
-void PrintTask::giveBack(const QString& bareFronts) {
+void PrintTask::giveBack(const QString& bareFronts, const QString& rest) {
   enter(Stage::ready);
   reportText = bareFronts.toStdString();
   const QString sentence = bareFronts.isEmpty()
                                ? tr("Printing was cancelled. The settings are as they were.")
                                : tr("Printing was cancelled. %1").arg(bareFronts);
-  say((sentence + whatWasSent()).toStdString());
+  say((sentence + rest).toStdString());
 }
 
 void PrintTask::refuse(const QString& reason) {
@@ -452,12 +372,12 @@ void PrintTask::refuse(const QString& reason) {
 }
 
 void PrintTask::fail(const QString& reason, WayOut wayOut) {
-  if (sequence.isWaitingForPaper()) {
+  if (run.isWaitingForPaper()) {
     enter(Stage::turning);
     return warn(reason.toStdString());
   }
   end = Outcome::failed;
-  reportText = (reason + whatWasSent()).toStdString();
+  reportText = reason.toStdString();
   enter(Stage::failed);
   tell({reportText, true, wayOut});
 }

@@ -1,17 +1,15 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 
 #include <QObject>
 
 #include "host/prepare/Documents.h"
-#include "host/preview/SheetsSaver.h"
+#include "host/task/JobDraft.h"
 #include "host/task/JobFields.h"
-#include "host/task/JobReport.h"
-#include "host/task/JobSequence.h"
+#include "host/task/PrintRun.h"
 #include "host/task/PrinterSearch.h"
 #include "host/task/PrinterSettings.h"
 
@@ -54,13 +52,7 @@ class PrintTask : public QObject {
     folder,  // a folder for each job, for a printer that has no queue
     file,    // a PDF of the sheets; this one is always there
   };
-  // What is being done while the stage is printing.
-  struct Work {
-    enum class Kind { preparing, sending, sendingFronts, sendingBacks, saving };
-    Kind kind = Kind::preparing;
-    std::size_t document = 1;   // which one is sent, or has its paper turned, from 1
-    std::size_t documents = 1;  // of how many
-  };
+  using Work = PrintRun::Work;
   // A sentence for the person; empty when there is nothing to say.
   struct Notice {
     std::string text;
@@ -118,7 +110,8 @@ class PrintTask : public QObject {
     return now == Stage::printing || now == Stage::turning || now == Stage::takingBack;
   }
   const Notice& notice() const { return said; }
-  Work work() const;
+  // What is being done while the stage is printing.
+  Work work() const { return run.work(); }
 
   const JobRequest& request() const { return asked; }
   // Whether documents can be added and removed now.
@@ -140,9 +133,9 @@ class PrintTask : public QObject {
   // The chosen printer's settings; null while there are none.
   PrinterSession* session() const { return settings.session(); }
   // The options that the job would have now; of all pages where the page range is wrong.
-  OptionList options() const;
+  OptionList options() const { return draft.options(); }
   // All that decides how the sheets will look.
-  Preparation preparation() const;
+  Preparation preparation() const { return draft.preparation(where == Target::file); }
 
   Outcome outcome() const { return end; }
   // The job that arrived; null before it did.
@@ -173,7 +166,7 @@ class PrintTask : public QObject {
   QString stillOnItsWay() const;
   void connectSearch();
   void connectDocuments();
-  void connectSequence();
+  void connectRun();
   void enter(Stage stage);
   void tell(Notice notice);
 
@@ -192,15 +185,10 @@ class PrintTask : public QObject {
   void takeDocuments();
   void followFirstDocument();
   void takePaper();
-  JobRequest finishedRequest(const std::string& ranges) const;
-  bool needsTwoPasses(const OptionList& options) const;
-  void doOnceKnown(std::function<void()> work);
-  void send();
+  bool begin();
   void refuse(const QString& reason);
-  QString whatWasSent();
-  QString bareFronts() const;
   void finish(const JobReport& job);
-  void giveBack(const QString& bareFronts = {});
+  void giveBack(const QString& bareFronts, const QString& rest);
   void fail(const QString& reason, WayOut wayOut = WayOut::none);
 
   JobRequest asked;
@@ -215,11 +203,9 @@ class PrintTask : public QObject {
   std::string destination;  // the queue or instance whose settings are shown
   PrinterSearch search;
   Documents papers;
-  JobSequence sequence;
-  SheetsSaver saver;
-  bool isSaving = false;          // what is on its way is a file
-  bool isRefused = false;         // what the notice says is about the settings
-  std::function<void()> waiting;  // what to do when the documents are known; empty for nothing
+  JobDraft draft{asked, jobFields, settings, papers, search.printers()};
+  PrintRun run{papers};
+  bool isRefused = false;  // what the notice says is about the settings
   Outcome end = Outcome::cancelled;
   std::optional<JobReport> arrivedJob;
   std::string reportText;

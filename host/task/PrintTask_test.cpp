@@ -582,6 +582,7 @@ TEST_F(PrintTaskTest, CanLookAgainWhereNoPrinterWasFound) {
   EXPECT_EQ(task.stage(), Stage::looking);
   ASSERT_TRUE(reaches(task, Stage::noPrinters));
   EXPECT_EQ(task.notice().wayOut, PrintTask::WayOut::lookAgain);
+  EXPECT_NE(task.notice().text.find("“Save as PDF”"), std::string::npos) << "needs no printer";
   task.leave();
   EXPECT_EQ(task.report(), task.notice().text) << "why nothing was printed";
   task.usePrintServer();

@@ -54,12 +54,18 @@ room(host/fields         platform/text platform/qt/base ppd host/printer host/re
                          host/panes)
 room(host/general        platform/text platform/qt/base ppd host/printer host/request host/task
                          host/panes host/fields)
-room(host/notes platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general)
-room(host/documents platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general host/notes)
-room(host/pages platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general host/notes host/documents)
-room(host/dialog platform/text platform/files platform/toolkit platform/qt/base platform/qt/toolkit ppd host/document host/request host/prepare host/preview host/printer host/panels host/task host/sheets host/panes host/fields host/general host/notes host/documents host/pages)
+room(host/notes          platform/text platform/qt/base host/task host/panes)
+room(host/documents      platform/text platform/qt/base host/document host/request host/task
+                         host/panes)
+room(host/pages          platform/text platform/qt/base host/printer host/document host/request
+                         host/task host/panes host/documents host/notes)
+room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
+                         platform/qt/toolkit ppd host/printer host/panels host/request host/task
+                         host/sheets host/panes host/fields host/general host/notes host/documents
+                         host/pages)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
-                         host/printer host/document host/request host/preview host/task host/dialog host/notes)
+                         host/printer host/document host/request host/preview host/task host/dialog
+                         host/notes)
 room(host/impose/layout  platform/text host/support)
 room(host/impose/pictures platform/text host/impose/layout)
 room(host/impose/pages   platform/text host/impose/layout host/impose/pictures)

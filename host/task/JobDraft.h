@@ -1,0 +1,32 @@
+#pragma once
+
+#include "host/prepare/Documents.h"
+#include "host/task/JobFields.h"
+#include "host/task/JobSequence.h"
+#include "host/task/PrinterList.h"
+#include "host/task/PrinterSettings.h"
+
+namespace tavrin {
+
+// The job as it would be printed now: what was asked for, what is set, for which printer and of
+// which documents. It keeps nothing; what it is made of outlives it.
+struct JobDraft {
+  const JobRequest& asked;
+  const JobFields& fields;
+  const PrinterSettings& settings;
+  const Documents& documents;
+  const PrinterList& printers;
+
+  // The options that the job would have; of all pages where the page range is wrong.
+  OptionList options() const;
+  // All that decides how the sheets will look. Pictures that somebody keeps stay as they are
+  // stored.
+  Preparation preparation(bool keepsPictures) const;
+  // All that a sequence of jobs needs; without an output folder for a queue.
+  JobSequence::Order order(const std::filesystem::path& output) const;
+
+ private:
+  JobRequest request() const;
+};
+
+}  // namespace tavrin
