@@ -258,7 +258,7 @@ void PrintDialog::print() {
   if (task.stage() == PrintTask::Stage::turning) return task.printBacks(turnPage->backOrder());
   if (QtToolkit* toolkit = QtToolkit::installed()) toolkit->settle();
   if (!isVisible()) return;  // it was left meanwhile
-  if (!task.fields().pageRanges()) return general->focusPageRange();
+  if (!task.fields().pagesProblem().isEmpty()) return general->focusPageRange();
   task.target() == PrintTask::Target::file ? save() : task.print();
 }
 

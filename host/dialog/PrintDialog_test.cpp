@@ -421,10 +421,14 @@ TEST_F(PrintDialogTest, DoesNotPrintWhereNoPageIsLeft) {
   PrintDialog dialog(task);
   task.usePrinterWithoutQueue(samplePPD(), place.path());
   dialog.show();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return task.fields().documentPages() > 0; }, kPatience));
   task.fields().setPages({false, "50"});
   press(dialog, "print");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return task.canPrint(); }, kPatience));
-  EXPECT_TRUE(dialog.findChild<Note*>("note")->text().contains("has only one page"));
+  EXPECT_TRUE(task.canPrint());
+  EXPECT_EQ(dialog.findChild<QLabel*>("pageRangeProblem")->text(),
+            "The document has one page; the range “50” holds none of them.");
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "pageRange");
+  EXPECT_FALSE(dialog.findChild<Note*>("note")->text().contains("one page")) << "it is said once";
 }
 
 TEST_F(PrintDialogTest, TheTabKeyGoesFromTopToBottom) {

@@ -1,5 +1,7 @@
 #include "host/general/GeneralArea.h"
 
+#include <chrono>
+
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,6 +26,9 @@
 
 namespace tavrin {
 namespace {
+
+// Longer than the pauses between two keys, shorter than the way to the next field.
+constexpr std::chrono::milliseconds kTypingRest(800);
 
 // A row of the form that holds several widgets.
 QHBoxLayout* makeLine(QWidget* row) {
@@ -98,12 +103,15 @@ void GeneralArea::addPageSetRow() {
 }
 
 void GeneralArea::connectPages() {
+  typingRest.setSingleShot(true);
+  typingRest.setInterval(kTypingRest);
+  connect(&typingRest, &QTimer::timeout, this, &GeneralArea::showRangeProblem);
   connect(&task.fields(), &JobFields::changed, this, &GeneralArea::showWhatMatters);
   connect(rangeEdit, &QLineEdit::textEdited, this, [this] {
     somePages->setChecked(true);
     takePages();
     // A range that is being typed is not wrong yet; but one that was wrong may be right now.
-    if (!rangeProblem->isHidden()) showRangeProblem();
+    rangeProblem->isHidden() ? typingRest.start() : showRangeProblem();
   });
   for (QRadioButton* button : {allPages, somePages})
     connect(button, &QRadioButton::clicked, this, [this] {
@@ -148,6 +156,7 @@ void GeneralArea::focusPageRange() {
 }
 
 void GeneralArea::showRangeProblem() {
+  typingRest.stop();
   const QString problem = task.fields().pagesProblem();
   rangeProblem->setText(problem);
   rangeProblem->setVisible(!problem.isEmpty());

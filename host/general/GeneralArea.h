@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <cups/ppd.h>
 
@@ -59,6 +60,7 @@ class GeneralArea : public QWidget {
   QRadioButton* somePages;
   QLineEdit* rangeEdit;
   QLabel* rangeProblem;
+  QTimer typingRest;  // until a range counts as written
   PPDMarks* marks = nullptr;
   QWidget* papers = nullptr;
   PaperSizeBoxes* ownPaper = nullptr;  // null where the printer takes no such paper

@@ -18,6 +18,8 @@
 namespace tavrin {
 namespace {
 
+constexpr int kPatience = 20'000;  // milliseconds, on a machine that has much to do
+
 class GeneralAreaTest : public testing::Test {
  protected:
   PrintTask task{{}};
@@ -56,6 +58,13 @@ TEST_F(GeneralAreaTest, AWrongRangeIsForgivenAsSoonAsItIsRight) {
   EXPECT_FALSE(problem->isHidden());
   QTest::keyClicks(range, "0");
   EXPECT_TRUE(problem->isHidden());
+}
+
+TEST_F(GeneralAreaTest, AWrongRangeIsToldAsSoonAsTypingRests) {
+  const auto* problem = area.findChild<QLabel*>("pageRangeProblem");
+  QTest::keyClicks(area.findChild<QLineEdit*>("pageRange"), "3,x");
+  EXPECT_TRUE(problem->isHidden());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !problem->isHidden(); }, kPatience));
 }
 
 TEST_F(GeneralAreaTest, TheRangeCountsOnlyWhileItIsChosen) {

@@ -37,6 +37,8 @@ void TaskPreview::refresh() {
   // The job wants the processor.
   const bool isTaken = task.isSending() || task.stage() == PrintTask::Stage::done;
   if (isTaken || area.isHidden()) return area.pause();
+  // What is wrong with the pages is said beside them.
+  if (!task.fields().pagesProblem().isEmpty()) return area.showNothing({});
   if (task.session()) return task.documents().areKnown() ? area.show(previewOf(task)) : area.wait();
   area.showNothing(task.canPrint()
                        ? tr("The printer gets the document as it is, so there is nothing to show.")
