@@ -114,7 +114,7 @@ Result<CommandLine> parseCommandLine(const std::vector<std::string>& arguments) 
   addAll(parser);
   // The parser expects the program's name in front.
   if (!parser.parse(QStringList{"tavrin-print"} + charactersOf(arguments)))
-    return failure(bytesOf(parser.errorText()));
+    return failure(bytesOf(parser.errorText().replace('\'', '"')));
   if (const std::string problem = disagreement(parser); !problem.empty()) return failure(problem);
   CommandLine line = filledIn(parser);
   if (parser.isSet(kVersion)) line.wish = CommandLine::Wish::version;
@@ -136,10 +136,14 @@ std::string usage() {
          "                         each in a folder of its own; else the current folder\n"
          "  --no-preview           does not show how the sheets will come out\n"
          "  --no-dialog --save FILE  saves the sheets as a PDF, as the preview would show\n"
-         "                         them for that printer, and asks nothing; FILE is new\n"
+         "                         them for that printer, and asks nothing; FILE is new.\n"
+         "                         Where no printer is named, the sheets are the usual\n"
+         "                         papers without margins, as for Save as PDF\n"
          "  -n COPIES              how many copies, from 1 to 9999\n"
          "  -t TITLE               the job's name; else the document's\n"
-         "  -o NAME=VALUE          an option of the job, as for lp; may be repeated\n"
+         "  -o NAME=VALUE          an option of the job, as for lp; may be repeated. A value\n"
+         "                         that the printer does not have is named as a warning\n"
+         "                         and left out; the exit status stays the same\n"
          "  FILE                   a document; - or none is standard input\n"
          "  --help, --version      show this text or the version, and print nothing\n\n"
          "Exit status: 0 printed, 1 cancelled, 2 wrong usage, 3 could not print.\n";

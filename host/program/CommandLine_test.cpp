@@ -78,7 +78,7 @@ TEST(CommandLine, IsQuotedInUtf8) {
   EXPECT_EQ(
       refusal({"-n", "\xFC"}),
       "“\uFFFD” is not a number of copies; a job has 1 to 9999 copies. See tavrin-print --help.");
-  EXPECT_EQ(refusal({"--d\u00FCnn"}), "Unknown option 'd\u00FCnn'. See tavrin-print --help.");
+  EXPECT_EQ(refusal({"--d\u00FCnn"}), "Unknown option \"d\u00FCnn\". See tavrin-print --help.");
 }
 
 TEST(CommandLine, ThatCannotBeIsRefusedWithTheReason) {

@@ -50,7 +50,7 @@ TEST(Program, TellsHowItIsUsed) {
 }
 
 TEST(Program, RefusesWrongUsage) {
-  expectRefusal("--frobnicate", 2, "'frobnicate'. See tavrin-print --help.");
+  expectRefusal("--frobnicate", 2, "\"frobnicate\". See tavrin-print --help.");
   expectRefusal("-n none a.pdf", 2, "none");
   expectRefusal("- -", 2, "only one of the documents");
   expectRefusal("--ppd '' a.pdf", 2, "--ppd needs a value.");

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <unistd.h>
 
+#include "platform/text/Quoted.h"
 #include "platform/text/Visible.h"
 
 namespace tavrin {
@@ -26,7 +27,7 @@ bool canReadStandardInput() {
 }
 
 void writeError(const std::string& program, const std::string& sentence) {
-  std::cerr << visible(program + ": " + sentence) << '\n';
+  std::cerr << visible(plainlyQuoted(program + ": " + sentence)) << '\n';
 }
 
 std::string writeOutput(const std::string& text) {

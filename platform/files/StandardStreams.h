@@ -15,7 +15,8 @@ void occupyStandardStreams();
 // Whether standard input can be read; false when it was closed.
 bool canReadStandardInput();
 
-// Writes "program: sentence" and a line break on standard error, made visible.
+// Writes "program: sentence" and a line break on standard error, made visible and plainly
+// quoted.
 void writeError(const std::string& program, const std::string& sentence);
 
 // Writes text on standard output, made visible but for its line breaks, and sees it through. Empty,

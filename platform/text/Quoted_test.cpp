@@ -16,6 +16,11 @@ TEST(Quoted, IsCutBetweenCharacters) {
   EXPECT_EQ(quotedInShort(std::string(199, 'x') + "\u00FC"), '"' + std::string(199, 'x') + "...\"");
 }
 
+TEST(Quoted, OnATerminalThereIsOneKindOfMarks) {
+  EXPECT_EQ(plainlyQuoted("“a” is not “b”, nor \"c\"."), "\"a\" is not \"b\", nor \"c\".");
+  EXPECT_EQ(plainlyQuoted("The printer’s “"), "The printer’s \"");
+}
+
 TEST(Quoted, AWordForAShellIsOneWord) {
   EXPECT_EQ(shellQuoted("photo-7"), "'photo-7'");
   EXPECT_EQ(shellQuoted("a b; rm c"), "'a b; rm c'");

@@ -49,7 +49,7 @@ Result<Options> parseOptions(const std::vector<std::string>& arguments) {
   QCommandLineParser parser;
   describe(parser);
   if (!parser.parse(charactersOf(arguments)))
-    return Failure{validUtf8(bytesOf(parser.errorText()))};
+    return Failure{validUtf8(bytesOf(parser.errorText().replace('\'', '"')))};
   return optionsFrom(parser);
 }
 

@@ -53,7 +53,7 @@ TEST(Options, NamesWhatItCannotUnderstand) {
   const auto second = parsed({"one.jsonl", "two.jsonl"});
   ASSERT_FALSE(second);
   EXPECT_NE(second.reason().find("two.jsonl"), std::string::npos);
-  EXPECT_EQ(parsed({"--l\u00E4rm"}).reason(), "Unknown option 'l\u00E4rm'.");
+  EXPECT_EQ(parsed({"--l\u00E4rm"}).reason(), "Unknown option \"l\u00E4rm\".");
   EXPECT_NE(parsed({"one.jsonl", "caf\xE9"}).reason().find("\"caf\uFFFD\""), std::string::npos);
   const auto nameless = parsed({"--root", ""});
   ASSERT_FALSE(nameless);
