@@ -27,9 +27,9 @@
 #include "host/notes/Note.h"
 #include "host/notes/TaskNote.h"
 #include "host/pages/ResultPage.h"
+#include "host/pages/TaskInWords.h"
 #include "host/pages/TurnPage.h"
 #include "host/panes/Widgets.h"
-#include "host/request/JobInWords.h"
 #include "host/sheets/PreviewArea.h"
 #include "host/sheets/PreviewSwitch.h"
 #include "host/sheets/TaskPreview.h"
@@ -75,7 +75,7 @@ PrintDialog::PrintDialog(PrintTask& theTask, QWidget* parent)
       previewSwitch(makeChild<PreviewSwitch>(*preview, *pages, this)),
       taskPreview(std::make_unique<TaskPreview>(task, *preview)),
       layoutPane(makeChild<LayoutPane>(task.fields(), switcher)),
-      summaryPane(makeChild<SummaryPane>([this] { return inWords(); },
+      summaryPane(makeChild<SummaryPane>([this] { return taskInWords(task); },
                                          [this] { return allLines(); }, switcher)) {
   build();
   connectParts();
@@ -131,9 +131,10 @@ void PrintDialog::connectTask() {
   connect(&task, &PrintTask::sessionRestarted, switcher, &PaneSwitcher::showAgain);
   connect(&task, &PrintTask::stageChanged, this, &PrintDialog::showStage);
   connect(&task, &PrintTask::documentsChanged, this, &PrintDialog::showTitle);
-  connect(&task, &PrintTask::optionsChanged, summaryPane, [this] {
-    if (summaryPane->isVisible()) summaryPane->willShow();
-  });
+  for (const auto signal : {&PrintTask::optionsChanged, &PrintTask::documentsChanged})
+    connect(&task, signal, summaryPane, [this] {
+      if (summaryPane->isVisible()) summaryPane->willShow();
+    });
 }
 
 // The same for all printers, panes and notes: from then on, only the person changes it.
@@ -201,11 +202,6 @@ void PrintDialog::showConflicts() {
                                          "%1. Changing one of them puts it right.")
                                           .arg(texts.join(", ")),
                     Note::Kind::information);
-}
-
-QString PrintDialog::inWords() const {
-  const bool hasPrinter = task.printers().chosen() || task.target() != PrintTask::Target::queue;
-  return jobInWords(hasPrinter ? task.options() : task.fields().options());
 }
 
 SummaryPane::Sections PrintDialog::allLines() const {

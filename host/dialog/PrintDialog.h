@@ -72,7 +72,6 @@ class PrintDialog : public QDialog {
   void print();
   void save();
   void leave();
-  QString inWords() const;
   SummaryPane::Sections allLines() const;
 
   PrintTask& task;

@@ -3,8 +3,8 @@
 #include <QEvent>
 
 #include "host/fields/SettingPictures.h"
-#include "host/fields/SettingTexts.h"
 #include "host/panes/Widgets.h"
+#include "host/request/SettingWords.h"
 #include "host/task/JobFields.h"
 
 namespace tavrin {
@@ -41,7 +41,7 @@ void FieldPopUp::changeEvent(QEvent* event) {
 }
 
 void FieldPopUp::refresh() {
-  setCurrentIndex(findData(QString::fromStdString(fields.value(option))));
+  setCurrentIndex(findData(QString::fromStdString(fields.effectiveValue(option))));
 }
 
 }  // namespace tavrin

@@ -13,6 +13,7 @@
 #include "host/panes/Widgets.h"
 #include "host/printer/JobSettings.h"
 #include "host/printer/MarkedOptions.h"
+#include "host/request/SettingWords.h"
 #include "host/task/JobFields.h"
 #include "platform/qt/base/ShownText.h"
 
@@ -33,11 +34,11 @@ void LayoutPane::addRows() {
   addPopUp(kOrientationOption, tr("Orientation"), tr("Orie&ntation:"));
   addScalingRow();
   addPopUp(kPositionOption, tr("Position"), tr("Pos&ition:"));
-  addPopUp(kPagesPerSheetOption, tr("Pages per Sheet"), tr("Pages per &Sheet:"));
+  addPopUp(kPagesPerSheetOption, tr("Pages per Sheet"), tr("P&ages per Sheet:"));
   addSwitch(kBookletOption, tr("Booklet"), tr("Boo&klet"));
   addPopUp(kOrderOnSheetOption, tr("Sequence"), tr("Se&quence:"));
   addPopUp(kBorderOption, tr("Border"), tr("&Border:"));
-  addSwitch(kTogetherOption, tr("Pictures Together"), tr("Pict&ures together on sheets"));
+  addSwitch(kTogetherOption, tr("Pictures Together"), tr("Pict&ures together"));
   connect(findChild<FieldSwitch*>(kBookletOption), &FieldSwitch::clicked, this,
           &LayoutPane::followBooklet);
 }
@@ -114,7 +115,7 @@ bool LayoutPane::isPrintersOwn(const std::string& option) const {
 
 QString LayoutPane::textOf(const Row& row) const {
   if (row.control == scaling) return scaling->summary();
-  return valueText(row.option, fields.value(row.option));
+  return valueText(row.option, fields.effectiveValue(row.option));
 }
 
 Pane::Lines LayoutPane::summary() const {

@@ -65,14 +65,14 @@ TEST_F(LayoutPaneTest, OffersThePrintersWayOfPrintingBothSides) {
 }
 
 TEST_F(LayoutPaneTest, OffersToPrintBothSidesByHandWhereThePrinterCannot) {
-  EXPECT_EQ(control("sides")->itemText(1), "Long Edge") << "who knows what the printer can";
+  EXPECT_EQ(control("sides")->itemText(1), "Long-Edge Binding") << "who knows what the printer can";
   const PPDPtr ppd = makePPD({mirrorOption()});
   PPDMarks marks(*ppd);
   pane.setMarks(&marks);
   EXPECT_EQ(control("sides")->itemText(0), "Off");
   pick("sides", "two-sided-long-edge");
   EXPECT_EQ(fields.value("sides"), "two-sided-long-edge");
-  EXPECT_EQ(line("Two-Sided"), "Long Edge, by hand");
+  EXPECT_EQ(line("Two-Sided"), "Long-Edge Binding, by Hand");
   pane.setMarks(nullptr);
 }
 
@@ -99,6 +99,10 @@ TEST_F(LayoutPaneTest, HasABoxForThePercentage) {
   percent->setValue(50);
   EXPECT_EQ(fields.options(), (OptionList{{"scaling", "50"}}));
   EXPECT_EQ(line("Size on Sheet"), "50 %");
+  fields.setPictures(0, 1);
+  EXPECT_EQ(line("Size on Sheet"), "50 % of actual size");
+  fields.setPictures(1, 1);
+  EXPECT_EQ(percent->text(), "50 % of what fits");
 }
 
 TEST_F(LayoutPaneTest, ShowsASizeThatWasGivenInAnotherWay) {
@@ -131,6 +135,8 @@ TEST_F(LayoutPaneTest, ABookletIsTurnedOverTheShortEdge) {
 TEST_F(LayoutPaneTest, ABookletIsPrintedOnBothSidesByHandWhereThePrinterCannot) {
   control<QCheckBox>("booklet")->click();
   EXPECT_EQ(fields.value("sides"), "two-sided-short-edge");
+  EXPECT_EQ(line("Pages per Sheet"), "2");
+  EXPECT_EQ(control("number-up")->currentText(), "2");
   control<QCheckBox>("booklet")->click();
   EXPECT_EQ(fields.value("sides"), "one-sided");
 }
@@ -138,7 +144,7 @@ TEST_F(LayoutPaneTest, ABookletIsPrintedOnBothSidesByHandWhereThePrinterCannot) 
 TEST_F(LayoutPaneTest, OffersToPutSeveralPicturesTogether) {
   auto* together = control<QCheckBox>("multiple-document-handling");
   EXPECT_TRUE(together->isHidden());
-  fields.setSeveralPictures(true);
+  fields.setPictures(2, 2);
   EXPECT_FALSE(together->isHidden());
   together->click();
   EXPECT_EQ(fields.value("multiple-document-handling"), "single-document");

@@ -14,11 +14,6 @@ namespace {
 
 using Way = ScalingField::Way;
 
-// "50 %" with the sign where the language has it.
-QString withSign(int percent) {
-  return ScalingControl::tr("%1 %", "percent").arg(QLocale().toString(percent));
-}
-
 }  // namespace
 
 ScalingControl::ScalingControl(JobFields& theFields, const QString& name, QWidget* parent)
@@ -33,7 +28,9 @@ ScalingControl::ScalingControl(JobFields& theFields, const QString& name, QWidge
   percent->setObjectName("scaling");
   percent->setAccessibleName(tr("Size in percent"));
   percent->setRange(1, kMostPercent);
-  percent->setSuffix(tr(" %", "behind a number"));
+  percent->setToolTip(
+      toolTipFor(tr("Of the actual size of a page, or of the largest that fits where the page is "
+                    "larger than the paper. Of a picture, always of the largest that fits.")));
   layOut();
   refresh();
   connectParts();
@@ -67,14 +64,27 @@ void ScalingControl::refresh() {
   const QSignalBlocker quiet(percent);
   offerGiven();
   ways->setCurrentIndex(ways->findData(int(fields.scaling().way())));
+  percent->setSuffix(suffix());
   percent->setValue(fields.scaling().percent());
   percent->setVisible(fields.scaling().way() == Way::percent);
 }
 
+// What a share is measured by, where all documents are alike.
+QString ScalingControl::suffix() const {
+  switch (fields.contents()) {
+    case Contents::pages:
+      return tr(" % of actual size", "behind a number");
+    case Contents::pictures:
+      return tr(" % of what fits", "behind a number");
+    case Contents::unknown:
+      break;
+  }
+  return tr(" %", "behind a number");
+}
+
 QString ScalingControl::summary() const {
-  const ScalingField& scaling = fields.scaling();
-  if (scaling.way() == Way::percent) return withSign(scaling.percent());
-  return scalingText(scaling.way());
+  const Way way = fields.scaling().way();
+  return way == Way::percent ? percent->text() : scalingText(way);
 }
 
 }  // namespace tavrin

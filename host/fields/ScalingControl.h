@@ -25,6 +25,7 @@ class ScalingControl : public QWidget {
   void connectParts();
   void refresh();
   void offerGiven();
+  QString suffix() const;
 
   JobFields& fields;
   QComboBox* ways;

@@ -8,6 +8,7 @@
 
 #include "host/fields/SettingPictures.h"
 #include "host/request/JobSetting.h"
+#include "host/request/SettingWords.h"
 
 namespace tavrin {
 namespace {
@@ -27,7 +28,7 @@ TEST(SettingTexts, TellTheValuesOfASettingApart) {
 
 TEST(SettingTexts, SayThatThePersonTurnsThePaperOver) {
   EXPECT_EQ(byHandText("one-sided"), "Off");
-  EXPECT_EQ(byHandText("two-sided-short-edge"), "Short Edge, by hand");
+  EXPECT_EQ(byHandText("two-sided-short-edge"), "Short-Edge Binding, by Hand");
 }
 
 TEST(SettingPictures, TellTheValuesOfASettingApart) {

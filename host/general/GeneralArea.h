@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
 #include <cups/ppd.h>
 
@@ -8,13 +7,11 @@
 
 class QCheckBox;
 class QFormLayout;
-class QLabel;
-class QLineEdit;
-class QRadioButton;
 class QSpinBox;
 
 namespace tavrin {
 
+class PageRows;
 class PaperSizeBoxes;
 class PPDMarks;
 class PrintTask;
@@ -39,13 +36,7 @@ class GeneralArea : public QWidget {
  private:
   void addPrinterRows();
   void addCopiesRow();
-  void addPagesRow();
-  void addPageSetRow();
-  void connectPages();
   void refresh();
-  void takePages();
-  void showRangeProblem();
-  void showRangeHint();
   void showWhatMatters();
   void leaveToPrinter();
   void addPaperRows(const ppd_option_t& option);
@@ -56,11 +47,7 @@ class GeneralArea : public QWidget {
   PrinterPopUp* printerPopUp;
   QSpinBox* copiesBox;
   QCheckBox* collate;
-  QRadioButton* allPages;
-  QRadioButton* somePages;
-  QLineEdit* rangeEdit;
-  QLabel* rangeProblem;
-  QTimer typingRest;  // until a range counts as written
+  PageRows* pages = nullptr;
   PPDMarks* marks = nullptr;
   QWidget* papers = nullptr;
   PaperSizeBoxes* ownPaper = nullptr;  // null where the printer takes no such paper

@@ -97,6 +97,20 @@ TEST_F(GeneralAreaTest, SaysWhenTheDocumentHasNoSuchPage) {
   EXPECT_FALSE(problem->isHidden()) << "5 is odd";
 }
 
+TEST_F(GeneralAreaTest, OffersNoChoiceAmongOnePage) {
+  const auto* range = area.findChild<QLineEdit*>("pageRange");
+  const auto* pageSet = area.findChild<QComboBox*>("page-set");
+  task.fields().setDocumentPages(1);
+  EXPECT_FALSE(range->isEnabled());
+  EXPECT_EQ(range->placeholderText(), "the document has one page");
+  EXPECT_FALSE(pageSet->isEnabled());
+  EXPECT_TRUE(pageSet->toolTip().contains("The document has one page."));
+  task.fields().setDocumentPages(2);
+  EXPECT_TRUE(range->isEnabled());
+  EXPECT_TRUE(pageSet->isEnabled());
+  EXPECT_EQ(pageSet->toolTip(), "");
+}
+
 TEST_F(GeneralAreaTest, CollatesWhereThereAreSeveralCopies) {
   auto* collate = area.findChild<QCheckBox*>("sheet-collate");
   EXPECT_TRUE(collate->isHidden());

@@ -5,7 +5,6 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QStyle>
@@ -14,6 +13,7 @@
 #include "host/notes/Announcement.h"
 #include "host/notes/Headline.h"
 #include "host/notes/ShownSentence.h"
+#include "host/pages/TaskInWords.h"
 #include "host/panes/Widgets.h"
 #include "host/task/PrintTask.h"
 #include "platform/qt/base/ShownText.h"
@@ -87,8 +87,8 @@ QWidget* ResultPage::makeDetails() {
   const bool isOne = task.documents().all().size() == 1;
   QLabel* what = add(isOne ? tr("Document:") : tr("Documents:"), documentsInWords(task));
   if (!isOne) what->setToolTip(toolTipFor(documentNames(task)));
+  add(tr("Contents:"), contentsInWords(task));
   add(tr("Printer:"), shownLine(task.printerName()));
-  add(tr("Copies:"), locale().toString(task.fields().copies()));
   return details;
 }
 

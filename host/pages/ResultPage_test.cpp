@@ -51,9 +51,9 @@ TEST_F(ResultPageTest, SaysWhereTheJobIsAndWhatItWas) {
   EXPECT_EQ(page.findChild<QLabel*>("resultHeadline")->text(), "The job is in the folder");
   EXPECT_EQ(page.findChild<QLabel*>("resultText")->text().toStdString(),
             "The job is in the folder " + (place.path() / "jobs" / "Card").string() + ".");
-  EXPECT_EQ(rows(page),
-            (QStringList{"Document: Card", QString::fromStdString("Printer: " + task.printerName()),
-                         "Copies: 3"}));
+  EXPECT_EQ(rows(page).join("; ").toStdString(),
+            "Document: Card; Contents: 3 copies of all pages, on A4 Sheet; Printer: " +
+                task.printerName());
 }
 
 TEST_F(ResultPageTest, SaysHowManyDocumentsItWas) {

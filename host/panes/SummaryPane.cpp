@@ -57,7 +57,8 @@ SummaryPane::SummaryPane(std::function<QString()> theWords, std::function<Sectio
 }
 
 void SummaryPane::willShow() {
-  sentence->setText(tr("In words: %1.").arg(inWords()));
+  const QString words = inWords();
+  sentence->setText(tr("%1.", "a sentence").arg(words.left(1).toUpper() + words.mid(1)));
   list->setAccessibleDescription(sentence->text());
   list->clear();
   for (const auto& [name, values] : sections()) {

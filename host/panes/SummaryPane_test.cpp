@@ -26,9 +26,8 @@ TEST(SummaryPane, SaysTheJobInWordsForAllSenses) {
   pane.willShow();
   words = "page 2, mirrored";
   pane.willShow();
-  EXPECT_EQ(pane.findChild<QLabel*>("inWords")->text(), "In words: page 2, mirrored.");
-  EXPECT_EQ(pane.findChild<QTreeWidget*>("summary")->accessibleDescription(),
-            "In words: page 2, mirrored.");
+  EXPECT_EQ(pane.findChild<QLabel*>("inWords")->text(), "Page 2, mirrored.");
+  EXPECT_EQ(pane.findChild<QTreeWidget*>("summary")->accessibleDescription(), "Page 2, mirrored.");
 }
 
 TEST(SummaryPane, ToolTipsShowTheirTextAsItIs) {

@@ -84,10 +84,22 @@ void JobFields::setDocumentPages(int pages) {
   if (std::exchange(knownPages, pages) != pages) emit suggestionTaken();
 }
 
-void JobFields::setSeveralPictures(bool several) {
-  if (std::exchange(severalPictures, several) == several) return;
+Contents JobFields::contents() const {
+  if (knownDocuments == 0) return Contents::unknown;
+  if (knownPictures == knownDocuments) return Contents::pictures;
+  return knownPictures == 0 ? Contents::pages : Contents::unknown;
+}
+
+void JobFields::setPictures(int pictures, int documents) {
+  if (knownPictures == pictures && knownDocuments == documents) return;
+  knownPictures = pictures;
+  knownDocuments = documents;
   followChoices();
   tellSuggestion(pagesPerSheet());
+}
+
+bool JobFields::hasPagesToChoose() const {
+  return knownPages != 1 || !pages().all || value(kPageSetOption) != "all";
 }
 
 // --- Settings of the table ---
@@ -98,6 +110,10 @@ const JobFields::Setting& JobFields::setting(const std::string& option) const {
 
 const std::string& JobFields::value(const std::string& option) const {
   return setting(option).value;
+}
+
+std::string JobFields::effectiveValue(const std::string& option) const {
+  return option == kPagesPerSheetOption ? std::to_string(pagesPerSheet()) : value(option);
 }
 
 void JobFields::setValue(const std::string& option, const std::string& value) {
@@ -118,7 +134,7 @@ void JobFields::followChoices() {
     take(settings[option], isWanted ? std::string(value) : findJobSetting(option)->usual());
   };
   follow(kCollateOption, copiesField.byHand && copies() > 1, kCollated);
-  follow(kTogetherOption, severalPictures && pagesPerSheet() > 1, kTogether);
+  follow(kTogetherOption, hasSeveralPictures() && pagesPerSheet() > 1, kTogether);
 }
 
 bool JobFields::suggestValue(const std::string& option, const std::string& value) {
@@ -136,7 +152,7 @@ bool JobFields::matters(const std::string& option) const {
   if (option == kPagesPerSheetOption) return !saysYes(value(kBookletOption));
   if (option == kOrderOnSheetOption || option == kBorderOption) return pagesPerSheet() > 1;
   if (option == kCollateOption) return copies() > 1;
-  if (option == kTogetherOption) return severalPictures;
+  if (option == kTogetherOption) return hasSeveralPictures();
   return true;
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+#include "host/request/JobInWords.h"
 #include "host/request/JobRequest.h"
 #include "host/request/JobSetting.h"
 #include "host/task/ScalingField.h"
@@ -46,10 +47,15 @@ class JobFields : public QObject {
 
   // The setting of this option, which is one of the table (see jobSettings).
   const std::string& value(const std::string& option) const;
+  // The same as it has an effect now: a booklet has two pages on a sheet, whatever is set.
+  std::string effectiveValue(const std::string& option) const;
   // Nothing changes for a value that the setting does not have.
   void setValue(const std::string& option, const std::string& value);
   // False, and nothing changes, for a value that the setting does not have.
   bool suggestValue(const std::string& option, const std::string& value);
+  // Whether there are pages to choose from: not in a document that is known to have one, unless
+  // something else was asked for.
+  bool hasPagesToChoose() const;
   // Whether the setting makes a difference now, such as the order of pages on a sheet where there
   // are several on it. One that does not is not sent if the person has set it.
   bool matters(const std::string& option) const;
@@ -67,9 +73,10 @@ class JobFields : public QObject {
   // How many pages the document has; 0 while nobody knows.
   int documentPages() const { return knownPages; }
   void setDocumentPages(int pages);
-  // Whether the document is several pictures, which can come together on sheets.
-  bool hasSeveralPictures() const { return severalPictures; }
-  void setSeveralPictures(bool several);
+  // What the documents are; unknown at first, and where they are not all alike.
+  Contents contents() const;
+  // How many of the documents are pictures. Several, and nothing else, can come together on sheets.
+  void setPictures(int pictures, int documents);
 
   // Suggests what the request asks for, or else what these options do. A sentence for each option
   // with a value that cannot be meant; else empty.
@@ -99,6 +106,7 @@ class JobFields : public QObject {
 
   template <class T>
   static void take(Field<T>& field, T value);
+  bool hasSeveralPictures() const { return knownPictures > 1 && knownPictures == knownDocuments; }
   void followChoices();
   void tellSuggestion(int pagesPerSheetBefore);
   void tellChoice(int pagesPerSheetBefore);
@@ -113,7 +121,8 @@ class JobFields : public QObject {
   ScalingField scalingField;
   OptionList given;  // to suggest(), in first names
   int knownPages = 0;
-  bool severalPictures = false;
+  int knownDocuments = 0;
+  int knownPictures = 0;
 };
 
 }  // namespace tavrin

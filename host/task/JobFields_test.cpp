@@ -184,11 +184,35 @@ TEST(JobFields, HaveTwoPagesOnASheetOfABooklet) {
 
 TEST(JobFields, PutPicturesTogetherOnlyWhereThereAreSeveral) {
   JobFields fields;
-  fields.setSeveralPictures(true);
+  fields.setPictures(3, 3);
   fields.setValue("multiple-document-handling", "single-document");
   EXPECT_EQ(fields.options(), (OptionList{{"multiple-document-handling", "single-document"}}));
-  fields.setSeveralPictures(false);
+  fields.setPictures(2, 3);
   EXPECT_EQ(fields.options(), OptionList());
+}
+
+TEST(JobFields, OfOnePageLeaveNothingToChoose) {
+  JobFields fields;
+  EXPECT_TRUE(fields.hasPagesToChoose()) << "nobody knows";
+  fields.setDocumentPages(1);
+  EXPECT_FALSE(fields.hasPagesToChoose());
+  fields.suggestPageRange("2");
+  EXPECT_TRUE(fields.hasPagesToChoose()) << "what is wrong can be put right";
+  fields.suggestPageRange("");
+  fields.suggestValue("page-set", "even");
+  EXPECT_TRUE(fields.hasPagesToChoose());
+}
+
+TEST(JobFields, KnowWhatTheDocumentsAre) {
+  JobFields fields;
+  EXPECT_EQ(fields.contents(), Contents::unknown);
+  fields.setPictures(0, 2);
+  EXPECT_EQ(fields.contents(), Contents::pages);
+  fields.setPictures(1, 2);
+  EXPECT_EQ(fields.contents(), Contents::unknown) << "one of each";
+  fields.setPictures(1, 1);
+  EXPECT_EQ(fields.contents(), Contents::pictures);
+  EXPECT_FALSE(fields.matters("multiple-document-handling"));
 }
 
 TEST(JobFields, TellThatTheDocumentHasNoSuchPage) {

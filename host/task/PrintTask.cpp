@@ -1,5 +1,6 @@
 #include "host/task/PrintTask.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -279,7 +280,9 @@ void PrintTask::followFirstDocument() { asked.document = papers.all().front().do
 void PrintTask::takeDocuments() {
   const std::vector<DocumentFacts>& all = papers.all();
   jobFields.setDocumentPages(all.size() == 1 ? all.front().pages : 0);
-  jobFields.setSeveralPictures(all.size() > 1 && arePictures(all));
+  const auto isAPicture = [](const DocumentFacts& document) { return isPicture(document.format); };
+  jobFields.setPictures(static_cast<int>(std::ranges::count_if(all, isAPicture)),
+                        static_cast<int>(all.size()));
   takePaper();
   emit documentsChanged();
   run.documentsKnown();
