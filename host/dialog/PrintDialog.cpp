@@ -108,6 +108,7 @@ void PrintDialog::build() {
   resize(openingSize());
   note->setObjectName("note");
   conflictNote->setObjectName("conflictNote");
+  general->focusCopies();
 }
 
 void PrintDialog::connectParts() {

@@ -535,14 +535,17 @@ TEST_F(PrintDialogTest, ControlAndOAddDocuments) {
   EXPECT_EQ(chooser->fileMode(), QFileDialog::ExistingFiles);
 }
 
-TEST_F(PrintDialogTest, BeginsAtThePrinter) {
+TEST_F(PrintDialogTest, BeginsWhereReturnPrints) {
   PrintTask task(job());
   PrintDialog dialog(task);
   task.usePrinterWithoutQueue(samplePPD(), place.path());
   dialog.show();
   dialog.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  EXPECT_EQ(dialog.focusWidget()->objectName(), "printer");
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "copies");
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(task.stage(), PrintTask::Stage::printing);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return task.arrived() != nullptr; }, kPatience));
 }
 
 TEST_F(PrintDialogTest, OpensAndClosesWhateverThePrintServerDoes) {

@@ -65,6 +65,11 @@ void GeneralArea::refresh() {
 // Copies can be collated where there are several.
 void GeneralArea::showWhatMatters() { collate->setVisible(task.fields().matters(kCollateOption)); }
 
+void GeneralArea::focusCopies() {
+  copiesBox->setFocus();
+  copiesBox->selectAll();
+}
+
 void GeneralArea::focusPageRange() { pages->focusRange(); }
 
 void GeneralArea::setMarks(PPDMarks* theMarks) {

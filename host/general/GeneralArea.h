@@ -25,6 +25,8 @@ class GeneralArea : public QWidget {
   // Shows the task's fields and passes the person's changes on to them. The task outlives the area.
   GeneralArea(PrintTask& task, QWidget* parent);
 
+  // Takes the person to the number of copies: the first control on which Return prints.
+  void focusCopies();
   // Takes the person to the page range, to put it right.
   void focusPageRange();
 
