@@ -57,8 +57,8 @@ room(host/general        platform/text platform/qt/base ppd host/printer host/re
 room(host/notes          platform/text platform/qt/base host/task host/panes)
 room(host/documents      platform/text platform/qt/base host/document host/request host/task
                          host/panes)
-room(host/pages          platform/text platform/qt/base host/printer host/document host/request
-                         host/task host/panes host/documents host/notes)
+room(host/pages          platform/text platform/qt/base ppd host/printer host/document host/request
+                         host/prepare host/task host/panes host/documents host/notes)
 room(host/dialog         platform/text platform/files platform/toolkit platform/qt/base
                          platform/qt/toolkit ppd host/printer host/panels host/request host/task
                          host/sheets host/panes host/fields host/general host/notes host/documents
