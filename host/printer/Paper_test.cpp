@@ -1,5 +1,7 @@
 #include "host/printer/Paper.h"
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "host/printer/PPDLoader.h"
@@ -54,6 +56,36 @@ TEST_F(PaperTest, KnowsTheMarkedPaperWithItsMargins) {
   size.top = 802;
   const Paper expected{QSizeF(595, 842), QMarginsF(10, 40, 30, 20)};
   EXPECT_EQ(markedPaper(*ppd), expected) << "left, top, right, bottom";
+}
+
+TEST_F(PaperTest, MarginsLeaveRoomToPrintOn) {
+  struct Row {
+    float left, bottom, right, top;
+    QMarginsF margins;  // left, top, right, bottom
+  };
+  const float none = std::numeric_limits<float>::quiet_NaN();
+  const float endless = std::numeric_limits<float>::infinity();
+  const std::vector<Row> rows{
+      {-20, 10, 700, 900, {0, 0, 0, 10}},  {500, 10, 100, 832, {0, 10, 0, 10}},
+      {9, 800, 586, 20, {9, 0, 9, 0}},     {297, 10, 298, 832, {0, 10, 0, 10}},
+      {none, 10, 586, none, {0, 0, 0, 0}}, {-endless, -endless, endless, endless, {0, 0, 0, 0}}};
+  mark("PageSize", "A4");
+  ppd_size_t& size = *ppdPageSize(ppd.get(), "A4");
+  for (const Row& row : rows) {
+    size.left = row.left;
+    size.bottom = row.bottom;
+    size.right = row.right;
+    size.top = row.top;
+    EXPECT_EQ(markedPaper(*ppd), (Paper{QSizeF(595, 842), row.margins})) << row.left;
+  }
+  size.width = none;
+  EXPECT_EQ(markedPaper(*ppd), Paper());
+}
+
+TEST_F(PaperTest, SaysToWhichSideThePrinterTurnsPages) {
+  EXPECT_FALSE(markedPaper(*ppd).turnsRight);
+  ppd->landscape = -90;
+  EXPECT_TRUE(markedPaper(*ppd).turnsRight);
 }
 
 TEST_F(PaperTest, TakesA4WhereNoPaperIsMarked) {
