@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "host/document/DocumentName.h"
 
@@ -16,11 +17,12 @@ struct DocumentFacts {
   // The first page as a reader shows it, in points; 0 where nobody knows.
   double width = 0;
   double height = 0;
-  bool isPortrait = true;                        // no page is wider than high
+  std::vector<int> widePages = {};               // those wider than high, from 1, ascending
   bool isStoredOtherwise = false;                // a reader turns the picture, or cuts the pages
   std::filesystem::file_time_type changed = {};  // when, as far as it is known
   std::string problem = {};  // why commands cannot read it, in a sentence; empty when they can
 
+  bool isPortrait() const { return widePages.empty(); }
   bool operator==(const DocumentFacts&) const = default;
 };
 

@@ -12,7 +12,7 @@ namespace tavrin {
 namespace {
 
 constexpr LimitedCommand::Limits kLookLimits{std::chrono::seconds(20), imposerMemory(1 << 30),
-                                             1 << 20};
+                                             16 << 20};
 
 // Numbers that no paper has are as good as none.
 double length(const nlohmann::json& seen, const char* name) {
@@ -54,7 +54,7 @@ void DocumentLook::read() {
     facts.pages = seen.value("pages", 0);
     facts.width = length(seen, "width");
     facts.height = length(seen, "height");
-    facts.isPortrait = seen.value("portrait", true);
+    facts.widePages = seen.value("wide", std::vector<int>());
     facts.isStoredOtherwise = seen.value("storedOtherwise", false);
   } catch (const nlohmann::json::exception&) {
     // It answers with what it was made to answer with; anything else tells nothing.

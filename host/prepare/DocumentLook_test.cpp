@@ -49,7 +49,7 @@ TEST_F(DocumentLookTest, CountsAndMeasuresThePagesOfAPDF) {
   EXPECT_EQ(facts.pages, 3);
   EXPECT_EQ(facts.width, 612);
   EXPECT_EQ(facts.height, 792);
-  EXPECT_TRUE(facts.isPortrait);
+  EXPECT_TRUE(facts.isPortrait());
   EXPECT_FALSE(facts.isStoredOtherwise);
 }
 
@@ -57,17 +57,17 @@ TEST_F(DocumentLookTest, NoticesAPageThatIsWiderThanHigh) {
   const DocumentFacts facts = seen("application/pdf", pdfOfSizes({"300 400", "400 300"}));
   EXPECT_EQ(facts.pages, 2);
   EXPECT_EQ(facts.width, 300) << "the first page's";
-  EXPECT_FALSE(facts.isPortrait);
+  EXPECT_EQ(facts.widePages, std::vector{2});
 }
 
 TEST_F(DocumentLookTest, SeesAPictureAsItsCameraWants) {
   const QImage wide = test::fourCorners(40, 20);
   const DocumentFacts stored = seen("image/jpeg", test::jpegStoredAs(1, wide));
   EXPECT_EQ(stored.pages, 1);
-  EXPECT_FALSE(stored.isPortrait);
+  EXPECT_FALSE(stored.isPortrait());
   EXPECT_FALSE(stored.isStoredOtherwise);
   const DocumentFacts turned = seen("image/jpeg", test::jpegStoredAs(6, wide));
-  EXPECT_TRUE(turned.isPortrait);
+  EXPECT_TRUE(turned.isPortrait());
   EXPECT_TRUE(turned.isStoredOtherwise);
   EXPECT_GT(turned.height, turned.width);
 }

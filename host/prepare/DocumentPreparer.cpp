@@ -1,6 +1,7 @@
 #include "host/prepare/DocumentPreparer.h"
 
 #include <algorithm>
+#include <fstream>
 #include <utility>
 
 #include "host/document/DocumentName.h"
@@ -18,6 +19,7 @@ namespace fs = std::filesystem;
 
 constexpr char kPreparedFile[] = "prepared.pdf";
 constexpr char kTextFile[] = "text.pdf";
+constexpr char kTurnsFile[] = "turns";
 constexpr int kSlow = -1;  // beside the exit statuses
 
 // A picture that must be decoded takes four bytes for each of its dots.
@@ -79,7 +81,7 @@ void DocumentPreparer::prepare(const Batch& batch) {
     if (const QString why = whyNoPage(first, wanted.options); !why.isEmpty())
       return emit nothingLeft(why);
     const bool mustBe = mustBeImposed(first, wanted.options) || wanted.wholeSheets ||
-                        (wanted.keepsPictures && isPicture(first.format));
+                        (wanted.isForFile && isPicture(first.format));
     if (wanted.ppd.empty() || !canBeLaidOut || !mustBe) return passOn(first);
   }
   if (!first.problem.empty()) return fail(shown(first.problem));
@@ -91,7 +93,7 @@ void DocumentPreparer::prepare(const Batch& batch) {
 void DocumentPreparer::passOn(const DocumentFacts& document) {
   const OptionList options =
       isText(document.format) ? withTextMargins(wanted.options, wanted.paper) : wanted.options;
-  done.push_back({document.document, document.file, document.format, options, document, nullptr});
+  done.push_back({document.document, document.file, document.format, options, document});
   start();  // by way of the event loop, as there may be very many
 }
 
@@ -113,6 +115,7 @@ void DocumentPreparer::layOutText(const DocumentFacts& text) {
 void DocumentPreparer::impose(const Batch& batch) {
   QStringList arguments = imposerArguments(wanted.paper, wanted.options);
   if (wanted.wholeSheets) arguments << "--whole-sheets";
+  arguments << "--turns" << shown((folder->path() / kTurnsFile).string());
   for (const DocumentFacts& document : batch)
     arguments << shown(document.format) << shown(document.file.string());
   run({imposer(), arguments, folder->path(), folder->path() / kPreparedFile, kImposerLimits},
@@ -124,8 +127,10 @@ void DocumentPreparer::take(int status) {
   const DocumentFacts& first = batch.front();
   if (status != 0)
     return complain(first, hasRoom(folder->path()) ? status : int(Imposed::cannotWrite));
+  std::string turns;
+  std::ifstream(folder->path() / kTurnsFile) >> turns;
   done.push_back({first.document, folder->path() / kPreparedFile, kPDF,
-                  optionsOnceImposed(wanted.options), inOne(batch),
+                  optionsOnceImposed(wanted.options), inOne(batch), turns,
                   std::exchange(folder, nullptr)});
   prepareNext();
 }

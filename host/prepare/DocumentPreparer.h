@@ -23,8 +23,9 @@ struct Preparation {
   OptionList options = {};   // of the job, all of them
   std::string title = {};    // of the job, which some filters print; empty: each document's name
   bool wholeSheets = false;  // an even number of sides for each document
-  // Pictures stay as they are stored: for a file that somebody keeps, not for a printer.
-  bool keepsPictures = false;
+  // For a file that somebody keeps, not for a printer: pictures stay as they are stored, and sheets
+  // are saved as one reads them.
+  bool isForFile = false;
 
   bool operator==(const Preparation&) const = default;
 };
@@ -36,6 +37,9 @@ struct PreparedDocument {
   std::string format;              // of the file
   OptionList options;              // that it is sent with
   DocumentFacts facts = {};        // of the person's document; of several, the pages of all
+  // Of a document that has been changed, for each of its pages a digit: how many quarters of a
+  // circle clockwise bring what is on it upright.
+  std::string turns = {};
   // Holds the file where the document has been changed; null where it goes as it is.
   std::shared_ptr<const HiddenFolder> folder = {};
 };

@@ -79,7 +79,7 @@ bool hasOrientation(const OptionList& options) {
 }
 
 bool isPortraitAnyway(const DocumentFacts& document, const OptionList& options) {
-  return document.isPortrait && !isOther(options, kOrientationOption, {"3"}) &&
+  return document.isPortrait() && !isOther(options, kOrientationOption, {"3"}) &&
          !isOther(options, "landscape", {"false"});
 }
 
@@ -104,7 +104,7 @@ bool mustPDFBeImposed(const DocumentFacts& document, const OptionList& options) 
   if (hasPageRange(options) && hasPageSet(options)) return true;
   if (hasOrientation(options) && !isPortraitAnyway(document, options)) return true;
   return hasSeveralPagesOnASheet(options) &&
-         (choosesPages(options) || isPositioned(options) || !document.isPortrait);
+         (choosesPages(options) || isPositioned(options) || !document.isPortrait());
 }
 
 // A picture that is larger than the paper would come on several sheets.

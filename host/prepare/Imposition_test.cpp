@@ -15,7 +15,7 @@ DocumentFacts facts(const std::string& format, int pages) {
 DocumentFacts pdf() { return facts("application/pdf", 8); }
 DocumentFacts widePDF() {
   DocumentFacts wide = pdf();
-  wide.isPortrait = false;
+  wide.widePages = {1, 2, 3, 4, 5, 6, 7, 8};
   return wide;
 }
 DocumentFacts picture(const std::string& kind = "jpeg") { return facts("image/" + kind, 1); }

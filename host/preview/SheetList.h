@@ -10,7 +10,10 @@ struct Sheet {
   double width = 0;   // points, before it is turned
   double height = 0;  // points
   int rotation = 0;   // how far a reader turns it clockwise to show it: 0, 90, 180 or 270 degrees
+  // How far it must be turned clockwise, in place of that, so that what is on it is upright.
+  int upright = 0;
 
+  bool liesOnItsSide() const { return upright % 180 != 0; }  // for reading
   bool operator==(const Sheet&) const = default;
 };
 

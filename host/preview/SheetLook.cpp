@@ -84,18 +84,23 @@ bool isTwoSided(const OptionList& options) {
   return has(options, kSidesOption, {"two-sided-long-edge", "two-sided-short-edge"});
 }
 
-std::vector<int> pagesOnSheet(int sheet, int pages, const OptionList& options) {
+std::vector<std::vector<int>> pagesOnSheets(int pages, const OptionList& options) {
   if (!isOrdinary(options)) return {};
-  const int each = pagesPerSheet(options);
-  std::vector<int> chosen;
-  for (int page = 1; page <= pages; ++page)
-    if (!isLeftOut(page, options)) chosen.push_back(page);
-  const int count = static_cast<int>(chosen.size());
-  const int sheets = (count + each - 1) / each;
-  if (sheet < 1 || sheet > sheets) return {};
-  if (has(options, "outputorder", {"reverse"})) sheet = sheets + 1 - sheet;
-  const int first = (sheet - 1) * each;
-  return {chosen.begin() + first, chosen.begin() + std::min(first + each, count)};
+  const auto each = static_cast<std::size_t>(pagesPerSheet(options));
+  std::vector<std::vector<int>> sheets;
+  for (int page = 1; page <= pages; ++page) {
+    if (isLeftOut(page, options)) continue;
+    if (sheets.empty() || sheets.back().size() == each) sheets.emplace_back();
+    sheets.back().push_back(page);
+  }
+  if (has(options, "outputorder", {"reverse"})) std::ranges::reverse(sheets);
+  return sheets;
+}
+
+std::vector<int> pagesOnSheet(int sheet, int pages, const OptionList& options) {
+  const auto sheets = pagesOnSheets(pages, options);
+  const bool isThere = sheet >= 1 && sheet <= static_cast<int>(sheets.size());
+  return isThere ? sheets[static_cast<std::size_t>(sheet) - 1] : std::vector<int>();
 }
 
 }  // namespace tavrin

@@ -15,8 +15,11 @@ bool isMirrored(const OptionList& options);
 // Whether two sheets in succession are the front and the back of one.
 bool isTwoSided(const OptionList& options);
 
-// The pages of the document on a sheet, both counted from 1, for a document of that many pages.
-// Empty where the options order the pages in a way that only the filters know.
+// The pages of a document of that many pages on each sheet, counted from 1. Empty where the options
+// order the pages in a way that only the filters know.
+std::vector<std::vector<int>> pagesOnSheets(int pages, const OptionList& options);
+
+// Those on one sheet, which is counted from 1, too; none where there is no such sheet.
 std::vector<int> pagesOnSheet(int sheet, int pages, const OptionList& options);
 
 }  // namespace tavrin

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "host/prepare/FilterCall.h"
+#include "host/preview/UprightTurns.h"
 #include "host/request/JobOptions.h"
 
 namespace tavrin {
@@ -42,9 +43,9 @@ bool beginsLikePDF(const std::filesystem::path& file) {
 
 }  // namespace
 
-SheetMaker::SheetMaker(PreparedDocument theDocument, std::string thePPD, std::string theTitle,
-                       QObject* parent)
-    : QObject(parent), ppd(std::move(thePPD)), title(std::move(theTitle)) {
+SheetMaker::SheetMaker(PreparedDocument theDocument, std::string thePPD, const Paper& thePaper,
+                       std::string theTitle, QObject* parent)
+    : QObject(parent), ppd(std::move(thePPD)), paper(thePaper), title(std::move(theTitle)) {
   sheets.document = std::move(theDocument);
   PreparedDocument& made = sheets.document;
   if (const OptString named = optionValue(made.options, kFormatOption)) made.format = *named;
@@ -99,6 +100,7 @@ void SheetMaker::lookAtSheets() {
        kInfoLimits},
       [=, this](LimitedCommand::End end) {
         sheets.list = sheetsFromInfo(contentsOf(info));
+        setUpright(sheets.list, document(), paper);
         end == kWell && !sheets.list.empty() ? emit made(sheets)
                                              : complain(LimitedCommand::End::failed);
       });

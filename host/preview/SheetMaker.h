@@ -16,8 +16,9 @@ class SheetMaker : public QObject {
   Q_OBJECT
 
  public:
-  // The PPD's text, empty for a printer that takes documents as they are, and the job's title.
-  SheetMaker(PreparedDocument document, std::string ppd, std::string title,
+  // The PPD's text, empty for a printer that takes documents as they are, the paper that is marked
+  // in it, and the job's title.
+  SheetMaker(PreparedDocument document, std::string ppd, const Paper& paper, std::string title,
              QObject* parent = nullptr);
 
   // Answered by one of the signals, unless the maker is gone by then.
@@ -39,6 +40,7 @@ class SheetMaker : public QObject {
   void complain(LimitedCommand::End end);
 
   std::string ppd;
+  Paper paper;
   std::string title;
   LaidOutDocument sheets;
   std::unique_ptr<LimitedCommand> command;

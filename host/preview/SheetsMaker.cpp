@@ -20,7 +20,7 @@ void SheetsMaker::layOutNext() {
   if (sheets.documents.size() == prepared.size()) return emit made(sheets);
   const PreparedDocument& next = prepared[sheets.documents.size()];
   const std::string title = wanted.title.empty() ? documentName(next.document) : wanted.title;
-  maker = std::make_unique<SheetMaker>(next, wanted.ppd, title);
+  maker = std::make_unique<SheetMaker>(next, wanted.ppd, wanted.paper, title);
   connect(maker.get(), &SheetMaker::failed, this, &SheetsMaker::failed);
   connect(maker.get(), &SheetMaker::nothingLeft, this, [this] {
     emit nothingLeft(

@@ -7,6 +7,8 @@
 #include <stdio.h>
 #include <unistd.h>
 
+#include "host/prepare/FilterCall.h"
+#include "host/prepare/Imposer.h"
 #include "host/support/Cancellable.h"
 #include "host/ticket/DurableFile.h"
 #include "platform/files/FileDescriptor.h"
@@ -22,8 +24,9 @@ using Existing = SheetsSaver::Existing;
 
 constexpr char kUnitedFile[] = "united.pdf";
 constexpr std::size_t kPiece = 1 << 16;  // bytes
-constexpr LimitedCommand::Limits kUniteLimits{std::chrono::seconds(60), std::uint64_t(2) << 30,
-                                              std::uint64_t(4) << 30};
+constexpr int kQuarter = 90;
+constexpr LimitedCommand::Limits kUniteLimits{
+    std::chrono::seconds(60), imposerMemory(std::uint64_t(3) << 30), std::uint64_t(4) << 30};
 
 Failure cannotSave(const fs::path& file, int problem) {
   if (problem == EEXIST)
@@ -71,29 +74,41 @@ Cancellable<Done> copyTo(const fs::path& pdf, const fs::path& target, Existing e
 void SheetsSaver::save(const Preparation& preparation, const fs::path& file, Existing existing) {
   target = file;
   whatIsThere = existing;
+  isForFile = preparation.isForFile;
   maker = std::make_unique<SheetsMaker>(preparation);
   connect(maker.get(), &SheetsMaker::failed, this, &SheetsSaver::fail);
   connect(maker.get(), &SheetsMaker::nothingLeft, this, &SheetsSaver::nothingLeft);
-  connect(maker.get(), &SheetsMaker::made, this, &SheetsSaver::unite);
+  connect(maker.get(), &SheetsMaker::made, this, &SheetsSaver::take);
   maker->start();
 }
 
-void SheetsSaver::unite(const Sheets& sheets) {
+void SheetsSaver::take(const Sheets& sheets) {
   made = sheets;
-  if (made.documents.size() == 1) return write(made.documents.front().pdf);
+  std::string turns;
+  bool isAsItIs = made.documents.size() == 1;
+  for (const LaidOutDocument& document : made.documents)
+    for (const Sheet& sheet : document.list) {
+      const int turn = isForFile ? sheet.upright : sheet.rotation;
+      isAsItIs = isAsItIs && turn == sheet.rotation;
+      turns += static_cast<char>('0' + turn / kQuarter);
+    }
+  isAsItIs ? write(made.documents.front().pdf) : unite(turns);
+}
+
+void SheetsSaver::unite(const std::string& turns) {
   folder = temporaryHiddenFolder();
   if (!folder) return fail(tr("There is no room in the temporary folder to save the sheets."));
-  QStringList files;
+  QStringList arguments{"--join", QString::fromStdString(turns)};
   for (const LaidOutDocument& document : made.documents)
-    files << QString::fromStdString(document.pdf.string());
+    arguments << kPDF << QString::fromStdString(document.pdf.string());
   const fs::path united = folder->path() / kUnitedFile;
-  files << QString::fromStdString(united.string());
   command = std::make_unique<LimitedCommand>(
-      LimitedCommand::Call{LimitedCommand::find("pdfunite"), files, folder->path(),
-                           folder->path() / "said", kUniteLimits});
+      LimitedCommand::Call{imposer(), arguments, folder->path(), united, kUniteLimits});
   connect(command.get(), &LimitedCommand::ended, this, [=, this](LimitedCommand::End end) {
     if (end == LimitedCommand::End::well) return write(united);
-    fail(tr("The sheets of the documents cannot be put into one file. Save them one by one."));
+    fail(made.documents.size() > 1
+             ? tr("The sheets of the documents cannot be put into one file. Save them one by one.")
+             : tr("The sheets cannot be put into a file. Save fewer pages at a time."));
   });
   command->start();
 }

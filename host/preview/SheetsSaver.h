@@ -11,7 +11,8 @@
 
 namespace tavrin {
 
-// Writes the sheets that a preview shows into one PDF, instead of printing them.
+// Writes the sheets that a preview shows into one PDF, instead of printing them: those of a printer
+// as the printer gets them, others as one reads them.
 class SheetsSaver : public QObject {
   Q_OBJECT
 
@@ -33,12 +34,14 @@ class SheetsSaver : public QObject {
   void failed(const QString& reason);
 
  private:
-  void unite(const Sheets& sheets);
+  void take(const Sheets& sheets);
+  void unite(const std::string& turns);
   void write(const std::filesystem::path& pdf);
   void fail(const QString& reason);
 
   std::filesystem::path target;
   Existing whatIsThere = Existing::stays;
+  bool isForFile = false;  // and no printer's
   std::unique_ptr<SheetsMaker> maker;
   Sheets made;  // holds the files that are being written
   std::shared_ptr<const HiddenFolder> folder;

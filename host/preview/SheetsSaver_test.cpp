@@ -189,7 +189,7 @@ TEST_F(SheetsSaverTest, GivesUpWhileItPutsTheSheetsTogether) {
   fs::create_directory(temporary);
   const auto isUniting = [&] {
     return std::ranges::any_of(fs::directory_iterator(temporary), [](const auto& folder) {
-      return fs::exists(folder.path() / "said");
+      return fs::exists(folder.path() / "united.pdf");
     });
   };
   const Preparation several = sheetsOf({1, 2});

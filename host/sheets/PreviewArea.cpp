@@ -164,7 +164,8 @@ void PreviewArea::showSheet() {
 QSizeF PreviewArea::sizeOf(int sheet) const {
   const SheetPlace place = preview.sheets().at(sheet);
   const Sheet& found = place.document.list[static_cast<std::size_t>(place.index)];
-  return QSizeF(found.width, found.height);
+  const QSizeF size(found.width, found.height);
+  return found.liesOnItsSide() ? size.transposed() : size;
 }
 
 void PreviewArea::wantPicture() {

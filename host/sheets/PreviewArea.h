@@ -55,7 +55,7 @@ class PreviewArea : public QWidget {
   void describeSheet();
   void say(const QString& message);
   QString shownName() const;
-  QSizeF sizeOf(int sheet) const;  // points
+  QSizeF sizeOf(int sheet) const;  // points, as it is read
   double scaleOf(int step) const;  // pixels a point
   void zoomBy(int direction);
   void setZoom(int step);

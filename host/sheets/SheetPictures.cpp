@@ -12,9 +12,10 @@ constexpr int kLargest = 4500;   // pixels of the longer side
 constexpr int kKept = 96 << 10;  // KiB of all pictures; more than the largest one
 constexpr std::chrono::milliseconds kRest(40);
 
-// The filters turn what is wider than high.
+// A reader has turned it otherwise.
 QImage upright(const QImage& picture, const Sheet& sheet) {
-  return sheet.rotation ? picture.transformed(QTransform().rotate(-sheet.rotation)) : picture;
+  const int turn = sheet.upright - sheet.rotation;
+  return turn ? picture.transformed(QTransform().rotate(turn)) : picture;
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ OptionList JobDraft::options() const {
   return jobOptions(request(), session ? &session->ppd() : nullptr);
 }
 
-Preparation JobDraft::preparation(bool keepsPictures) const {
+Preparation JobDraft::preparation(bool isForFile) const {
   Preparation wanted{documents.all()};
   wanted.options = options();
   wanted.title = asked.title;
@@ -45,7 +45,7 @@ Preparation JobDraft::preparation(bool keepsPictures) const {
   wanted.ppd = sourceOf(session->sharedPPD());
   wanted.paper = markedPaper(session->ppd());
   wanted.wholeSheets = needsTwoPasses(wanted.options, session->ppd());
-  wanted.keepsPictures = keepsPictures;
+  wanted.isForFile = isForFile;
   return wanted;
 }
 

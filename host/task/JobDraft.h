@@ -21,7 +21,7 @@ struct JobDraft {
   OptionList options() const;
   // All that decides how the sheets will look. Pictures that somebody keeps stay as they are
   // stored.
-  Preparation preparation(bool keepsPictures) const;
+  Preparation preparation(bool isForFile) const;
   // All that a sequence of jobs needs; without an output folder for a queue.
   JobSequence::Order order(const std::filesystem::path& output) const;
 

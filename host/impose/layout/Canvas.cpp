@@ -37,7 +37,7 @@ Margins marginsOf(Turn turn, const Margins& m) {
 Canvas canvasOn(const Paper& paper, Turn turn) {
   const bool isOnItsSide = turn == Turn::left || turn == Turn::right;
   const Size size = isOnItsSide ? onItsSide(paper.size) : paper.size;
-  return {size, within(size, marginsOf(turn, paper.margins)), matrixOf(turn, paper.size)};
+  return {size, within(size, marginsOf(turn, paper.margins)), matrixOf(turn, paper.size), turn};
 }
 
 }  // namespace tavrin

@@ -16,6 +16,7 @@ struct Canvas {
   Size size;
   Rect printable;
   Matrix toPaper;
+  Turn turn = Turn::upright;  // that it was made with
 };
 
 Canvas canvasOn(const Paper& paper, Turn turn);

@@ -72,6 +72,7 @@ class Imposer {
 
   Sheet filled(const SheetTemplate& places, const CellPages& sheet) const {
     Sheet result;
+    result.turn = places.canvas.turn;
     for (std::size_t cell = 0; cell < sheet.size(); ++cell)
       if (sheet[cell] != kNoPage) add(sheet[cell], places.cells[cell], places.canvas, result);
     return result;

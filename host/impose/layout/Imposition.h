@@ -19,6 +19,7 @@ struct PlacedPage {
 struct Sheet {
   std::vector<PlacedPage> pages;
   std::vector<Frame> frames;
+  Turn turn = Turn::upright;  // how what is to be read lies on it
 };
 
 // The sheets that the pages come out on. None when the options ask for no page that is there.

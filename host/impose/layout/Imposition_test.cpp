@@ -249,6 +249,21 @@ TEST(ImpositionTest, NoPageIsNoSheet) {
   EXPECT_TRUE(sheets({page(600, 800)}, {{"page-ranges", "2"}}, true).empty());
 }
 
+TEST(ImpositionTest, EachSheetSaysHowItLies) {
+  const auto turnOf = [](const PageLook& look, const OptionList& options) {
+    return sheets({look, look}, options)[0].turn;
+  };
+  EXPECT_EQ(turnOf(picture(57, 73), {}), Turn::upright);
+  EXPECT_EQ(turnOf(picture(73, 57), {}), Turn::left);
+  EXPECT_EQ(turnOf(page(200, 100), {{"orientation-requested", "5"}}), Turn::right);
+  EXPECT_EQ(turnOf(page(200, 100), {{"orientation-requested", "6"}}), Turn::upsideDown);
+  EXPECT_EQ(turnOf(page(600, 800), {{"number-up", "2"}}), Turn::left);
+  EXPECT_EQ(turnOf(page(600, 800), {{"booklet", "true"}}), Turn::left);
+  const auto mixed = sheets({page(600, 800), page(800, 600)}, {});
+  EXPECT_EQ(mixed[0].turn, Turn::upright);
+  EXPECT_EQ(mixed[1].turn, Turn::left);
+}
+
 TEST(ImpositionTest, NothingIsTurnedInsideOutOnTheSmallestPaper) {
   const Paper stamp{{30, 30}, {1, 1, 1, 1}};
   const auto result =

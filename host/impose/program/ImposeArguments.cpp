@@ -11,8 +11,9 @@ namespace tavrin {
 namespace {
 
 constexpr char kUsage[] =
-    " Usage: tavrin-impose --look FORMAT FILE, or tavrin-impose --paper WIDTHxHEIGHT "
-    "--margins LEFT,BOTTOM,RIGHT,TOP [--whole-sheets] [-o NAME=VALUE]... FORMAT FILE...";
+    " Usage: tavrin-impose --look FORMAT FILE, or tavrin-impose --join TURNS application/pdf "
+    "FILE..., or tavrin-impose --paper WIDTHxHEIGHT --margins LEFT,BOTTOM,RIGHT,TOP "
+    "[--whole-sheets] [--turns FILE] [-o NAME=VALUE]... FORMAT FILE...";
 constexpr double kLeastRoom = 1;          // points
 constexpr double kLargestPaper = 14'400;  // points
 
@@ -48,7 +49,8 @@ class ArgumentReader {
       return failure("One document can be looked at at a time.");
     const Rect room = within(result.paper.size, result.paper.margins);
     const bool hasRoom = room.width >= kLeastRoom && room.height >= kLeastRoom;
-    if (!result.look && !hasRoom) return failure("There is no paper, or no room on it.");
+    const bool needsPaper = !result.look && result.join.empty();
+    if (needsPaper && !hasRoom) return failure("There is no paper, or no room on it.");
     return result;
   }
 
@@ -61,6 +63,8 @@ class ArgumentReader {
     const std::string& value = arguments[at + 1];
     const bool isSound = name == "--paper"     ? readPaper(value)
                          : name == "--margins" ? readMargins(value)
+                         : name == "--join"    ? readJoin(value)
+                         : name == "--turns"   ? readTurns(value)
                                                : name == "-o" && readJobOption(value);
     if (isSound) at += 2;
     return isSound;
@@ -83,6 +87,16 @@ class ArgumentReader {
     if (lengths.empty()) return false;
     result.paper.margins = {lengths[0], lengths[1], lengths[2], lengths[3]};
     return true;
+  }
+
+  bool readJoin(const std::string& value) {
+    result.join = value;
+    return !value.empty() && value.find_first_not_of("0123") == std::string::npos;
+  }
+
+  bool readTurns(const std::string& value) {
+    result.turns = value;
+    return !value.empty();
   }
 
   bool readJobOption(const std::string& value) {

@@ -18,8 +18,12 @@ struct NamedDocument {
 // What the program is to do.
 struct ImposeArguments {
   bool look = false;  // only look at the one document
-  Paper paper;        // with room to print on
+  // Only put PDFs into one, with this digit for each of their pages: how many quarters of a circle
+  // clockwise a reader turns it.
+  std::string join;
+  Paper paper;  // with room to print on
   bool wholeSheets = false;
+  std::filesystem::path turns;  // the file for such digits of the sheets; empty for none
   OptionList options;
   std::vector<NamedDocument> documents;  // at least one
 };

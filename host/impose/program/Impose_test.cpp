@@ -233,15 +233,35 @@ TEST_F(ImposeTest, ChoosesPagesThroughAllDocuments) {
 TEST_F(ImposeTest, LooksAtADocument) {
   ASSERT_EQ(run("--look" + pdf("a.pdf", numberedPDF(3))), 0);
   EXPECT_EQ(output(),
-            "{\"pages\":3,\"width\":612.0,\"height\":792.0,\"portrait\":true,\"storedOtherwise\":"
+            "{\"pages\":3,\"width\":612.0,\"height\":792.0,\"wide\":[],\"storedOtherwise\":"
             "false}\n");
   const QImage wide = fourCorners(400, 200);
   ASSERT_EQ(run("--look" + image("a.jpg", test::jpegStoredAs(6, wide))), 0);
-  EXPECT_NE(output().find("\"portrait\":true,\"storedOtherwise\":true"), std::string::npos)
-      << output();
+  EXPECT_NE(output().find("\"wide\":[],\"storedOtherwise\":true"), std::string::npos) << output();
   ASSERT_EQ(run("--look" + image("a.jpg", test::encoded(wide, "jpeg"))), 0);
-  EXPECT_NE(output().find("\"portrait\":false,\"storedOtherwise\":false"), std::string::npos)
-      << output();
+  EXPECT_NE(output().find("\"wide\":[1],\"storedOtherwise\":false"), std::string::npos) << output();
+}
+
+TEST_F(ImposeTest, SaysHowEachSheetLies) {
+  const std::string turns = (place.path() / "turns").string();
+  const std::string pictures = image("a.jpg", test::encoded(fourCorners(80, 60), "jpeg")) +
+                               image("b.jpg", test::encoded(fourCorners(60, 80), "jpeg"));
+  ASSERT_EQ(run(kPaper + "--turns " + turns + pictures), 0);
+  EXPECT_EQ(test::textOf(turns), "10");
+  ASSERT_EQ(run(kPaper + "--turns " + turns + " -o orientation-requested=6" + pictures), 0);
+  EXPECT_EQ(test::textOf(turns), "22");
+  EXPECT_EQ(run(kPaper + "--turns /there/is/none" + pictures), 6);
+}
+
+TEST_F(ImposeTest, JoinsPagesAndTurnsThem) {
+  ASSERT_EQ(run("--join 0130" + pdf("a.pdf", numberedPDF(3)) + pdf("b.pdf", numberedPDF(1))), 0);
+  QPDF joined;
+  joined.processFile((place.path() / "out").c_str());
+  std::string turns;
+  for (QPDFPageObjectHelper page : QPDFPageDocumentHelper(joined).getAllPages())
+    turns += page.getAttribute("/Rotate", false).unparse() + " ";
+  EXPECT_EQ(turns, "0 90 270 0 ");
+  EXPECT_EQ(run("--join 01" + pdf("a.pdf", numberedPDF(3))), 1);
 }
 
 std::string locked(const std::string& password) {
@@ -297,6 +317,8 @@ TEST_F(ImposeTest, RefusesACommandThatIsWrong) {
                                        "--paper 300x400x2" + document,
                                        "--paper nanx400" + document,
                                        "--paper 300x" + document,
+                                       "--join 04" + document,
+                                       kPaper + "--turns",
                                        kPaper + "-x" + document,
                                        kPaper + document + " application/pdf",
                                        kPaper + "-o"};
