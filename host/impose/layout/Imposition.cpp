@@ -12,6 +12,13 @@ namespace {
 
 constexpr double kBetter = 1 + 1e-6;  // what rounding makes larger is no reason to turn a page
 
+// The unit square lying on its left side.
+constexpr Matrix kOnItsSide{0, 1, -1, 0, 1, 0};
+
+PageLook onItsSide(const PageLook& page) {
+  return {onItsSide(page.size), page.isPicture, onItsSide(page.pixels)};
+}
+
 double largest(Size page, const SheetTemplate& sheet) {
   return fitScale(page, sheet.cells.front().area.size());
 }
@@ -78,9 +85,21 @@ class Imposer {
     return result;
   }
 
+  // Pictures are looked at one by one, so that each may lie as it gets largest; what is to be read
+  // stays as its neighbours are.
+  bool liesInItsCell(const PageLook& page, const Cell& cell) const {
+    const bool mayTurn = page.isPicture && options.numberUp > 1 && !options.booklet;
+    if (!mayTurn || options.orientation || fitsAsItIs(page, cell.area.size(), options))
+      return false;
+    const Size area = cell.area.size();
+    return fitScale(onItsSide(page.size), area) > fitScale(page.size, area) * kBetter;
+  }
+
   void add(int page, const Cell& cell, const Canvas& canvas, Sheet& sheet) const {
-    const Placement placed = placedIn(cell, pages[page], options);
-    PlacedPage onPaper{page, then(ontoRect(placed.rect), canvas.toPaper), {}};
+    const bool lies = liesInItsCell(pages[page], cell);
+    const Placement placed = placedIn(cell, lies ? onItsSide(pages[page]) : pages[page], options);
+    const Matrix toCanvas = then(lies ? kOnItsSide : Matrix{}, ontoRect(placed.rect));
+    PlacedPage onPaper{page, then(toCanvas, canvas.toPaper), {}};
     if (placed.clip) onPaper.clip = mapped(canvas.toPaper, *placed.clip);
     sheet.pages.push_back(onPaper);
     const Rect shown = placed.clip ? common(placed.rect, *placed.clip) : placed.rect;

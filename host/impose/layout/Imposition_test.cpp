@@ -177,6 +177,32 @@ TEST(ImpositionTest, SeveralPagesComeInTheirOrder) {
   EXPECT_EQ(first("btrl"), "top right");
 }
 
+TEST(ImpositionTest, APictureLiesInItsCellWhereThatMakesItLarger) {
+  const std::vector<PageLook> mixed{picture(57, 73), picture(73, 57), picture(57, 73),
+                                    picture(80, 30)};
+  const auto together = sheets(mixed, {{"number-up", "4"}})[0];
+  EXPECT_EQ(together.turn, Turn::upright);
+  // Cells are 282 by 362: the first one reaches from 10,398 to 292,760, the second from 298.
+  EXPECT_EQ(corners(together.pages[0]), "10,760 292,398");
+  EXPECT_EQ(corners(together.pages[1]), "298,398 580,760");
+  EXPECT_EQ(corners(together.pages[3]), "371,30 507,392") << "its top is at the left";
+}
+
+TEST(ImpositionTest, APictureKeepsItsPositionInItsCellWithoutNeed) {
+  const auto second = [](const PageLook& look, const OptionList& others) {
+    OptionList options = others;
+    setOption(options, "number-up", "4");
+    const Matrix& matrix = sheets({picture(57, 73), look}, options)[0].pages[1].matrix;
+    return matrix.b == 0 && matrix.a > 0 ? "upright" : "turned";
+  };
+  EXPECT_STREQ(second(picture(73, 57), {}), "turned");
+  EXPECT_STREQ(second(picture(73, 57), {{"print-scaling", "fill"}}), "turned");
+  EXPECT_STREQ(second(picture(50, 50), {}), "upright") << "a square";
+  EXPECT_STREQ(second(picture(73, 57), {{"print-scaling", "none"}}), "upright") << "it has room";
+  EXPECT_STREQ(second(picture(73, 57), {{"orientation-requested", "3"}}), "upright") << "asked for";
+  EXPECT_STREQ(second(page(730, 570), {}), "upright") << "a page is read beside the others";
+}
+
 TEST(ImpositionTest, APageInACellIsScaledAndPlacedInTheCell) {
   const OptionList four{{"number-up", "4"}, {"orientation-requested", "3"}};
   const auto with = [&](const char* name, const char* value) {
