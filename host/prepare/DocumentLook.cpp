@@ -5,6 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "host/document/DocumentName.h"
 #include "host/prepare/Imposer.h"
 
 namespace tavrin {
@@ -41,9 +42,18 @@ void DocumentLook::start() {
       kLookLimits});
   connect(command.get(), &LimitedCommand::ended, this, [this](LimitedCommand::End end) {
     if (end == LimitedCommand::End::well) read();
+    if (command->status() == int(Imposed::isProtected))
+      facts.problem = whyProtected(facts.document).toStdString();
     emit seen(facts);
   });
   command->start();
+}
+
+QString whyProtected(const std::filesystem::path& document) {
+  return DocumentLook::tr(
+             "“%1” is protected with a password. Open it in its own program, and print "
+             "it there or save it without the password.")
+      .arg(QString::fromStdString(nameInWords(document)));
 }
 
 void DocumentLook::read() {

@@ -18,7 +18,8 @@ class DocumentLook : public QObject {
   // The facts have the file and its format.
   explicit DocumentLook(DocumentFacts facts, QObject* parent = nullptr);
 
-  // Answered by the signal, unless the look is gone by then. What cannot be seen stays unknown.
+  // Answered by the signal, unless the look is gone by then. What cannot be seen stays unknown; a
+  // document that is protected has that for its problem.
   void start();
 
  signals:
@@ -31,5 +32,8 @@ class DocumentLook : public QObject {
   std::shared_ptr<const HiddenFolder> folder;
   std::unique_ptr<LimitedCommand> command;
 };
+
+// What is said of a document that cannot be opened without its password, or must not be printed.
+QString whyProtected(const std::filesystem::path& document);
 
 }  // namespace tavrin

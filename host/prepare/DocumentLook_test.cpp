@@ -14,6 +14,7 @@ class DocumentLookTest : public EventLoopTest {
  protected:
   DocumentFacts seen(const std::string& format, const std::string& bytes) {
     DocumentFacts facts;
+    facts.document = "letter.pdf";
     facts.file = place.write("document", bytes);
     facts.format = format;
     DocumentLook look(facts);
@@ -82,6 +83,13 @@ TEST_F(DocumentLookTest, WhatCannotBeSeenStaysUnknown) {
   EXPECT_EQ(seen("application/pdf", "%PDF-1.4\nno more").pages, 0);
   EXPECT_EQ(seen("image/png", "\x89PNG\r\n\x1a\nno more").pages, 0);
   EXPECT_EQ(seen("image/x-of-another-star", "II*").pages, 0);
+}
+
+TEST_F(DocumentLookTest, SaysWhatToDoWithAProtectedDocument) {
+  EXPECT_EQ(seen("application/pdf", lockedPDF()).problem,
+            "“letter.pdf” is protected with a password. Open it in its own program, and print it "
+            "there or save it without the password.");
+  EXPECT_EQ(seen("application/pdf", numberedPDF(1)).problem, "");
 }
 
 TEST_F(DocumentLookTest, IsNotHeardOfOnceItIsGone) {

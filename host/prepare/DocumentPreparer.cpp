@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "host/document/DocumentName.h"
+#include "host/prepare/DocumentLook.h"
 #include "host/prepare/FilterCall.h"
 #include "host/prepare/Imposer.h"
 #include "host/prepare/Imposition.h"
@@ -159,9 +160,7 @@ void DocumentPreparer::complain(const DocumentFacts& document, int status) {
       return emit nothingLeft(
           tr("None of the pages to print is in “%1”. Choose other pages.").arg(name));
     case int(Imposed::isProtected):
-      return fail(tr("“%1” can be opened only with its password, so its pages cannot be laid out "
-                     "like this. Save it without the password first.")
-                      .arg(name));
+      return fail(whyProtected(document.document));
     case int(Imposed::unknownPicture):
       return fail(tr("This computer has no program library that reads pictures like “%1”. Save it "
                      "as JPEG or PNG first.")
@@ -172,6 +171,11 @@ void DocumentPreparer::complain(const DocumentFacts& document, int status) {
       return fail(
           tr("Laying out “%1” takes too long. Print fewer of its pages at a time.").arg(name));
     default:
+      if (isPicture(document.format))
+        return fail(
+            tr("“%1” is damaged or cut off, or too large. Copy it anew, or open it in its own "
+               "program and print it there.")
+                .arg(name));
       return fail(tr("“%1” cannot be laid out like this: it is damaged, or too large. Without "
                      "settings for its pages it may print all the same.")
                       .arg(name));

@@ -6,6 +6,7 @@
 #include "host/prepare/Imposition.h"
 #include "tests/fakes/FakePDF.h"
 #include "tests/fixtures/EventLoopTest.h"
+#include "tests/fixtures/FourCorners.h"
 #include "tests/fixtures/PDFTexts.h"
 #include "tests/fixtures/SeenDocuments.h"
 #include "tests/fixtures/TemporaryFolder.h"
@@ -18,15 +19,6 @@ namespace fs = std::filesystem;
 using Pages = std::vector<std::string>;
 
 constexpr char kLetter[] = "Dear Ada,\n\fhere is a page.\n\fAnd another one.\n";
-
-// A PDF that nobody can open without its password.
-std::string lockedPDF() {
-  const std::string key(32, 'x');
-  std::string bytes = numberedPDF(1);
-  const std::string id = "/ID[(" + key + ")(" + key + ")]";
-  return bytes.insert(bytes.find("/Root"), "/Encrypt<</Filter/Standard/V 1/R 2/P -4/O(" + key +
-                                               ")/U(" + key + ")>>" + id);
-}
 
 class DocumentPreparerTest : public EventLoopTest {
  protected:
@@ -194,12 +186,17 @@ TEST_F(DocumentPreparerTest, SaysSoOfTheLaterDocumentsToo) {
 
 TEST_F(DocumentPreparerTest, SaysWhyADocumentCannotBeLaidOut) {
   const OptionList options{{"scaling", "150"}};
+  const std::string jpeg = test::encoded(test::fourCorners(20, 10), "jpeg");
   EXPECT_EQ(complaint(wish({place.write("cut.pdf", "%PDF-1.4\nno more")}, options)),
             "“cut.pdf” cannot be laid out like this: it is damaged, or too large. Without settings "
             "for its pages it may print all the same.");
+  EXPECT_EQ(complaint(wish({place.write("cut.jpg", jpeg.substr(0, jpeg.size() - 9))})),
+            "“cut.jpg” is damaged or cut off, or too large. Copy it anew, or open it in its own "
+            "program and print it there.")
+      << "also without settings";
   EXPECT_EQ(complaint(wish({place.write("locked.pdf", lockedPDF())}, options)),
-            "“locked.pdf” can be opened only with its password, so its pages cannot be laid out "
-            "like this. Save it without the password first.");
+            "“locked.pdf” is protected with a password. Open it in its own program, and print it "
+            "there or save it without the password.");
   Preparation unknown = wish({place.write("star.png", "not seen before")}, options);
   unknown.documents.front().format = "image/x-of-another-star";
   EXPECT_EQ(complaint(unknown),

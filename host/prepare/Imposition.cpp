@@ -113,9 +113,15 @@ bool isEnlarged(const OptionList& options) {
   return percent > 100 || isOther(options, "natural-scaling", {}) || isOther(options, "ppi", {});
 }
 
+// The imposer says what is wrong with such a picture; the filters print what there is of it, in
+// silence. One that no command can read goes as it is.
+bool isDamaged(const DocumentFacts& picture) {
+  return picture.pages == 0 && picture.problem.empty();
+}
+
 // The filters take pictures as they are, one on a sheet.
 bool mustPictureBeImposed(const DocumentFacts& document, const OptionList& options) {
-  return document.isStoredOtherwise || document.pages > 1 ||
+  return document.isStoredOtherwise || document.pages > 1 || isDamaged(document) ||
          std::ranges::find(kPictures, document.format) == kPictures.end() ||
          hasOrientation(options) || hasSeveralPagesOnASheet(options) || isEnlarged(options) ||
          hasBorder(options) || isOnOwnPaper(options) ||

@@ -117,8 +117,11 @@ TEST(Imposition, TakesAllPagesOfAPicture) {
   DocumentFacts fax = picture("tiff");
   fax.pages = 3;
   EXPECT_TRUE(mustBeImposed(fax, {}));
-  DocumentFacts unknown = picture();
-  unknown.pages = 0;
+  DocumentFacts damaged = picture();
+  damaged.pages = 0;
+  EXPECT_TRUE(mustBeImposed(damaged, {})) << "so that somebody says so";
+  DocumentFacts unknown = damaged;
+  unknown.problem = "It is in a pipe.";
   EXPECT_FALSE(mustBeImposed(unknown, {}));
   EXPECT_TRUE(mustBeImposed(unknown, {{"page-ranges", "2"}}));
 }

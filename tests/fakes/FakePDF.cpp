@@ -48,4 +48,12 @@ std::string pdfOf(const std::vector<std::string>& objects) {
          "/Root 1 0 R>>\nstartxref\n" + start + "\n%%EOF\n";
 }
 
+std::string lockedPDF() {
+  const std::string key(32, 'x');
+  std::string bytes = numberedPDF(1);
+  const std::string id = "/ID[(" + key + ")(" + key + ")]";
+  return bytes.insert(bytes.find("/Root"), "/Encrypt<</Filter/Standard/V 1/R 2/P -4/O(" + key +
+                                               ")/U(" + key + ")>>" + id);
+}
+
 }  // namespace tavrin

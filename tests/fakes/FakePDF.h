@@ -9,6 +9,9 @@ namespace tavrin {
 // shows when a page is missing, mirrored or upside down.
 std::string numberedPDF(int pages);
 
+// A PDF that nobody can open without its password.
+std::string lockedPDF();
+
 // A PDF of these objects, which are numbered from 1; the first is the catalogue.
 std::string pdfOf(const std::vector<std::string>& objects);
 // An object that is a stream; the entries are those of its dictionary beside the length.

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "host/impose/pictures/PictureTags.h"
+#include "host/impose/pictures/TiffTags.h"
 #include "host/impose/pictures/Trouble.h"
 #include "platform/text/Quoted.h"
 
@@ -40,6 +41,8 @@ QtFrames::QtFrames(const std::filesystem::path& thePath, const MappedFile& file)
   QImageReader::setAllocationLimit(kMostMegabytes);
   start();
   const int pictures = reader->format() == "tiff" ? std::max(reader->imageCount(), 1) : 1;
+  if (reader->format() == "tiff" && hasMoreThan(pictures, file.bytes()))
+    complain(path, " is cut off: pages of it are missing. Copy it anew.");
   for (int frame = 0; frame < pictures; ++frame) {
     frames.push_back(lookAt(frame));
     const TiffTags tags = pictureTags(file.bytes(), frame);

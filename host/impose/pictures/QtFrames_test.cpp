@@ -80,6 +80,12 @@ TEST_F(QtFramesTest, OfADamagedFileAreNotThere) {
   EXPECT_THROW(framesOf(bytes.substr(0, 12)), Trouble);
 }
 
+TEST_F(QtFramesTest, OfATiffFileThatIsCutOffAreNotThere) {
+  const std::string bytes = tiffOfTwo();
+  for (const std::size_t missing : {60U, 140U})
+    EXPECT_THROW(framesOf(bytes.substr(0, bytes.size() - missing)), Trouble) << missing;
+}
+
 // A file of a few bytes may say that it holds more pixels than there is memory for.
 TEST_F(QtFramesTest, OfAFileThatIsTooLargeAreNotRead) {
   EXPECT_THROW(framesOf("P6\n50000 50000\n255\nabc")->decoded(0), Trouble);

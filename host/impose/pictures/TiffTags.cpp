@@ -66,4 +66,9 @@ TiffTags tiffTags(Bytes bytes, int directory) {
   return tags;
 }
 
+bool hasMoreThan(int directories, Bytes bytes) {
+  const StoredNumbers numbers(bytes, hasTextAt(bytes, 0, "II"));
+  return numbers.two(2) == 42 && placeOf(numbers, directories) != 0;
+}
+
 }  // namespace tavrin

@@ -22,4 +22,7 @@ struct TiffTags {
 // them counts as not there.
 TiffTags tiffTags(Bytes bytes, int directory = 0);
 
+// Whether a TIFF file says that another directory follows on so many, whether or not it is there.
+bool hasMoreThan(int directories, Bytes bytes);
+
 }  // namespace tavrin
