@@ -88,7 +88,7 @@ void JobButtons::addBesideHelp(QPushButton* button) {
 QString JobButtons::printText() const {
   if (task.stage() == PrintTask::Stage::done) return tr("&Done");
   if (task.stage() == PrintTask::Stage::turning) return tr("&Print Backs");
-  return task.target() == PrintTask::Target::file ? tr("Save…") : tr("&Print");
+  return task.target() == PrintTask::Target::file ? tr("Save as &PDF…") : tr("&Print");
 }
 
 void JobButtons::showStage() {

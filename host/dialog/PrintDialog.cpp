@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -40,7 +42,7 @@ namespace tavrin {
 namespace {
 
 // The height of the window when it opens, in line heights: enough for most panels.
-constexpr int kUsualHeight = 38;
+constexpr int kUsualHeight = 44;
 // What a window manager puts around a window, at most.
 constexpr QSize kWindowFrame(16, 48);
 
@@ -270,10 +272,28 @@ void PrintDialog::save() {
 
 void PrintDialog::reject() {
   if (task.stage() == PrintTask::Stage::done) return accept();
-  const bool isCancelled =
-      task.stage() == PrintTask::Stage::printing || task.stage() == PrintTask::Stage::turning;
-  if (isCancelled) return task.cancel();
+  if (task.stage() == PrintTask::Stage::turning) return askBeforeLosingBacks();
+  if (task.stage() == PrintTask::Stage::printing) return task.cancel();
   leave();
+}
+
+// Paper that is printed on one side cannot be had again. The window holds up nothing, and goes when
+// the dialog goes on by itself.
+void PrintDialog::askBeforeLosingBacks() {
+  auto* question = makeChild<QMessageBox>(this);
+  question->setObjectName("backsQuestion");
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  question->setIcon(QMessageBox::Warning);
+  question->setWindowTitle(tr("Backs Not Printed"));
+  question->setText(tr("The backs are not printed yet."));
+  question->setInformativeText(
+      tr("If you stop now, they cannot be printed later on the paper that has its fronts."));
+  question->setDefaultButton(question->addButton(tr("&Keep Waiting"), QMessageBox::RejectRole));
+  QPushButton* stop = question->addButton(tr("&Stop"), QMessageBox::DestructiveRole);
+  stop->setObjectName("stop");
+  connect(stop, &QPushButton::clicked, &task, &PrintTask::cancel);
+  connect(&task, &PrintTask::stageChanged, question, &QMessageBox::close);
+  question->open();
 }
 
 void PrintDialog::leave() {

@@ -71,6 +71,7 @@ class PrintDialog : public QDialog {
   void showHelp();
   void print();
   void save();
+  void askBeforeLosingBacks();
   void leave();
   SummaryPane::Sections allLines() const;
 

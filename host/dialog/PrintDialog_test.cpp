@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -501,8 +502,20 @@ TEST_F(TurningDialogTest, TheBacksComeInTheOrderThatThePersonWants) {
   EXPECT_EQ(ticket.at("options").at("outputorder"), "reverse");
 }
 
-TEST_F(TurningDialogTest, EscapeLeavesItAtTheFronts) {
+TEST_F(TurningDialogTest, EscapeAsksBeforeItLosesTheBacks) {
   QTest::keyClick(&dialog, Qt::Key_Escape);
+  auto* question = dialog.findChild<QMessageBox*>("backsQuestion");
+  ASSERT_TRUE(question && question->isVisible());
+  QTest::keyClick(question, Qt::Key_Escape);
+  EXPECT_FALSE(question->isVisible());
+  EXPECT_EQ(task.stage(), PrintTask::Stage::turning);
+  press(dialog, "print");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return task.arrived() != nullptr; }, kPatience));
+}
+
+TEST_F(TurningDialogTest, StoppingLeavesItAtTheFronts) {
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  dialog.findChild<QPushButton*>("stop")->click();
   ASSERT_TRUE(QTest::qWaitFor([&] { return task.canPrint(); }, kPatience));
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_TRUE(dialog.findChild<QWidget*>("copies")->isVisible());

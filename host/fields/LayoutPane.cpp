@@ -38,7 +38,7 @@ void LayoutPane::addRows() {
   addSwitch(kBookletOption, tr("Booklet"), tr("Boo&klet"));
   addPopUp(kOrderOnSheetOption, tr("Sequence"), tr("Se&quence:"));
   addPopUp(kBorderOption, tr("Border"), tr("&Border:"));
-  addSwitch(kTogetherOption, tr("Pictures Together"), tr("Pict&ures together"));
+  addSwitch(kTogetherOption, tr("Pictures Together"), tr("Pict&ures Together"));
   connect(findChild<FieldSwitch*>(kBookletOption), &FieldSwitch::clicked, this,
           &LayoutPane::followBooklet);
 }

@@ -33,7 +33,7 @@ PageRows::PageRows(JobFields& theFields, QFormLayout& theForm)
       problem(makeChild<WrappedLabel>(form.parentWidget())),
       pageSet(
           makeChild<FieldPopUp>(fields, kPageSetOption, tr("Odd or Even"), form.parentWidget())),
-      order(makeChild<FieldSwitch>(fields, kSheetOrderOption, tr("Rever&se order"),
+      order(makeChild<FieldSwitch>(fields, kSheetOrderOption, tr("Rever&se Order"),
                                    form.parentWidget())) {
   addRange();
   addPageSet();

@@ -105,6 +105,7 @@ TEST(Program, SaysWhyNothingIsSaved) {
   const test::TemporaryFolder place;
   const std::string command = "--no-dialog --save " + (place.path() / "new.pdf").string() + " ";
   expectRefusal(command + "-o page-ranges=9 " SAMPLE_DOCUMENT, 3, "has only one page");
+  expectRefusal(command + "-o page-ranges=3-1 " SAMPLE_DOCUMENT, 3, "3-1");
   expectRefusal(command + place.write("cut.pdf", "%PDF-1.4\ncut off").string(), 3, "damaged");
   expectRefusal("--no-dialog --save /nowhere/new.pdf " SAMPLE_DOCUMENT, 3, "/nowhere/new.pdf");
   EXPECT_FALSE(std::filesystem::exists(place.path() / "new.pdf"));

@@ -10,7 +10,8 @@ namespace tavrin {
 SaveRun::SaveRun(PrintTask& theTask, std::filesystem::path theFile)
     : task(theTask), file(std::move(theFile)) {
   connect(&task, &PrintTask::stageChanged, this, &SaveRun::follow, Qt::QueuedConnection);
-  follow();
+  // Not before somebody listens.
+  QMetaObject::invokeMethod(this, &SaveRun::follow, Qt::QueuedConnection);
 }
 
 void SaveRun::follow() {

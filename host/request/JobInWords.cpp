@@ -64,11 +64,15 @@ QString pagesInWords(const OptionList& options, const JobScope& scope) {
   return JobInWords::tr("%1 among %2", "the odd pages, pages").arg(set, rangesInWords(ranges));
 }
 
+bool choosesPages(const OptionList& options) {
+  return !optionValue(options, kPageRangesOption).value_or("").empty() ||
+         !phrase(options, kPageSetOption).isEmpty();
+}
+
 // Each picture is a document of one page.
 bool areAllPictures(const OptionList& options, const JobScope& scope) {
   return scope.contents == Contents::pictures && scope.pages == scope.documents &&
-         optionValue(options, kPageRangesOption).value_or("").empty() &&
-         phrase(options, kPageSetOption).isEmpty();
+         !choosesPages(options);
 }
 
 QString documentsInWords(const OptionList& options, const JobScope& scope) {
@@ -77,7 +81,9 @@ QString documentsInWords(const OptionList& options, const JobScope& scope) {
     return scope.pages == 1 ? JobInWords::tr("one picture")
                             : JobInWords::tr("%1 pictures").arg(count);
   const QString pages = pagesInWords(options, scope);
-  return scope.documents == 1 ? pages : JobInWords::tr("%1 of %2 documents").arg(pages, count);
+  if (scope.documents == 1) return pages;
+  return choosesPages(options) ? JobInWords::tr("%1 of each of %2 documents").arg(pages, count)
+                               : JobInWords::tr("%1 of %2 documents").arg(pages, count);
 }
 
 QStringList copiesInWords(const OptionList& options, const JobScope& scope) {

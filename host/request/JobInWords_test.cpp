@@ -62,6 +62,7 @@ TEST(JobInWords, SaysHowManyThereAre) {
             "all 8 pages, nine on a sheet, on one sheet of A4");
   EXPECT_EQ(inWords({}, {.pages = 1, .sheets = 1}), "one page");
   EXPECT_EQ(inWords({}, {.documents = 3}), "all pages of 3 documents");
+  EXPECT_EQ(inWords({{"page-ranges", "2"}}, {.documents = 3}), "page 2 of each of 3 documents");
   EXPECT_EQ(inWords({}, {.documents = 2, .pages = 5, .sheets = 3}),
             "all 5 pages of 2 documents, on 3 sheets");
 }
@@ -72,7 +73,7 @@ TEST(JobInWords, CallsPicturesPictures) {
   scope.documents = 4;
   scope.pages = 4;
   EXPECT_EQ(inWords({{"number-up", "4"}}, scope), "4 pictures, four on a sheet, on one sheet");
-  EXPECT_EQ(inWords({{"page-ranges", "1"}}, scope), "page 1 of 4 documents, on one sheet");
+  EXPECT_EQ(inWords({{"page-ranges", "1"}}, scope), "page 1 of each of 4 documents, on one sheet");
   scope.pages = 9;
   EXPECT_EQ(inWords({}, scope), "all 9 pages of 4 documents, on one sheet") << "one is a book";
 }

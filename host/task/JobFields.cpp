@@ -150,7 +150,8 @@ bool JobFields::suggestValue(const std::string& option, const std::string& value
 
 bool JobFields::matters(const std::string& option) const {
   if (option == kPagesPerSheetOption) return !saysYes(value(kBookletOption));
-  if (option == kOrderOnSheetOption || option == kBorderOption) return pagesPerSheet() > 1;
+  if (option == kOrderOnSheetOption) return pagesPerSheet() > 1 && !saysYes(value(kBookletOption));
+  if (option == kBorderOption) return pagesPerSheet() > 1;
   if (option == kCollateOption) return copies() > 1;
   if (option == kTogetherOption) return hasSeveralPictures();
   return true;

@@ -8,18 +8,42 @@
 namespace tavrin {
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("JobReport", text); }
+QString tr(const char* text, int count = -1) {
+  return QCoreApplication::translate("JobReport", text, nullptr, count);
+}
+
+QString inSentences(const QString& first, const QStringList& others) {
+  return (QStringList{first} + others).join(' ');
+}
+
+QString nameOf(const QueuedJob& job) {
+  return QString("%1-%2").arg(QString::fromStdString(job.queue)).arg(job.id);
+}
+
+// Jobs that were sent one after the other mostly have numbers one after the other.
+QString namesOf(const std::vector<QueuedJob>& jobs) {
+  const int more = static_cast<int>(jobs.size()) - 1;
+  if (more > 1 && jobs.back().id - jobs.front().id == more)
+    return tr("%1 to %2").arg(nameOf(jobs.front()), nameOf(jobs.back()));
+  QStringList names;
+  for (const QueuedJob& job : jobs) names << nameOf(job);
+  return names.join(tr(", "));
+}
 
 }  // namespace
 
 JobReport reportOn(const std::string& queue, const Submission& submission) {
-  QStringList sentences{
-      tr("Job %1-%2 was sent.").arg(QString::fromStdString(queue)).arg(submission.jobId)};
+  QStringList remarks;
   if (!submission.missingOptions.empty())
-    sentences << tr("The printer did not get: %1. Look at the print before printing more.")
-                     .arg(QString::fromStdString(joined(submission.missingOptions)));
-  if (!submission.notReadBack.empty()) sentences << QString::fromStdString(submission.notReadBack);
-  return {tr("The job was sent"), sentences.join(' '), sentences.size() > 1, {}};
+    remarks << tr("The printer did not get: %1. Look at the print before printing more.")
+                   .arg(QString::fromStdString(joined(submission.missingOptions)));
+  if (!submission.notReadBack.empty()) remarks << QString::fromStdString(submission.notReadBack);
+  const QueuedJob job{queue, submission.jobId, submission.missingOptions};
+  return {.headline = tr("The job was sent"),
+          .text = inSentences(tr("Job %1 was sent.").arg(nameOf(job)), remarks),
+          .isWarning = !remarks.isEmpty(),
+          .remarks = remarks.join(' '),
+          .jobs = {job}};
 }
 
 JobReport reportOn(const std::filesystem::path& folder) {
@@ -37,16 +61,22 @@ JobReport reportOnFile(const std::filesystem::path& file) {
 
 JobReport inOne(const std::vector<JobReport>& reports) {
   if (reports.size() == 1) return reports.front();
-  QStringList texts;
+  QStringList remarks;
   JobReport all;
   for (const JobReport& report : reports) {
-    texts << report.text;
+    if (!report.remarks.isEmpty() && !remarks.contains(report.remarks)) remarks << report.remarks;
     all.isWarning |= report.isWarning;
     all.folder = report.folder.parent_path();
+    all.jobs.insert(all.jobs.end(), report.jobs.begin(), report.jobs.end());
   }
-  all.headline = QCoreApplication::translate("JobReport", "%n jobs were sent", nullptr,
-                                             static_cast<int>(reports.size()));
-  all.text = texts.join(' ');
+  const int count = static_cast<int>(reports.size());
+  all.headline =
+      all.jobs.empty() ? tr("%n jobs are in the folder", count) : tr("%n jobs were sent", count);
+  all.text = inSentences(all.jobs.empty() ? tr("%n jobs are in the folder %1.", count)
+                                                .arg(QString::fromStdString(all.folder.string()))
+                                          : tr("Jobs %1 were sent.").arg(namesOf(all.jobs)),
+                         remarks);
+  all.remarks = remarks.join(' ');
   return all;
 }
 

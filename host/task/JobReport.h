@@ -9,12 +9,21 @@
 
 namespace tavrin {
 
+// A job in a print queue.
+struct QueuedJob {
+  std::string queue;
+  int id = 0;
+  std::vector<std::string> missing = {};  // options that did not arrive, "NAME=VALUE" each
+};
+
 // What became of a job that arrived, for the person who printed it.
 struct JobReport {
-  QString headline;              // where it is, in a few words
-  QString text;                  // the same in sentences, and what else there is to say
-  bool isWarning = false;        // not all is as it was wanted
-  std::filesystem::path folder;  // that the job became; empty for a job in a queue
+  QString headline = {};              // where it is, in a few words
+  QString text = {};                  // the same in sentences, and what else there is to say
+  bool isWarning = false;             // not all is as it was wanted
+  std::filesystem::path folder = {};  // that the job became; empty for a job in a queue
+  QString remarks = {};               // what else there is to say, alone
+  std::vector<QueuedJob> jobs = {};   // in queues, in the order in which they were sent
 };
 
 // The report on a job that is in its queue.
