@@ -32,7 +32,7 @@ class Imposer {
   // The pages must be there.
   std::vector<Sheet> sheets(const std::vector<CellPages>& order, int firstPage) const {
     if (options.booklet) return allOn(bookletTemplate(paper, options), order);
-    if (options.numberUp > 1) return allOn(severalFor(pages[firstPage].size), order);
+    if (options.numberUp > 1) return allOn(severalFor(pages[firstPage]), order);
     return single(order);
   }
 
@@ -45,11 +45,11 @@ class Imposer {
   }
 
   // One for all sheets, so that they are read in the same position.
-  SheetTemplate severalFor(Size first) const {
+  SheetTemplate severalFor(const PageLook& first) const {
     if (options.orientation) return gridTemplate(paper, *options.orientation, options, first);
     SheetTemplate upright = gridTemplate(paper, Turn::upright, options, first);
     SheetTemplate turned = gridTemplate(paper, Turn::left, options, first);
-    return largest(first, turned) > largest(first, upright) * kBetter ? turned : upright;
+    return largest(first.size, turned) > largest(first.size, upright) * kBetter ? turned : upright;
   }
 
   std::vector<Sheet> single(const std::vector<CellPages>& order) const {
@@ -85,12 +85,11 @@ class Imposer {
     return result;
   }
 
-  // Pictures are looked at one by one, so that each may lie as it gets largest; what is to be read
-  // stays as its neighbours are.
+  // Pictures are looked at one by one, so that each may lie as it gets largest, however the sheet
+  // does; what is to be read stays as its neighbours are.
   bool liesInItsCell(const PageLook& page, const Cell& cell) const {
     const bool mayTurn = page.isPicture && options.numberUp > 1 && !options.booklet;
-    if (!mayTurn || options.orientation || fitsAsItIs(page, cell.area.size(), options))
-      return false;
+    if (!mayTurn || fitsAsItIs(page, cell.area.size(), options)) return false;
     const Size area = cell.area.size();
     return fitScale(onItsSide(page.size), area) > fitScale(page.size, area) * kBetter;
   }

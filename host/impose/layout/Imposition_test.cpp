@@ -199,8 +199,30 @@ TEST(ImpositionTest, APictureKeepsItsPositionInItsCellWithoutNeed) {
   EXPECT_STREQ(second(picture(73, 57), {{"print-scaling", "fill"}}), "turned");
   EXPECT_STREQ(second(picture(50, 50), {}), "upright") << "a square";
   EXPECT_STREQ(second(picture(73, 57), {{"print-scaling", "none"}}), "upright") << "it has room";
-  EXPECT_STREQ(second(picture(73, 57), {{"orientation-requested", "3"}}), "upright") << "asked for";
+  EXPECT_STREQ(second(picture(73, 57), {{"orientation-requested", "3"}}), "turned");
   EXPECT_STREQ(second(page(730, 570), {}), "upright") << "a page is read beside the others";
+}
+
+// On the paper, the cells are 282 by 362.
+TEST(ImpositionTest, AnOrientationSaysHowTheSheetOfPicturesLies) {
+  const std::vector<PageLook> mixed{picture(57, 73), picture(73, 57), picture(57, 73),
+                                    picture(73, 57)};
+  const auto lying = sheets(mixed, {{"number-up", "4"}, {"orientation-requested", "4"}})[0];
+  EXPECT_EQ(lying.turn, Turn::left);
+  EXPECT_EQ(corners(lying.pages[0]), "292,30 10,392") << "its top is below, as the sheet is held";
+  EXPECT_EQ(corners(lying.pages[1]), "10,398 292,760");
+  for (const PlacedPage& placed : lying.pages)
+    EXPECT_NEAR(mapped(placed.matrix, Rect{0, 0, 1, 1}).height, 362, 1);
+}
+
+TEST(ImpositionTest, TheFirstPictureAloneDoesNotMakeStrips) {
+  for (const PageLook& first : {picture(400, 40), picture(40, 400), picture(57, 73)})
+    for (const char* orientation : {"", "3", "4"}) {
+      const auto four = sheets({first, picture(57, 73), picture(57, 73), picture(73, 57)},
+                               {{"number-up", "4"}, {"orientation-requested", orientation}})[0];
+      const Rect last = mapped(four.pages[3].matrix, Rect{0, 0, 1, 1});
+      EXPECT_NEAR(last.width, 282, 1) << orientation;
+    }
 }
 
 TEST(ImpositionTest, APageInACellIsScaledAndPlacedInTheCell) {

@@ -9,7 +9,8 @@ namespace tavrin {
 
 namespace {
 
-constexpr double kGap = 6;  // between cells without a border
+constexpr double kBetter = 1 + 1e-9;  // what rounding makes larger is not larger
+constexpr double kGap = 6;            // between cells without a border
 // On paper as small as a stamp, something of the pages must be left.
 constexpr double kLargestGap = 1.0 / 50;    // of the shorter side
 constexpr double kLargestBorder = 1.0 / 8;  // of the shorter side of the cell
@@ -26,6 +27,15 @@ double gapIn(Size area, Border border) {
   return border == Border::none ? std::min(kGap, shorterSide(area) * kLargestGap) : 0;
 }
 
+// Pictures differ, so that the first one says little of the others.
+Grid pictureGrid(int cells, Size area, double gap) {
+  const Grid upright = bestGrid(cells, area, area, gap);
+  const Grid lying = bestGrid(cells, onItsSide(area), area, gap);
+  const double uprightScale = fitScale(area, cellSize(upright, area, gap));
+  const double lyingScale = fitScale(onItsSide(area), cellSize(lying, area, gap));
+  return lyingScale > uprightScale * kBetter ? lying : upright;
+}
+
 Turn bookletTurn(const Paper& paper, const LayoutOptions& options) {
   const bool isWide = paper.size.width > paper.size.height;
   if (isWide) return options.orientation == Turn::upsideDown ? Turn::upsideDown : Turn::upright;
@@ -40,11 +50,13 @@ SheetTemplate singleTemplate(const Paper& paper, Turn turn, Border border) {
   return {canvas, {{canvas.printable, {0, 0, canvas.size.width, canvas.size.height}}}};
 }
 
-SheetTemplate gridTemplate(const Paper& paper, Turn turn, const LayoutOptions& options, Size page) {
+SheetTemplate gridTemplate(const Paper& paper, Turn turn, const LayoutOptions& options,
+                           const PageLook& first) {
   SheetTemplate result{canvasOn(paper, turn), {}};
   const Rect& area = result.canvas.printable;
   const double gap = gapIn(area.size(), options.border);
-  const Grid grid = bestGrid(options.numberUp, page, area.size(), gap);
+  const Grid grid = first.isPicture ? pictureGrid(options.numberUp, area.size(), gap)
+                                    : bestGrid(options.numberUp, first.size, area.size(), gap);
   for (const Rect& cell : cellsOf(grid, area, gap, options.order))
     result.cells.push_back(cellIn(cell, options.border));
   return result;

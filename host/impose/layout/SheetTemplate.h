@@ -17,9 +17,11 @@ struct SheetTemplate {
 // One place. Without a border, only the paper cuts a page off.
 SheetTemplate singleTemplate(const Paper& paper, Turn turn, Border border);
 
-// As many places as the options ask for, or more where they would not fill a grid; the grid is the
-// one that suits a page of that size best.
-SheetTemplate gridTemplate(const Paper& paper, Turn turn, const LayoutOptions& options, Size page);
+// As many places as the options ask for, or more where they would not fill a grid. The grid is the
+// one that suits the first page best; where that is a picture, pictures of the sheet's own shape,
+// each of which may lie as it gets largest.
+SheetTemplate gridTemplate(const Paper& paper, Turn turn, const LayoutOptions& options,
+                           const PageLook& first);
 
 // Two places beside each other on paper that lies on its side.
 SheetTemplate bookletTemplate(const Paper& paper, const LayoutOptions& options);
