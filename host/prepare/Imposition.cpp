@@ -113,6 +113,11 @@ bool isEnlarged(const OptionList& options) {
   return percent > 100 || isOther(options, "natural-scaling", {}) || isOther(options, "ppi", {});
 }
 
+// The filters put a picture of its actual size into the middle.
+bool isPositionedAsItIs(const OptionList& options) {
+  return isPositioned(options) && isOneOf(optionValue(options, kFitOption).value_or(""), {"none"});
+}
+
 // The imposer says what is wrong with such a picture; the filters print what there is of it, in
 // silence. One that no command can read goes as it is.
 bool isDamaged(const DocumentFacts& picture) {
@@ -124,7 +129,7 @@ bool mustPictureBeImposed(const DocumentFacts& document, const OptionList& optio
   return document.isStoredOtherwise || document.pages > 1 || isDamaged(document) ||
          std::ranges::find(kPictures, document.format) == kPictures.end() ||
          hasOrientation(options) || hasSeveralPagesOnASheet(options) || isEnlarged(options) ||
-         hasBorder(options) || isOnOwnPaper(options) ||
+         isPositionedAsItIs(options) || hasBorder(options) || isOnOwnPaper(options) ||
          (choosesPages(options) && document.pages != 1);
 }
 

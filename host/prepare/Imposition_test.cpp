@@ -64,7 +64,7 @@ TEST(Imposition, ScalesPDFsAndEnlargesPictures) {
 
 TEST(Imposition, PutsPagesWhereThePersonWantsThem) {
   expectImposed({{{{"position", "top-left"}}, "T"},
-                 {{{"position", "top-left"}, {"print-scaling", "none"}}, "T"},
+                 {{{"position", "top-left"}, {"print-scaling", "none"}}, "IT"},
                  {{{"position", "top-left"}, {"print-scaling", "fit"}}, "PWT"},
                  {{{"position", "top-left"}, {"scaling", "50"}}, "PWT"},
                  {{{"position", "center"}, {"print-scaling", "fit"}}, ""}});
