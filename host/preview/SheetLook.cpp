@@ -93,8 +93,11 @@ std::vector<std::vector<int>> pagesOnSheets(int pages, const OptionList& options
     if (sheets.empty() || sheets.back().size() == each) sheets.emplace_back();
     sheets.back().push_back(page);
   }
-  if (has(options, "outputorder", {"reverse"})) std::ranges::reverse(sheets);
   return sheets;
+}
+
+int placeInReading(int index, int count, const OptionList& options) {
+  return has(options, "outputorder", {"reverse"}) ? count - 1 - index : index;
 }
 
 std::vector<int> pagesOnSheet(int sheet, int pages, const OptionList& options) {

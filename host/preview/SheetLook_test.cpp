@@ -19,10 +19,18 @@ TEST(SheetLookTest, RangesChoosePages) {
   EXPECT_EQ(pagesOnSheet(2, 8, {{"page-ranges", "7-"}}), Pages{8});
 }
 
-TEST(SheetLookTest, FollowsPageSetAndOrder) {
+TEST(SheetLookTest, FollowsThePageSet) {
   EXPECT_EQ(pagesOnSheet(2, 8, {{"page-set", "even"}}), Pages{4});
   EXPECT_EQ(pagesOnSheet(2, 8, {{"page-set", "odd"}}), Pages{3});
-  EXPECT_EQ(pagesOnSheet(1, 8, {{"outputorder", "reverse"}, {"number-up", "2"}}), (Pages{7, 8}));
+}
+
+TEST(SheetLookTest, KnowsTheOrderOfReading) {
+  const OptionList reverse{{"outputorder", "reverse"}};
+  EXPECT_EQ(placeInReading(1, 6, {}), 1);
+  EXPECT_EQ(placeInReading(1, 6, {{"outputorder", "normal"}}), 1);
+  EXPECT_EQ(placeInReading(0, 6, reverse), 5);
+  EXPECT_EQ(placeInReading(5, 6, reverse), 0);
+  EXPECT_EQ(pagesOnSheet(1, 8, reverse), Pages{1});
 }
 
 TEST(SheetLookTest, SaysNothingWhereItCannotKnow) {

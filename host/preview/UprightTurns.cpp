@@ -34,7 +34,9 @@ void setUpright(std::vector<Sheet>& sheets, const PreparedDocument& document, co
   const auto onSheets = pagesOnSheets(pages, document.options);
   for (std::size_t sheet = 0; sheet < sheets.size(); ++sheet) {
     // Where the filters order the pages, they are all alike.
-    const int first = sheet < onSheets.size() ? onSheets[sheet].front() : 1;
+    const auto place =
+        static_cast<std::size_t>(placeInReading(int(sheet), int(sheets.size()), document.options));
+    const int first = place < onSheets.size() ? onSheets[place].front() : 1;
     const int turn = turnOf(first, document, paper);
     // The mirror image of what lies to the left lies to the right.
     sheets[sheet].upright = isMirrored(document.options) ? (kFull - turn) % kFull : turn;

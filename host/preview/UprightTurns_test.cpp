@@ -54,6 +54,12 @@ TEST(UprightTurnsTest, SheetsAreThoseOfTheChosenPagesInTheirOrder) {
   EXPECT_EQ(turns(document, 2, kHigh), (Turns{90, 0}));
 }
 
+TEST(UprightTurnsTest, AnEmptyBackComesFirstWhereTheLastSheetDoes) {
+  PreparedDocument document = documentOf(3, {3});
+  document.options = {{"Duplex", "DuplexNoTumble"}, {"outputorder", "reverse"}};
+  EXPECT_EQ(turns(document, 4, kHigh), (Turns{0, 90, 0, 0}));
+}
+
 TEST(UprightTurnsTest, TheImposerSaysHowItHasTurnedEachSheet) {
   PreparedDocument document = documentOf(1, {1});
   document.turns = "0123";

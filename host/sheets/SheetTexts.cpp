@@ -60,8 +60,9 @@ QString textAfterNumber(int count, const OptionList& options) {
 QString contentsText(const Sheets& sheets, int index, const OptionList& options) {
   const SheetPlace place = sheets.at(index);
   const int pages = place.document.document.facts.pages;
-  QStringList parts{nameText(sheets, place), sideText(place.index, options),
-                    pagesText(pagesOnSheet(place.index + 1, pages, options)),
+  const int inReading = placeInReading(place.index, int(place.document.list.size()), options);
+  QStringList parts{nameText(sheets, place), sideText(inReading, options),
+                    pagesText(pagesOnSheet(inReading + 1, pages, options)),
                     isMirrored(options) ? SheetTexts::tr("mirrored") : QString(),
                     printsInGrey(options) ? SheetTexts::tr("black only") : QString()};
   parts.removeAll(QString());

@@ -34,6 +34,19 @@ TEST(SheetTextsTest, CountsSidesOnPaperThatIsPrintedOnBoth) {
   EXPECT_EQ(text(sheets(3, 3), 1, twoSided), "Side 2 of 3: back of sheet 1, page 2");
 }
 
+TEST(SheetTextsTest, SaysOfEachSideWhatItIsWhereTheLastSheetComesFirst) {
+  for (const auto& [name, value] :
+       OptionList{{"Duplex", "DuplexNoTumble"}, {"sides", "two-sided-long-edge"}}) {
+    const OptionList reverse{{name, value}, {"outputorder", "reverse"}};
+    const Sheets all = sheets(6, 5);  // the filters add an empty side
+    EXPECT_EQ(text(all, 0, reverse), "Side 1 of 6: back of sheet 3");
+    EXPECT_EQ(text(all, 1, reverse), "Side 2 of 6: front of sheet 3, page 5");
+    EXPECT_EQ(text(all, 2, reverse), "Side 3 of 6: back of sheet 2, page 4");
+    EXPECT_EQ(text(all, 5, reverse), "Side 6 of 6: front of sheet 1, page 1");
+  }
+  EXPECT_EQ(text(sheets(5, 5), 0, {{"outputorder", "reverse"}}), "Sheet 1 of 5: page 5");
+}
+
 TEST(SheetTextsTest, NamesTheDocumentWhereThereAreSeveral) {
   const Sheets two{{laidOut(3, 3), laidOut(1, 2, "more.pdf")}, {}};
   EXPECT_EQ(text(two, 1, {}), "Sheet 2 of 4: pages.pdf, page 2");
