@@ -1,20 +1,37 @@
 #include "host/task/JobDraft.h"
 
+#include <algorithm>
+
 #include "host/printer/MarkedOptions.h"
 #include "host/printer/PPDLoader.h"
 #include "host/printer/Paper.h"
 #include "host/printer/SheetSequence.h"
 #include "host/request/JobOptions.h"
 #include "host/request/JobSetting.h"
+#include "host/task/ScalingField.h"
+#include "platform/text/IgnoringCase.h"
 
 namespace tavrin {
 
 namespace {
 
+constexpr char kAutomatic[] = "auto";
+
 // A printer that turns the paper itself has an option of its own for that.
 bool needsTwoPasses(const OptionList& options, ppd_file_t& ppd) {
   const std::string sides = optionValue(options, kSidesOption).value_or("");
   return sides.starts_with("two-sided") && !twoSidedOption(ppd);
+}
+
+// Paper without margins the filters fill with a page that is too large for it, and cut off the
+// rest. In a file nobody would miss that in time.
+void keepPagesWhole(OptionList& options) {
+  const bool isAutomatic =
+      equalIgnoringCase(optionValue(options, kFitOption).value_or(kAutomatic), kAutomatic);
+  const bool isScaled = std::ranges::any_of(ScalingField::optionNames(), [&](const auto& name) {
+    return name != kFitOption && optionValue(options, name);
+  });
+  if (isAutomatic && !isScaled) setOption(options, kFitOption, "auto-fit");
 }
 
 }  // namespace
@@ -46,6 +63,7 @@ Preparation JobDraft::preparation(bool isForFile) const {
   wanted.paper = markedPaper(session->ppd());
   wanted.wholeSheets = needsTwoPasses(wanted.options, session->ppd());
   wanted.isForFile = isForFile;
+  if (isForFile) keepPagesWhole(wanted.options);
   return wanted;
 }
 

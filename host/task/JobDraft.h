@@ -19,7 +19,8 @@ struct JobDraft {
 
   // The options that the job would have; of all pages where the page range is wrong.
   OptionList options() const;
-  // All that decides how the sheets will look, for a printer or for a file that somebody keeps.
+  // All that decides how the sheets will look, for a printer or for a file that somebody keeps,
+  // where a page that is too large for the paper is made smaller unless another size is asked for.
   Preparation preparation(bool isForFile) const;
   // All that a sequence of jobs needs; without an output folder for a queue.
   JobSequence::Order order(const std::filesystem::path& output) const;

@@ -536,6 +536,25 @@ TEST_F(PrintTaskTest, LooksAgainWithoutLosingThePrinterAndItsSettings) {
   EXPECT_EQ(task.session()->marks().choice("MediaType"), "Transparency");
 }
 
+TEST_F(PrintTaskTest, MakesPagesSmallerForAFileRatherThanCutThem) {
+  const auto scaling = [&](const OptionList& options, bool isForFile) {
+    JobRequest wanted = request();
+    wanted.options = options;
+    PrintTask task(wanted);
+    if (isForFile)
+      task.usePDF();
+    else
+      task.usePrinterWithoutQueue(printer(), place.path() / "jobs");
+    return optionValue(task.preparation().options, "print-scaling");
+  };
+  EXPECT_EQ(scaling({}, true), "auto-fit");
+  EXPECT_EQ(scaling({{"print-scaling", "auto"}}, true), "auto-fit");
+  EXPECT_EQ(scaling({{"print-scaling", "none"}}, true), "none");
+  EXPECT_EQ(scaling({{"fit-to-page", "true"}}, true), "fit");
+  EXPECT_EQ(scaling({{"scaling", "50"}}, true), std::nullopt);
+  EXPECT_EQ(scaling({}, false), std::nullopt);
+}
+
 TEST_F(PrintTaskTest, DoesNothingOutOfTurn) {
   PrintTask task(request());
   task.print();
