@@ -56,6 +56,13 @@ QString whyProtected(const std::filesystem::path& document) {
       .arg(QString::fromStdString(nameInWords(document)));
 }
 
+QString whyDamagedPicture(const std::filesystem::path& document) {
+  return DocumentLook::tr(
+             "“%1” is damaged or cut off, or too large. Copy it anew, or open it in its own "
+             "program and print it there.")
+      .arg(QString::fromStdString(nameInWords(document)));
+}
+
 void DocumentLook::read() {
   std::ifstream stream(folder->path() / "seen");
   const auto seen = nlohmann::json::parse(stream, nullptr, false);

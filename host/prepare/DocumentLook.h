@@ -35,5 +35,7 @@ class DocumentLook : public QObject {
 
 // What is said of a document that cannot be opened without its password, or must not be printed.
 QString whyProtected(const std::filesystem::path& document);
+// What is said of a picture that cannot be decoded.
+QString whyDamagedPicture(const std::filesystem::path& document);
 
 }  // namespace tavrin

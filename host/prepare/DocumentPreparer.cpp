@@ -171,11 +171,7 @@ void DocumentPreparer::complain(const DocumentFacts& document, int status) {
       return fail(
           tr("Laying out “%1” takes too long. Print fewer of its pages at a time.").arg(name));
     default:
-      if (isPicture(document.format))
-        return fail(
-            tr("“%1” is damaged or cut off, or too large. Copy it anew, or open it in its own "
-               "program and print it there.")
-                .arg(name));
+      if (isPicture(document.format)) return fail(whyDamagedPicture(document.document));
       return fail(tr("“%1” cannot be laid out like this: it is damaged, or too large. Without "
                      "settings for its pages it may print all the same.")
                       .arg(name));

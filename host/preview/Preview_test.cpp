@@ -10,6 +10,7 @@
 
 #include "tests/fakes/FakePDF.h"
 #include "tests/fixtures/EventLoopTest.h"
+#include "tests/fixtures/FourCorners.h"
 #include "tests/fixtures/SeenDocuments.h"
 #include "tests/fixtures/TemporaryFolder.h"
 
@@ -141,6 +142,14 @@ TEST_F(PreviewTest, SaysWhyThereIsNoPicture) {
   document = place.write("broken.pdf", "%PDF-1.4\nno more");
   EXPECT_EQ(outcome(job()),
             "“broken.pdf” could not be laid out: it is damaged, protected, or too large.");
+}
+
+TEST_F(PreviewTest, SaysOfAPictureThatIsCutOffThatItIs) {
+  const std::string whole = test::encoded(test::fourCorners(90, 90), "png");
+  document = place.write("cut.png", whole.substr(0, whole.size() / 2));
+  EXPECT_EQ(outcome(job()),
+            "“cut.png” is damaged or cut off, or too large. Copy it anew, or open it in its own "
+            "program and print it there.");
 }
 
 TEST_F(PreviewTest, ShowsWhatAPrinterGetsBehindWordsInItsOwnLanguage) {

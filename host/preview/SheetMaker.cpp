@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "host/prepare/DocumentLook.h"
 #include "host/prepare/FilterCall.h"
 #include "host/preview/UprightTurns.h"
 #include "host/request/JobOptions.h"
@@ -111,7 +112,10 @@ void SheetMaker::complain(LimitedCommand::End end) {
   std::error_code none;
   if (!std::filesystem::exists(document().file, none))
     return emit failed(tr("The document “%1” is no longer there.").arg(name));
-  emit failed((end == LimitedCommand::End::slow
+  const bool isSlow = end == LimitedCommand::End::slow;
+  if (!isSlow && isPicture(document().format))
+    return emit failed(whyDamagedPicture(document().document));
+  emit failed((isSlow
                    ? tr("Laying “%1” out takes too long here. The print server may still print it.")
                    : tr("“%1” could not be laid out: it is damaged, protected, or too large."))
                   .arg(name));

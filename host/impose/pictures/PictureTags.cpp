@@ -60,6 +60,16 @@ TiffTags pngTags(Bytes file) {
 
 }  // namespace
 
+bool isCutOffPng(Bytes file) {
+  if (!hasTextAt(file, 0, "\x89PNG"sv)) return false;
+  const StoredNumbers numbers(file, kPng.lowestFirst);
+  for (std::size_t at = kPng.first; at + kChunkHead <= file.size();) {
+    if (hasTextAt(file, at + kPng.nameAt, "IEND")) return false;
+    at += kChunkHead + numbers.four(at + kPng.lengthAt) + kPng.extra;
+  }
+  return true;
+}
+
 TiffTags pictureTags(Bytes file, int picture) {
   if (hasTextAt(file, 0, "\x89PNG"sv)) return pngTags(file);
   if (hasTextAt(file, 0, "RIFF") && hasTextAt(file, 8, "WEBP"))

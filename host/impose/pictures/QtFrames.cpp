@@ -43,6 +43,7 @@ QtFrames::QtFrames(const std::filesystem::path& thePath, const MappedFile& file)
   const int pictures = reader->format() == "tiff" ? std::max(reader->imageCount(), 1) : 1;
   if (reader->format() == "tiff" && hasMoreThan(pictures, file.bytes()))
     complain(path, " is cut off: pages of it are missing. Copy it anew.");
+  if (isCutOffPng(file.bytes())) complain(path, " is cut off: its end is missing. Copy it anew.");
   for (int frame = 0; frame < pictures; ++frame) {
     frames.push_back(lookAt(frame));
     const TiffTags tags = pictureTags(file.bytes(), frame);

@@ -286,6 +286,9 @@ TEST_F(ImposeTest, SaysHowItEnds) {
   EXPECT_EQ(look(image("cut-off.jpg", jpeg.substr(0, jpeg.size() - 100))), 1);
   EXPECT_NE(complaint().find("cut-off.jpg"), std::string::npos) << complaint();
   EXPECT_EQ(run(kPaper + image("cut-off.png", png.substr(0, png.size() - 50))), 1);
+  EXPECT_EQ(look(image("cut-off.png", png.substr(0, png.size() - 50))), 1);
+  EXPECT_NE(complaint().find("its end is missing"), std::string::npos) << complaint();
+  EXPECT_EQ(look(image("with-more.png", png + "more")), 0);
   EXPECT_EQ(look(image("empty.png", "")), 1);
   EXPECT_EQ(look(" image/png /there/is/none"), 1);
   EXPECT_EQ(look(pdf("locked.pdf", locked("secret"))), 3);
