@@ -1,5 +1,6 @@
 // tavrin-print: the Print dialog as a command.
 
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -17,6 +18,7 @@
 #include "host/program/Launcher.h"
 #include "host/program/Samples.h"
 #include "host/program/SaveRun.h"
+#include "host/support/Background.h"
 #include "host/task/PrintTask.h"
 #include "platform/files/RootFolder.h"
 #include "platform/files/StandardStreams.h"
@@ -174,6 +176,13 @@ int print(CommandLine line, int& argc, char** argv) {
   return show(line, ppd, argc, argv);
 }
 
+// Work that is stuck would see the program being taken apart.
+int leave(int status) {
+  constexpr std::chrono::milliseconds kLongestEnd(500);
+  if (!Background::awaitEnd(kLongestEnd)) std::_Exit(status);
+  return status;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -188,5 +197,5 @@ int main(int argc, char** argv) {
     case CommandLine::Wish::print:
       break;
   }
-  return print(*line, argc, argv);
+  return leave(print(*line, argc, argv));
 }

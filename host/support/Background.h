@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -30,6 +31,11 @@ class Background {
   void run(Work work);
   // Tells all work so far to give up; its answers still come.
   void cancel();
+
+  // For the end of a program, whose statics must not go while a thread may use them: waits until no
+  // work of any Background is left. False if some is still there after that time, stuck; the
+  // program then ends without taking itself apart (std::_Exit).
+  static bool awaitEnd(std::chrono::milliseconds patience);
 
  private:
   struct Post;

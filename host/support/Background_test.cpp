@@ -42,6 +42,21 @@ struct Stuck {
   }
 };
 
+TEST_F(BackgroundTest, AProgramCanWaitForTheEndOfAllWork) {
+  using std::chrono::milliseconds;
+  const auto stuck = std::make_shared<Stuck>();
+  std::weak_ptr<Stuck> held = stuck;
+  {
+    Background background;
+    background.run(
+        [stuck](const CancelFlag&, const Background::Send&) { stuck->wait(&Stuck::released); });
+  }
+  EXPECT_FALSE(Background::awaitEnd(milliseconds(1)));
+  stuck->set(&Stuck::released);
+  EXPECT_TRUE(Background::awaitEnd(milliseconds(20000)));
+  EXPECT_EQ(held.use_count(), 1) << "what the work held has gone";
+}
+
 TEST_F(BackgroundTest, DoesNotWaitForWorkThatIsStuck) {
   const auto stuck = std::make_shared<Stuck>();
   bool answered = false;

@@ -64,6 +64,7 @@ room(host/dialog         platform/text platform/files platform/toolkit platform/
                          host/sheets host/panes host/fields host/general host/notes host/documents
                          host/pages)
 room(host/program        platform/text platform/files platform/qt/base platform/qt/toolkit
+                         host/support
                          host/printer host/document host/request host/preview host/task host/dialog
                          host/notes)
 room(host/impose/layout  platform/text host/support)

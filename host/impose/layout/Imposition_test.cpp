@@ -192,7 +192,7 @@ TEST(ImpositionTest, APictureKeepsItsPositionInItsCellWithoutNeed) {
   const auto second = [](const PageLook& look, const OptionList& others) {
     OptionList options = others;
     setOption(options, "number-up", "4");
-    const Matrix& matrix = sheets({picture(57, 73), look}, options)[0].pages[1].matrix;
+    const Matrix matrix = sheets({picture(57, 73), look}, options)[0].pages[1].matrix;
     return matrix.b == 0 && matrix.a > 0 ? "upright" : "turned";
   };
   EXPECT_STREQ(second(picture(73, 57), {}), "turned");
