@@ -46,7 +46,6 @@ std::set<std::string> PrinterSession::claimedKeywords() const {
 
 std::vector<std::string> PrinterSession::markAnew(const OptionList& options,
                                                   const std::vector<std::string>& unmarked) {
-  ppdMarkDefaults(file.get());
   std::vector<std::string> problems = markOptions(*file, options);
   for (const std::string& keyword : unmarked)
     if (ppd_option_t* option = ppdFindOption(file.get(), keyword.c_str())) unmark(*file, *option);

@@ -1,6 +1,7 @@
 #include "host/printer/MarkedOptions.h"
 
 #include "host/printer/CustomPaper.h"
+#include "host/printer/GivenPaper.h"
 #include "host/printer/JobSettings.h"
 #include "host/support/CupsOptions.h"
 #include "host/support/TextLists.h"
@@ -50,6 +51,12 @@ bool markValue(ppd_file_t& ppd, const ppd_option_t& option, const std::string& v
   }
   if (markChoice(&ppd, option.keyword, value)) return true;
   return option.ui == PPD_UI_PICKMANY && markEach(ppd, option, value);
+}
+
+// Where some paper cannot be had.
+std::string usedInstead(ppd_file_t& ppd) {
+  const ppd_choice_t* paper = ppdFindMarkedChoice(&ppd, kPageSizeKey);
+  return paper ? " " + quoted(paper->text) + " is used instead." : "";
 }
 
 }  // namespace
@@ -116,11 +123,13 @@ std::vector<std::string> optionsWithoutMark(const ppd_file_t& ppd) {
   return keywords;
 }
 
-std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options) {
+std::vector<std::string> markOptions(ppd_file_t& ppd, OptionList options) {
+  std::vector<std::string> problems = removeImpossiblePaper(options, ppd);
+  ppdMarkDefaults(&ppd);
   // First what the print system's general options ("media", "sides") mean on this printer.
   const CupsOptions all(options);
   cupsMarkOptions(&ppd, all.count(), all.data());
-  std::vector<std::string> problems;
+  for (std::string& paper : problems) paper += usedInstead(ppd);
   for (const auto& [name, value] : options) {
     if (isJobSetting(name)) continue;
     const ppd_option_t* option = ppdFindOption(&ppd, name.c_str());

@@ -49,9 +49,10 @@ std::string markedChoices(const ppd_option_t& option);
 // the size of custom paper is there; others are not in the marks.
 OptionList markedOptions(ppd_file_t& ppd);
 
-// Marks the choices that options name in a PPD: the start of a dialog from a command line or a
-// printer instance. One sentence for each option of the PPD whose value it does not have; options
-// that are not the PPD's, and settings of the job, are left alone.
-std::vector<std::string> markOptions(ppd_file_t& ppd, const OptionList& options);
+// Marks a PPD's defaults, and in their place the choices that options name: the start of a dialog
+// from a command line or a printer instance. One sentence for each paper that the printer has not,
+// and for each option of the PPD whose value it does not have; options that are not the PPD's, and
+// settings of the job, are left alone.
+std::vector<std::string> markOptions(ppd_file_t& ppd, OptionList options);
 
 }  // namespace tavrin
