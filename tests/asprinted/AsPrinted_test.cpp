@@ -49,6 +49,10 @@ const std::vector<Setting> kTable{
     {"fitted", {{"print-scaling", "fit"}}, {8, 1, 2}, {"picture.ppm"}},
     {"filled", {{"PageSize", "A5"}, {"print-scaling", "fill"}}},
     {"actual size", {{"PageSize", "A5"}, {"print-scaling", "none"}}},
+    {"actual size at the top left",
+     {{"print-scaling", "none"}, {"position", "top-left"}},
+     {8, 1, 2},
+     {"pages.pdf"}},
     {"half the size", {{"scaling", "50"}}},
     {"twice the size", {{"scaling", "200"}}},
     {"at the top left", {{"scaling", "50"}, {"position", "top-left"}}},
@@ -135,7 +139,6 @@ class AsPrintedTest : public EventLoopTest, public testing::WithParamInterface<s
   }
   // The job as the dialog makes it.
   Preparation preparationOf(const std::string& document, const OptionList& options) {
-    ppdMarkDefaults(ppd.get());
     markOptions(*ppd, options);
     JobRequest request;
     request.options = options;
