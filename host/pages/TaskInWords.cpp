@@ -40,8 +40,8 @@ QString paperInWords(const PPDMarks& marks) {
 // How many pages come one after the other on the sheets of one job.
 std::vector<int> pagesOfJobs(const std::vector<DocumentFacts>& documents,
                              const OptionList& options) {
-  std::vector<int> pages;
-  for (const DocumentFacts& document : documents) pages.push_back(document.pages);
+  std::vector<int> pages(documents.size());
+  std::ranges::transform(documents, pages.begin(), &DocumentFacts::pages);
   const bool areKnown = std::ranges::find(pages, 0) == pages.end();
   if (!areKnown || !goTogether(documents, options)) return pages;
   return {std::reduce(pages.begin(), pages.end())};

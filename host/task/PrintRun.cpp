@@ -38,8 +38,8 @@ void PrintRun::send(std::function<JobSequence::Order()> order) {
   onceKnown([this, order = std::move(order)] { sequence.start(order()); });
 }
 
-void PrintRun::save(std::function<Preparation()> preparation, const std::filesystem::path& file,
-                    SheetsSaver::Existing existing) {
+void PrintRun::save(const std::function<Preparation()>& preparation,
+                    const std::filesystem::path& file, SheetsSaver::Existing existing) {
   saves = true;
   onceKnown([=, this] { saver.save(preparation(), file, existing); });
 }

@@ -33,7 +33,7 @@ class PrintRun : public QObject {
   // Either is answered by one of the last five signals, and nothing else is started before. What is
   // ordered is asked for when the documents are known; somebody tells that by documentsKnown().
   void send(std::function<JobSequence::Order()> order);
-  void save(std::function<Preparation()> preparation, const std::filesystem::path& file,
+  void save(const std::function<Preparation()>& preparation, const std::filesystem::path& file,
             SheetsSaver::Existing existing);
   void documentsKnown();
   // The paper has been turned: prints its backs.
