@@ -9,8 +9,7 @@ namespace tavrin {
 class JobFields;
 
 // A pop-up of the values of a setting of the job. It shows what the field has, whoever set it, or
-// what that comes to with the other fields, and
-// passes the person's choice on to it.
+// what that comes to with the other fields, and passes the person's choice on to it.
 class FieldPopUp : public QComboBox {
   Q_OBJECT
 

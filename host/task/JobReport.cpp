@@ -38,7 +38,7 @@ JobReport reportOn(const std::string& queue, const Submission& submission) {
     remarks << tr("The printer did not get: %1. Look at the print before printing more.")
                    .arg(QString::fromStdString(joined(submission.missingOptions)));
   if (!submission.notReadBack.empty()) remarks << QString::fromStdString(submission.notReadBack);
-  const QueuedJob job{queue, submission.jobId, submission.missingOptions};
+  const QueuedJob job{queue, submission.jobId};
   return {.headline = tr("The job was sent"),
           .text = inSentences(tr("Job %1 was sent.").arg(nameOf(job)), remarks),
           .isWarning = !remarks.isEmpty(),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <vector>
 
 #include <QString>
@@ -13,7 +14,6 @@ namespace tavrin {
 struct QueuedJob {
   std::string queue;
   int id = 0;
-  std::vector<std::string> missing = {};  // options that did not arrive, "NAME=VALUE" each
 };
 
 // What became of a job that arrived, for the person who printed it.
